@@ -1,0 +1,51 @@
+# A room is one folder under src/: one library, and one QML module where it has views.
+# DEPENDS names the rooms above it, and nothing else may be included.
+
+# One precompiled header for the rooms without views, one for those with.
+function(corvane_precompiled name)
+    cmake_parse_arguments(ARG "" "" "HEADERS;LINK" ${ARGN})
+    set(stub "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+    file(CONFIGURE OUTPUT "${stub}" CONTENT "// Holds the precompiled header.\n")
+    add_library(${name} OBJECT "${stub}")
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK})
+    target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+corvane_precompiled(pch_gui LINK Qt6::Gui
+    HEADERS <QColor> <QFont> <QGuiApplication> <QObject> <QPainterPath> <QString> <QVariant> <optional> <span>)
+corvane_precompiled(pch_quick LINK Qt6::Quick
+    HEADERS <QColor> <QFont> <QGuiApplication> <QObject> <QPainterPath> <QString> <QVariant> <optional> <span>
+            <QQmlComponent> <QQmlEngine> <QQuickItem> <QQuickPaintedItem> <QQuickWindow>)
+
+# corvane_room(name SOURCES … DEPENDS … [LINK …]): a room of plain C++.
+function(corvane_room name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC Qt6::Gui ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
+    target_precompile_headers(${name} REUSE_FROM pch_gui)
+endfunction()
+
+# corvane_view_room(name URI … [SOURCES …] [QML …] [SINGLETONS …] DEPENDS … [LINK …]): a room with a QML module.
+function(corvane_view_room name)
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;SINGLETONS;DEPENDS;LINK" ${ARGN})
+    set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    qt_add_library(${name} STATIC)
+    qt_add_qml_module(${name}
+        URI ${ARG_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        SOURCES ${ARG_SOURCES}
+        QML_FILES ${ARG_QML} ${ARG_SINGLETONS})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
+    target_precompile_headers(${name} REUSE_FROM pch_quick)
+endfunction()
+
+# corvane_use_views(target room …): links rooms with views into a program, their QML plugins included.
+function(corvane_use_views target)
+    foreach(room IN LISTS ARGN)
+        target_link_libraries(${target} PRIVATE ${room} ${room}plugin)
+    endforeach()
+endfunction()

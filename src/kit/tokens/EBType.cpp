@@ -1,0 +1,116 @@
+#include "EBType.h"
+
+#include "EBKitFonts.h"
+
+#include <QGuiApplication>
+
+namespace {
+
+enum class Face { Display, Mono, System };
+
+struct Role {
+    const char *name;
+    Face face;
+    int size;
+    QFont::Weight weight;
+    qreal tracking;
+};
+
+constexpr std::array roles = {
+    Role{"hero", Face::Display, 160, QFont::DemiBold, -9.6},
+    Role{"display", Face::Display, 44, QFont::DemiBold, -1.54},
+    Role{"title", Face::Display, 34, QFont::DemiBold, -1.19},
+    Role{"heading", Face::Display, 27, QFont::DemiBold, -0.81},
+    Role{"subheading", Face::Display, 22, QFont::DemiBold, -0.55},
+    Role{"lead", Face::System, 15, QFont::DemiBold, 0},
+    Role{"body", Face::System, 13, QFont::Normal, 0},
+    Role{"bodyStrong", Face::System, 13, QFont::DemiBold, 0},
+    Role{"small", Face::System, 12, QFont::Normal, 0},
+    Role{"caption", Face::System, 11, QFont::Normal, 0},
+    Role{"mono", Face::Mono, 10, QFont::Medium, 1.4},
+    Role{"monoSmall", Face::Mono, 9, QFont::Medium, 1.26},
+};
+static_assert(roles.size() == EBTypes::allCases.size());
+
+const Role &entry(EBTypeRole role)
+{
+    return roles[static_cast<std::size_t>(role)];
+}
+
+/// What a desktop says when it leaves the choice of the face to the font configuration.
+bool isGeneric(const QString &family)
+{
+    static const QStringList generic = {QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
+                                        QStringLiteral("Sans-Serif"), QStringLiteral("sans")};
+    return family.isEmpty() || generic.contains(family, Qt::CaseInsensitive);
+}
+
+QStringList systemFamilies()
+{
+    QStringList families = QGuiApplication::font().families();
+    if (families.isEmpty() || isGeneric(families.constFirst()))
+        families.prepend(QStringLiteral("Inter"));
+    return families;
+}
+
+QFont faceFont(Face face)
+{
+    switch (face) {
+    case Face::Display:
+        return EBKitFonts::face(EBKitFonts::display);
+    case Face::Mono:
+        return EBKitFonts::face(EBKitFonts::mono);
+    case Face::System:
+        break;
+    }
+    QFont font;
+    font.setFamilies(systemFamilies());
+    return font;
+}
+
+}
+
+std::optional<EBTypeRole> EBTypes::fromRawValue(QStringView rawValue)
+{
+    for (const EBTypeRole role : allCases) {
+        if (rawValue == QLatin1String(entry(role).name))
+            return role;
+    }
+    return std::nullopt;
+}
+
+QFont EBTypes::font(EBTypeRole role)
+{
+    const Role &values = entry(role);
+    QFont font = faceFont(values.face);
+    font.setPixelSize(values.size);
+    font.setWeight(values.weight);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, values.tracking);
+    return font;
+}
+
+qreal EBTypes::tracking(int role)
+{
+    return role >= 0 && role < int(roles.size()) ? roles[std::size_t(role)].tracking : 0;
+}
+
+QFont EBTypes::systemFont(qreal size, QFont::Weight weight)
+{
+    QFont font = faceFont(Face::System);
+    font.setPixelSize(qRound(size));
+    font.setWeight(weight);
+    return font;
+}
+
+QFont EBType::font(const QString &role, int weight, qreal size) const
+{
+    const EBTypeRole parsed = EBTypes::fromRawValue(role).value_or(EBTypeRole::body);
+    QFont font = EBTypes::font(parsed);
+    if (weight > 0)
+        font.setWeight(QFont::Weight(weight));
+    if (size > 0) {
+        font.setLetterSpacing(QFont::AbsoluteSpacing, font.letterSpacing() * size / font.pixelSize());
+        font.setPixelSize(qRound(size));
+    }
+    return font;
+}

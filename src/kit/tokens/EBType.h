@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QFont>
+#include <QObject>
+#include <QString>
+#include <qqmlregistration.h>
+
+#include <array>
+#include <optional>
+
+/// The twelve type roles. The first five and the last two are set in the kit's own faces, the others in the
+/// desktop's general font.
+enum class EBTypeRole {
+    hero, display, title, heading, subheading, lead, body, bodyStrong, small, caption, mono, monoSmall
+};
+
+namespace EBTypes {
+
+inline constexpr std::array allCases = {
+    EBTypeRole::hero, EBTypeRole::display,    EBTypeRole::title, EBTypeRole::heading,
+    EBTypeRole::subheading, EBTypeRole::lead, EBTypeRole::body,  EBTypeRole::bodyStrong,
+    EBTypeRole::small, EBTypeRole::caption,   EBTypeRole::mono,  EBTypeRole::monoSmall};
+
+std::optional<EBTypeRole> fromRawValue(QStringView rawValue);
+
+/// The role's face, size (points, set as pixels) and weight, tracking included.
+QFont font(EBTypeRole role);
+
+/// Extra space after each letter in points; 0 for a number that is no role.
+qreal tracking(int role);
+
+/// The desktop's general font; Inter, where it is installed, for a desktop that names only a generic family.
+QFont systemFont(qreal size, QFont::Weight weight = QFont::Normal);
+
+}
+
+/// The type roles for QML, by their names: `EBType.font("body")`. An unknown name reads as "body".
+class EBType : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+public:
+    /// A weight of 0 keeps the role's own; a size of 0 too. The tracking grows with the size.
+    Q_INVOKABLE QFont font(const QString &role, int weight = 0, qreal size = 0) const;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+#include <optional>
+
+enum class AppearanceName { Aqua, DarkAqua, AccessibilityHighContrastAqua, AccessibilityHighContrastDarkAqua };
+
+/// How the desktop wants to be drawn. What the desktop does not say counts as no preference.
+class Appearance : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    /// The best match among the four names; none when the desktop's appearance matches none of them.
+    virtual std::optional<AppearanceName> bestMatch() const = 0;
+
+    /// The person asked for less motion.
+    virtual bool shouldReduceMotion() const = 0;
+
+signals:
+    void changed();
+};

@@ -1,0 +1,7 @@
+#include "NotificationCenter.h"
+
+NotificationCenter &NotificationCenter::defaultCenter()
+{
+    static NotificationCenter center;
+    return center;
+}

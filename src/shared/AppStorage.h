@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlParserStatus>
+#include <QVariant>
+#include <qqmlregistration.h>
+
+class UserDefaults;
+
+/// One key of the shared store as a bindable value. It follows changes made by any process, and writing it stores.
+///
+/// `defaultValue` is what an absent key reads as, and its type is the type the key has: a stored value of another
+/// type reads as the default and is left as it is. Unset, it is the default the key table declares.
+class AppStorage : public QObject, public QQmlParserStatus {
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    QML_ELEMENT
+    Q_PROPERTY(QString key READ key WRITE setKey NOTIFY keyChanged REQUIRED)
+    Q_PROPERTY(QVariant defaultValue READ defaultValue WRITE setDefaultValue NOTIFY defaultValueChanged)
+    Q_PROPERTY(QVariant value READ value WRITE setValue NOTIFY valueChanged)
+public:
+    explicit AppStorage(QObject *parent = nullptr);
+
+    QString key() const { return m_key; }
+    void setKey(const QString &key);
+    QVariant defaultValue() const { return m_default; }
+    void setDefaultValue(const QVariant &value);
+    QVariant value() const { return m_value; }
+    void setValue(const QVariant &value);
+
+    void classBegin() override { m_complete = false; }
+    void componentComplete() override;
+
+signals:
+    void keyChanged();
+    void defaultValueChanged();
+    void valueChanged();
+
+private:
+    void reread();
+
+    UserDefaults &m_store;
+    QString m_key;
+    QVariant m_default;
+    QVariant m_value;
+    bool m_defaultIsSet = false;
+    bool m_complete = true;
+};
