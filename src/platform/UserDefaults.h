@@ -16,6 +16,7 @@ public:
 
     /// Stores `value` before it returns, so that a command posted next announces what is already there.
     /// Where nothing can be stored the value is kept in memory for as long as the process runs.
+    /// A whole number is stored as a double, an invalid value removes the key, and one of any other type is ignored.
     virtual void setValue(const QString &key, const QVariant &value) = 0;
 
 signals:

@@ -1,7 +1,5 @@
 #include "ContinuousRect.h"
 
-#include <QLineF>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,29 +7,33 @@
 
 namespace {
 
-// How far each ramp may turn before the arc takes over. Two ramps of a fifth of a half turn leave a short arc between
-// them: softer corners than this begin to look like a larger radius.
-constexpr qreal widestRamp = 0.2 * std::numbers::pi;
+// How far each ramp turns, in radians, before the arc takes over. With ramps much wider than this the corner
+// begins to look like one of a larger radius.
+constexpr qreal widestRamp = 0.5;
+
+// The length of a ramp's first two legs over that of its last. Equally long legs would let the curvature
+// overshoot on a wide ramp; these let it only grow.
+constexpr qreal lead = 1.2;
 
 // Half of one corner of radius 1, seen from its vertex: x runs back along the side, y into the rectangle.
-// The ramp is a cubic that leaves the side without curvature and meets the arc with the arc's own curvature; its
-// three legs are equally long, which makes its curvature grow evenly, as along a clothoid.
+// The ramp is a cubic that leaves the side without curvature and meets the arc with the arc's own curvature.
 struct Corner {
     explicit Corner(qreal ramp)
     {
         const qreal sine = std::sin(ramp);
         const qreal cosine = std::cos(ramp);
-        const qreal drop = 2.0 / 3.0 * sine * sine + cosine;
+        const qreal drop = 2.0 / 3.0 * lead * sine * sine + cosine;
         // The arc shrinks a little, so that the corner's middle stays where a circular corner has it.
         const qreal arcRadius = (std::numbers::sqrt2 - 1) / (std::numbers::sqrt2 * drop - 1);
-        const qreal leg = 2.0 / 3.0 * sine * arcRadius;
+        const qreal leg = 2.0 / 3.0 * lead * sine * arcRadius;
         const qreal sweep = std::numbers::pi / 2 - 2 * ramp;
         const qreal handle = 4.0 / 3.0 * std::tan(sweep / 4) * arcRadius;
 
-        const QPointF arcStart(drop * arcRadius + sine * -arcRadius, leg * sine);
+        const QPointF arcStart((drop - sine) * arcRadius, leg * sine);
         const QPointF forward(-cosine, sine);
-        start = QPointF(arcStart.x() + leg * (2 + cosine), 0);
-        points = {start - QPointF(leg, 0), start - QPointF(2 * leg, 0), arcStart, arcStart + handle * forward};
+        start = QPointF(arcStart.x() + leg * (2 * lead + cosine), 0);
+        points = {start - QPointF(lead * leg, 0), start - QPointF(2 * lead * leg, 0), arcStart,
+                  arcStart + handle * forward};
     }
 
     QPointF start;
@@ -64,13 +66,13 @@ QPainterPath continuousRect(const QRectF &rect, qreal radius)
 
     QPainterPath path;
     const qreal halfSide = std::min(rect.width(), rect.height()) / 2;
-    const qreal reach = std::isnan(radius) ? 0 : std::clamp(radius, 0.0, halfSide);
-    if (reach <= 0) {
+    const qreal cornerRadius = std::isnan(radius) ? 0 : std::clamp(radius, 0.0, halfSide);
+    if (cornerRadius <= 0) {
         path.addRect(rect);
         return path;
     }
 
-    const Corner corner(rampWithin(halfSide / reach));
+    const Corner corner(rampWithin(halfSide / cornerRadius));
     const auto &[control1, control2, arcStart, arcControl] = corner.points;
 
     // Clockwise from the end of the top side. Each corner comes in along one side and leaves along the next.
@@ -79,10 +81,11 @@ QPainterPath continuousRect(const QRectF &rect, qreal radius)
         QPointF back;
         QPointF onward;
     };
-    const QPointF right(reach, 0);
-    const QPointF down(0, reach);
-    const std::array vertices = {Vertex {rect.topRight(), -right, down}, Vertex {rect.bottomRight(), -down, -right},
-                                 Vertex {rect.bottomLeft(), right, -down}, Vertex {rect.topLeft(), down, right}};
+    const QPointF right(cornerRadius, 0);
+    const QPointF down(0, cornerRadius);
+    const std::array vertices = {
+        Vertex{rect.topRight(), -right, down}, Vertex{rect.bottomRight(), -down, -right},
+        Vertex{rect.bottomLeft(), right, -down}, Vertex{rect.topLeft(), down, right}};
     for (const Vertex &vertex : vertices) {
         const auto in = [&](QPointF p) { return vertex.at + p.x() * vertex.back + p.y() * vertex.onward; };
         const auto out = [&](QPointF p) { return vertex.at + p.y() * vertex.back + p.x() * vertex.onward; };

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <sys/types.h>
+
+/// A program under measurement. Ended when this goes out of scope.
+class Process {
+public:
+    /// Starts `program` at once, without output.
+    explicit Process(const QString &program, const QStringList &arguments = {});
+    ~Process();
+    Process(const Process &) = delete;
+    Process &operator=(const Process &) = delete;
+
+    /// Proportional set size in MiB; 0 once the process has ended.
+    double memory() const;
+
+    /// What the process did since it started, all threads together.
+    struct Activity {
+        long wakeups = 0;
+        /// Processor time in milliseconds.
+        double processor = 0;
+    };
+    Activity activity() const;
+
+private:
+    pid_t m_pid = -1;
+};

@@ -1,0 +1,141 @@
+#include "Process.h"
+#include "Screen.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QTextStream>
+
+#include <algorithm>
+#include <thread>
+
+using namespace std::chrono;
+
+namespace {
+
+constexpr QRgb paper = qRgb(0xF7, 0xF6, 0xF2);
+/// Near the window's upper edge, where neither program draws anything but the background.
+constexpr int probe = 190;
+constexpr int runs = 15;
+
+QTextStream out(stdout);
+
+double milliseconds(Screen::Clock::duration time)
+{
+    return duration_cast<duration<double, std::milli>>(time).count();
+}
+
+double median(QList<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+/// Time from starting the program to its first painted frame on the screen.
+double firstFrame(Screen &screen, const QString &program)
+{
+    screen.waitUntilEmpty();
+    screen.settle();
+    const auto start = Screen::Clock::now();
+    const Process process(program);
+    const auto painted = screen.waitForColor(paper, probe, seconds(20));
+    if (!painted)
+        qFatal("%s painted no window in time", qPrintable(program));
+    return milliseconds(*painted - start);
+}
+
+void compare(const char *figure, const char *unit, double floor, double application, double target)
+{
+    out << QStringLiteral("%1  floor %2 %5  application %3 %5  ratio %4  target %6\n")
+               .arg(QLatin1String(figure), -20)
+               .arg(floor, 0, 'f', 1)
+               .arg(application, 0, 'f', 1)
+               .arg(application / floor, 0, 'f', 2)
+               .arg(QLatin1String(unit))
+               .arg(target, 0, 'f', 2);
+    out.flush();
+}
+
+void measureStart(Screen &screen, const QString &floor, const QString &application)
+{
+    firstFrame(screen, floor);
+    firstFrame(screen, application);
+    QList<double> floors, applications;
+    for (int run = 0; run < runs; ++run) {
+        floors.append(firstFrame(screen, floor));
+        applications.append(firstFrame(screen, application));
+    }
+    compare("first painted frame", "ms", median(floors), median(applications), 1.15);
+}
+
+struct Settled {
+    double memory;
+    Process::Activity idle;
+};
+
+/// Memory once the program has come to rest, and what it does in the ten seconds after.
+Settled rest(Screen &screen, const QString &program)
+{
+    screen.waitUntilEmpty();
+    screen.settle();
+    const Process process(program);
+    screen.waitForColor(paper, probe, seconds(20));
+    std::this_thread::sleep_for(seconds(3));
+    const double memory = process.memory();
+    const Process::Activity before = process.activity();
+    std::this_thread::sleep_for(seconds(10));
+    const Process::Activity after = process.activity();
+    return {memory, {after.wakeups - before.wakeups, after.processor - before.processor}};
+}
+
+void measureRest(Screen &screen, const QString &floor, const QString &application)
+{
+    const Settled least = rest(screen, floor);
+    const Settled ours = rest(screen, application);
+    compare("memory when settled", "MiB", least.memory, ours.memory, 1.3);
+    out << "idle for 10 s         floor " << least.idle.wakeups << " wake-ups, " << least.idle.processor
+        << " ms  application " << ours.idle.wakeups << " wake-ups, " << ours.idle.processor
+        << " ms  target 0\n";
+    out.flush();
+}
+
+/// Time from the write of another process to the pixels that show it. The write itself takes part of that
+/// time.
+void measureStoreChange(Screen &screen, const QString &application)
+{
+    screen.waitUntilEmpty();
+    const Process process(application);
+    screen.waitForColor(paper, probe, seconds(20));
+    std::this_thread::sleep_for(seconds(1));
+    QList<double> times;
+    for (int run = 0; run < runs; ++run) {
+        screen.settle();
+        const QString value = run % 2 ? QStringLiteral("false") : QStringLiteral("true");
+        const auto start = Screen::Clock::now();
+        const Process writer(QStringLiteral("/usr/bin/dconf"),
+                             {QStringLiteral("write"),
+                              QStringLiteral("/com/vexmoor/corvane/agent.accessibilityTrusted"), value});
+        const auto painted = screen.waitForPaint(seconds(5));
+        if (!painted)
+            qFatal("a change of the store was never painted");
+        times.append(milliseconds(*painted - start));
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    }
+    out << QStringLiteral("store change to pixels  %1 ms, the other process's start and write included\n")
+               .arg(median(times), 0, 'f', 1);
+    out.flush();
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList programs = QCoreApplication::arguments().mid(1);
+    if (programs.size() != 2)
+        qFatal("usage: corvane-bench-startup EMPTY-WINDOW APPLICATION");
+    Screen screen;
+    measureStart(screen, programs.at(0), programs.at(1));
+    measureRest(screen, programs.at(0), programs.at(1));
+    measureStoreChange(screen, programs.at(1));
+    return 0;
+}

@@ -1,0 +1,30 @@
+#include "AgentBundle.h"
+
+#include "Platform.h"
+
+namespace {
+
+constexpr qsizetype publicKeyLength = 44;
+
+/// The URL without its last path component.
+QUrl parent(const QUrl &url)
+{
+    return url.adjusted(QUrl::StripTrailingSlash).adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
+}
+
+}
+
+std::unique_ptr<Bundle> AgentBundle::bundle()
+{
+    const QUrl own = Platform::current().mainBundle().bundleURL();
+    if (!own.path().contains(QStringLiteral("/Contents/Helpers/")))
+        return nullptr;
+    // This application's folder, then "Helpers", then "Contents".
+    return Platform::current().bundle(parent(parent(parent(own))));
+}
+
+bool AgentBundle::updatesAvailable()
+{
+    const auto agent = bundle();
+    return agent && agent->string(QStringLiteral("SUPublicEDKey")).size() == publicKeyLength;
+}

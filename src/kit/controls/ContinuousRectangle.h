@@ -1,0 +1,54 @@
+#pragma once
+
+#include "CrispItem.h"
+
+#include <QColor>
+#include <QPainterPath>
+
+/// A rectangle with continuous corners that fills the item: card, well, capsule or circle.
+/// A point in a cut-off corner is outside the item, also for the pointer.
+class ContinuousRectangle : public CrispItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+    Q_PROPERTY(QColor strokeColor READ strokeColor WRITE setStrokeColor NOTIFY changed)
+    /// Points, drawn inside the edge; 0 draws none.
+    Q_PROPERTY(qreal strokeWidth READ strokeWidth WRITE setStrokeWidth NOTIFY changed)
+    /// Points; half the short side and beyond gives true half circles, and that is what it starts with.
+    Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY changed)
+public:
+    using CrispItem::CrispItem;
+
+    QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+    QColor strokeColor() const { return m_strokeColor; }
+    void setStrokeColor(const QColor &color);
+    qreal strokeWidth() const { return m_strokeWidth; }
+    void setStrokeWidth(qreal width);
+    qreal radius() const { return m_radius; }
+    void setRadius(qreal radius);
+
+    bool contains(const QPointF &point) const override;
+
+signals:
+    void changed();
+
+protected:
+    void paint(QPainter *painter) override;
+
+private:
+    template <typename Value> void set(Value &member, const Value &value);
+
+    QColor m_color = Qt::transparent;
+    QColor m_strokeColor = Qt::transparent;
+    qreal m_strokeWidth = 0;
+    qreal m_radius = std::numeric_limits<qreal>::infinity();
+};
+
+/// Fills `bounds` and strokes it inside its edge.
+void paintContinuousRect(QPainter *painter, const QRectF &bounds, qreal radius, const QColor &fill,
+                         const QColor &stroke = Qt::transparent, qreal strokeWidth = 0);
+
+/// A capsule of the kit: the ends are half circles, and a border is one point wide.
+void paintCapsule(QPainter *painter, const QRectF &bounds, const QColor &fill,
+                  const QColor &border = Qt::transparent);

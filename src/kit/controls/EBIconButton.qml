@@ -1,0 +1,37 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Glyphs
+import Embera.Controls
+
+/// A round button that shows only a glyph.
+Pressable {
+    id: control
+
+    /// A glyph's raw string.
+    required property string glyph
+    /// The name for accessibility.
+    required property string label
+    /// The side of its square, in points.
+    property real size: 28
+
+    text: label
+    implicitWidth: size
+    implicitHeight: size
+    opacity: enabled ? 1 : 0.4
+    containmentMask: circle
+
+    background: ContinuousRectangle {
+        id: circle
+
+        color: control.hovered ? EB.chip : "transparent"
+
+        FocusRing {
+            control: control
+        }
+    }
+    contentItem: Glyph {
+        name: control.glyph
+        size: control.size * 0.58
+        color: EB.inkMuted
+    }
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Controls
+
+/// An on/off switch. It shows `isOn`, which it never sets itself; a click emits `flipped(isOn)` with the new value.
+ControlledToggle {
+    id: control
+
+    /// The name for accessibility; it is not drawn.
+    property string label
+
+    text: label
+    implicitWidth: face.implicitWidth
+    implicitHeight: face.implicitHeight
+    opacity: enabled ? 1 : 0.4
+
+    contentItem: SwitchFace {
+        id: face
+
+        position: control.isOn ? 1 : 0
+        mirrored: control.mirrored
+        offColor: EB.track
+        onColor: EBEnvironment.accent
+        knobColor: EB.knob
+        knobBorderColor: EB.lineStrong
+
+        Behavior on position {
+            enabled: control.isFlipping
+
+            NumberAnimation {
+                duration: control.isFlipping ? Motion.duration(0.15) : 0
+                easing: Motion.easeOut
+            }
+        }
+        FocusRing {
+            control: control
+        }
+    }
+}

@@ -1,0 +1,49 @@
+#include "SwitchFace.h"
+
+#include "ContinuousRectangle.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSizeF trackSize(36, 22);
+constexpr QSizeF knobSize(24, 18);
+constexpr qreal inset = 2;
+
+float mixed(float from, float to, float share)
+{
+    return from + (to - from) * share;
+}
+
+// Mixed with premultiplied components: a faint colour must not tint the strong one on the way.
+QColor mixed(const QColor &from, const QColor &to, qreal position)
+{
+    const float share = float(position);
+    const float alpha = mixed(from.alphaF(), to.alphaF(), share);
+    if (alpha <= 0)
+        return Qt::transparent;
+    const auto component = [&](float a, float b) {
+        return std::clamp(mixed(a * from.alphaF(), b * to.alphaF(), share) / alpha, 0.0F, 1.0F);
+    };
+    return QColor::fromRgbF(component(from.redF(), to.redF()), component(from.greenF(), to.greenF()),
+                            component(from.blueF(), to.blueF()), alpha);
+}
+
+}
+
+SwitchFace::SwitchFace(QQuickItem *parent) : CrispItem(parent)
+{
+    setImplicitSize(trackSize.width(), trackSize.height());
+}
+
+void SwitchFace::paint(QPainter *painter)
+{
+    const qreal position = std::clamp(m_position, 0.0, 1.0);
+    paintCapsule(painter, QRectF(QPointF(), trackSize), mixed(m_offColor, m_onColor, position));
+
+    const qreal travel = trackSize.width() - knobSize.width() - 2 * inset;
+    const qreal x = inset + travel * (m_mirrored ? 1 - position : position);
+    QColor border = m_knobBorderColor;
+    border.setAlphaF(float(border.alphaF() * (1 - position)));
+    paintCapsule(painter, QRectF(QPointF(x, inset), knobSize), m_knobColor, border);
+}

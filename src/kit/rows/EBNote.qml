@@ -1,0 +1,12 @@
+import QtQuick
+import Embera.Tokens
+
+/// A muted remark below a group. It wraps.
+EBText {
+    role: "caption"
+    color: EB.inkMuted
+    wrapMode: Text.Wrap
+    leftPadding: 16
+    rightPadding: 16
+    width: parent?.width ?? implicitWidth
+}

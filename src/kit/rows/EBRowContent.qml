@@ -1,0 +1,74 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Rows
+
+/// What stands in a row: a disc, a title with an optional detail below it, and whatever is put into the row at its
+/// trailing edge. Both texts wrap, and the row grows with them. Several trailing items are 12 points apart.
+Item {
+    id: row
+
+    /// A glyph's raw string; without one there is no disc.
+    property string glyph
+    property string title
+    property string detail
+    property real minHeight: 0
+    default property alias trailing: trailingRow.data
+    /// Everything in the row's width that is not text.
+    readonly property real edges: 2 * 16 + (disc.visible ? disc.width + 12 : 0)
+        + (trailingRow.width > 0 ? trailingRow.width + 12 : 0)
+
+    implicitWidth: edges + Math.max(titleText.implicitWidth, detailText.implicitWidth)
+    implicitHeight: Math.max(minHeight, content.implicitHeight + 2 * 6)
+    width: parent?.width ?? implicitWidth
+
+    Row {
+        id: content
+
+        anchors {
+            left: parent.left
+            leftMargin: 16
+            verticalCenter: parent.verticalCenter
+        }
+        spacing: 12
+
+        EBDisc {
+            id: disc
+
+            anchors.verticalCenter: parent.verticalCenter
+            glyph: row.glyph
+            visible: row.glyph !== ""
+        }
+        Column {
+            id: column
+
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.max(0, row.width - row.edges)
+            spacing: 1
+
+            EBText {
+                id: titleText
+
+                width: parent.width
+                text: row.title
+                role: "bodyStrong"
+                wrapMode: Text.Wrap
+            }
+            EBText {
+                id: detailText
+
+                width: parent.width
+                text: row.detail
+                role: "caption"
+                color: EB.inkMuted
+                wrapMode: Text.Wrap
+                visible: text !== ""
+            }
+        }
+        Row {
+            id: trailingRow
+
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 12
+        }
+    }
+}

@@ -1,0 +1,24 @@
+import QtQuick
+import Embera.Tokens
+
+/// A hairline across the card.
+Item {
+    id: rule
+
+    /// How far the line stays away from the leading edge, in points.
+    property real inset: 0
+
+    implicitHeight: 1
+    width: parent?.width ?? implicitWidth
+
+    Rectangle {
+        anchors {
+            left: parent.left
+            leftMargin: rule.inset
+            right: parent.right
+            top: parent.top
+            bottom: parent.bottom
+        }
+        color: EB.line
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QQuickItem>
+
+class QPainter;
+
+/// An item that draws itself with a painter and lands on whole device pixels at every scale.
+///
+/// Its picture is as many pixels as the item covers and is shown unscaled: a painted item of Qt Quick rounds
+/// its size to whole points, which stretches an odd size at a scale of 1.5. It is drawn anew only when the
+/// size, the scale or something the subclass announces with update() changes.
+class CrispItem : public QQuickItem {
+    Q_OBJECT
+    QML_ANONYMOUS
+public:
+    explicit CrispItem(QQuickItem *parent = nullptr);
+
+protected:
+    /// Draws in points, the item's top left corner at the origin, antialiased, on a transparent ground.
+    virtual void paint(QPainter *painter) = 0;
+
+    /// The item's rectangle with its far edges moved to the nearest device pixel, for shapes that fill the
+    /// item.
+    QRectF pixelBounds() const;
+
+    /// How far the picture reaches beyond the item on every side, in points; 0 to begin with.
+    void setBleed(qreal bleed);
+
+    QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *) override;
+    void geometryChange(const QRectF &now, const QRectF &before) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+
+    /// Stores a property's value; true when it differed, and then the item will be drawn anew.
+    template <typename Value> bool assign(Value &member, const Value &value)
+    {
+        if (member == value)
+            return false;
+        member = value;
+        update();
+        return true;
+    }
+
+private:
+    qreal scaleFactor() const;
+
+    qreal m_bleed = 0;
+};

@@ -1,0 +1,101 @@
+#include "Motion.h"
+
+#include "Platform.h"
+
+#include <QPointF>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+struct Oscillator {
+    qreal frequency;
+    qreal damping;
+
+    struct State {
+        qreal position;
+        qreal velocity;
+    };
+
+    // The distance still to go and its derivative solve d'' + 2 ζω d' + ω² d = 0 from d = 1, d' = 0.
+    State at(qreal time) const
+    {
+        const qreal decay = damping * frequency;
+        const qreal fade = std::exp(-decay * time);
+        const qreal square = frequency * frequency * (1 - damping * damping);
+        if (std::abs(square) < 1e-9 * frequency * frequency)
+            return {1 - fade * (1 + decay * time), fade * decay * decay * time};
+        if (square > 0) {
+            const qreal swing = std::sqrt(square);
+            const qreal sine = std::sin(swing * time);
+            return {1 - fade * (std::cos(swing * time) + decay / swing * sine),
+                    fade * frequency * frequency / swing * sine};
+        }
+        // Written with the two decay rates: the hyperbolic functions would overflow late in the course.
+        const qreal spread = std::sqrt(-square);
+        const qreal slow = std::exp((spread - decay) * time);
+        const qreal fast = std::exp((-spread - decay) * time);
+        return {1 - ((slow + fast) + decay / spread * (slow - fast)) / 2,
+                frequency * frequency / spread * (slow - fast) / 2};
+    }
+
+    // When the largest distance that can still occur falls below a thousandth.
+    qreal settling() const
+    {
+        constexpr qreal rest = 0.001;
+        if (damping < 1)
+            return std::log(1 / (rest * std::sqrt(1 - damping * damping))) / (damping * frequency);
+        qreal late = 1 / frequency;
+        while (1 - at(late).position > rest)
+            late *= 1.05;
+        return late;
+    }
+};
+
+// A cubic through both ends with the right slopes follows the oscillator to a ten-thousandth over 0.6
+// radians.
+QEasingCurve sampled(const Oscillator &oscillator, qreal seconds)
+{
+    const int pieces = std::max(4, int(std::ceil(oscillator.frequency * seconds / 0.6)));
+    const qreal step = 1.0 / pieces;
+    QEasingCurve curve(QEasingCurve::BezierSpline);
+    Oscillator::State from = oscillator.at(0);
+    for (int piece = 1; piece <= pieces; ++piece) {
+        const bool last = piece == pieces;
+        const Oscillator::State to = last ? Oscillator::State{1, 0} : oscillator.at(piece * step * seconds);
+        const qreal third = step * seconds / 3;
+        const qreal start = (piece - 1) * step;
+        curve.addCubicBezierSegment(QPointF(start + step / 3, from.position + from.velocity * third),
+                                    QPointF(start + 2 * step / 3, to.position - to.velocity * third),
+                                    QPointF(last ? 1 : piece * step, to.position));
+        from = to;
+    }
+    return curve;
+}
+
+}
+
+int Motion::duration(qreal seconds)
+{
+    if (!(seconds > 0) || !std::isfinite(seconds) || Platform::current().appearance().shouldReduceMotion())
+        return 0;
+    return qRound(seconds * 1000);
+}
+
+QEasingCurve Motion::easeOut()
+{
+    QEasingCurve curve(QEasingCurve::BezierSpline);
+    curve.addCubicBezierSegment(QPointF(0, 0), QPointF(0.58, 1), QPointF(1, 1));
+    return curve;
+}
+
+MotionSpring Motion::spring(qreal response, qreal dampingFraction)
+{
+    if (!(response > 0) || !std::isfinite(response) || std::isnan(dampingFraction))
+        return {};
+    const Oscillator oscillator{2 * std::numbers::pi / response, std::clamp(dampingFraction, 0.05, 4.0)};
+    const qreal seconds = oscillator.settling();
+    return {sampled(oscillator, seconds), seconds};
+}

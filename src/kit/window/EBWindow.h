@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QQuickWindow>
+#include <qqmlregistration.h>
+
+/// A window of the kit: frameless, of fixed size, with a transparent title bar over its content. The kit
+/// draws the close, miniaturise and zoom buttons at the top and moves the window by its title-bar strip.
+class EBWindow : public QQuickWindow {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("A window is made in C++, where its owner is")
+    Q_PROPERTY(bool miniaturizeButtonEnabled READ miniaturizeButtonEnabled CONSTANT)
+    Q_PROPERTY(bool zoomButtonEnabled READ zoomButtonEnabled CONSTANT)
+public:
+    struct Style {
+        bool miniaturizeButtonEnabled = false;
+        bool zoomButtonEnabled = false;
+        /// Any place that takes no clicks of its own moves the window, not only the title-bar strip.
+        bool movableByWindowBackground = false;
+    };
+
+    /// `contentSize` in points; the person cannot change it.
+    EBWindow(QSize contentSize, Style style);
+
+    /// Puts `view` into the window and keeps it as large as the window, under the title bar too. The view
+    /// never drives the window's size. The window takes ownership.
+    void host(QQuickItem *view);
+
+    /// Places the window in the middle of its screen.
+    void center();
+
+    /// Moves and resizes at once.
+    void setFrame(const QRect &frame);
+
+    bool miniaturizeButtonEnabled() const { return m_style.miniaturizeButtonEnabled; }
+    bool zoomButtonEnabled() const { return m_style.zoomButtonEnabled; }
+
+    /// Shows the window in front of the others with the keyboard focus.
+    void makeKeyAndOrderFront();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void addChrome(QQmlEngine *engine);
+
+    Style m_style;
+};

@@ -1,0 +1,22 @@
+#include "ViewEngine.h"
+
+#include <QCoreApplication>
+#include <QQmlComponent>
+#include <QQuickItem>
+
+ViewEngine::ViewEngine()
+{
+    // Alone in front: looking for our modules in the folders of the system first costs part of the start-up.
+    setImportPathList(QStringList{QStringLiteral("qrc:/qt/qml")} + importPathList());
+    connect(this, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
+}
+
+QQuickItem *ViewEngine::makeItem(QQmlEngine &engine, const QString &url, const QVariantMap &properties,
+                                 const QMetaObject &type)
+{
+    QQmlComponent component(&engine, QUrl(url));
+    auto *view = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
+    if (!type.cast(view))
+        qFatal("%s", qPrintable(component.errorString()));
+    return qobject_cast<QQuickItem *>(view);
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QUrl>
+#include <QVariantMap>
+
+class QQuickItem;
+
+/// The engine behind a process's windows. It finds the modules that are built into the program.
+class ViewEngine : public QQmlEngine {
+    Q_OBJECT
+public:
+    ViewEngine();
+
+    /// A new view, which the caller owns. A view that cannot be made is a programming error and ends the
+    /// process.
+    template <typename View = QQuickItem>
+    static View *make(QQmlEngine &engine, const QString &url, const QVariantMap &properties = {})
+    {
+        return static_cast<View *>(makeItem(engine, url, properties, View::staticMetaObject));
+    }
+
+private:
+    static QQuickItem *makeItem(QQmlEngine &engine, const QString &url, const QVariantMap &properties,
+                                const QMetaObject &type);
+};

@@ -1,0 +1,47 @@
+import QtQuick
+import Embera.Window
+
+/// What a window of the kit has over its content: the three buttons and its shortcuts.
+Item {
+    id: chrome
+
+    required property EBWindow window
+
+    anchors.fill: parent
+    z: 1
+
+    Shortcut {
+        sequences: [StandardKey.Close]
+        onActivated: chrome.window.close()
+    }
+    Shortcut {
+        sequences: [StandardKey.Quit]
+        onActivated: Qt.quit()
+    }
+    Row {
+        anchors {
+            left: parent.left
+            top: parent.top
+            leftMargin: 22
+            topMargin: 20
+        }
+        spacing: 8
+
+        WindowButton {
+            text: qsTr("Close")
+            glyph: "close"
+            onClicked: chrome.window.close()
+        }
+        WindowButton {
+            text: qsTr("Minimize")
+            glyph: "minus"
+            enabled: chrome.window.miniaturizeButtonEnabled
+            onClicked: chrome.window.showMinimized()
+        }
+        WindowButton {
+            text: qsTr("Zoom")
+            glyph: "plus"
+            enabled: chrome.window.zoomButtonEnabled
+        }
+    }
+}

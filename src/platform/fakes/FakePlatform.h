@@ -1,0 +1,43 @@
+#pragma once
+
+#include "FakeAppearance.h"
+#include "FakeBundle.h"
+#include "FakeDistributedNotificationCenter.h"
+#include "FakeUserDefaults.h"
+#include "FakeWorkspace.h"
+#include "Platform.h"
+
+#include <map>
+
+/// A desktop in memory, whose services are public members to look at and to set.
+class FakePlatform : public Platform {
+public:
+    /// Makes a new one the current platform and returns it. What the one before held is gone.
+    static FakePlatform &install();
+
+    FakeBundle main;
+    FakeUserDefaults standard;
+    FakeDistributedNotificationCenter notifications;
+    FakeWorkspace space;
+    FakeAppearance look;
+
+    /// The bundles that exist beside the main one.
+    QList<FakeBundle> bundles;
+
+    /// False: no suite can be opened by name.
+    bool suitesCanBeOpened = true;
+
+    /// The suite of that name, empty until it is written to, and there even while it cannot be opened.
+    FakeUserDefaults &suite(const QString &name) { return m_suites[name]; }
+
+    Bundle &mainBundle() override { return main; }
+    std::unique_ptr<Bundle> bundle(const QUrl &url) override;
+    UserDefaults &standardUserDefaults() override { return standard; }
+    UserDefaults *userDefaults(const QString &suiteName) override;
+    DistributedNotificationCenter &distributedNotificationCenter() override { return notifications; }
+    Workspace &workspace() override { return space; }
+    Appearance &appearance() override { return look; }
+
+private:
+    std::map<QString, FakeUserDefaults> m_suites;
+};

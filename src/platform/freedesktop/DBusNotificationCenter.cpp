@@ -1,0 +1,78 @@
+#include "DBusNotificationCenter.h"
+
+#include "DBusSignalReceiver.h"
+#include "SessionBus.h"
+
+#include <QDBusMessage>
+
+#include <algorithm>
+
+namespace {
+
+/// Long enough for any bus that works, short enough for a person not to notice one that does not.
+constexpr int flushLimit = 250; // milliseconds
+
+constexpr int longestName = 255;
+
+struct Signal {
+    QString path;
+    QString interface;
+    QString member;
+};
+
+bool isElement(QStringView text)
+{
+    const auto isLetter = [](QChar character) {
+        return character == u'_' || (character >= u'a' && character <= u'z')
+            || (character >= u'A' && character <= u'Z');
+    };
+    return !text.isEmpty() && isLetter(text.front())
+        && std::all_of(text.begin(), text.end(), [&](QChar character) {
+               return isLetter(character) || (character >= u'0' && character <= u'9');
+           });
+}
+
+std::optional<Signal> signalNamed(const QString &name)
+{
+    const QList<QStringView> elements = QStringView(name).split(u'.');
+    if (elements.size() < 3 || name.size() > longestName
+        || !std::all_of(elements.begin(), elements.end(), isElement))
+        return std::nullopt;
+    const QString interface = name.chopped(elements.last().size() + 1);
+    return Signal{u'/' + QString(interface).replace(u'.', u'/'), interface, elements.last().toString()};
+}
+
+// Sending only hands the message to another thread. Once the bus has answered something sent later, it has
+// the message, and this process may end without losing it.
+void flush(const QDBusConnection &bus)
+{
+    bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+                                            QStringLiteral("/org/freedesktop/DBus"),
+                                            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")),
+             QDBus::Block, flushLimit);
+}
+
+}
+
+void DBusNotificationCenter::post(const QString &name, const QVariantMap &userInfo)
+{
+    const auto signal = signalNamed(name);
+    const auto bus = SessionBus::connection();
+    if (!signal || !bus)
+        return;
+    QDBusMessage message = QDBusMessage::createSignal(signal->path, signal->interface, signal->member);
+    message << userInfo;
+    if (bus->send(message))
+        flush(*bus);
+}
+
+void DBusNotificationCenter::observe(const QString &name, QObject *context, Observer observer)
+{
+    const auto signal = signalNamed(name);
+    auto bus = SessionBus::connection();
+    if (!signal || !bus)
+        return;
+    auto *receiver = new DBusSignalReceiver(std::move(observer), context);
+    bus->connect(QString(), signal->path, signal->interface, signal->member, QStringLiteral("a{sv}"),
+                 receiver, SLOT(receive(QVariantMap)));
+}

@@ -1,0 +1,87 @@
+#include "FreedesktopPlatform.h"
+
+#include "DBusNotificationCenter.h"
+#include "DconfUserDefaults.h"
+#include "FreedesktopWorkspace.h"
+#include "PlistBundle.h"
+#include "PortalAppearance.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <map>
+
+namespace {
+
+class FreedesktopPlatform : public Platform {
+public:
+    Bundle &mainBundle() override { return plistBundle(); }
+    std::unique_ptr<Bundle> bundle(const QUrl &url) override;
+    UserDefaults &standardUserDefaults() override;
+    UserDefaults *userDefaults(const QString &suiteName) override;
+    DistributedNotificationCenter &distributedNotificationCenter() override { return m_notifications; }
+    Workspace &workspace() override;
+    Appearance &appearance() override;
+
+private:
+    PlistBundle &plistBundle();
+    UserDefaults &suite(const QString &name);
+
+    std::optional<PlistBundle> m_mainBundle;
+    std::map<QString, DconfUserDefaults> m_suites;
+    DBusNotificationCenter m_notifications;
+    std::optional<FreedesktopWorkspace> m_workspace;
+    std::optional<PortalAppearance> m_appearance;
+};
+
+PlistBundle &FreedesktopPlatform::plistBundle()
+{
+    if (!m_mainBundle)
+        m_mainBundle = PlistBundle::around(QStringLiteral("/proc/self/exe"));
+    return *m_mainBundle;
+}
+
+std::unique_ptr<Bundle> FreedesktopPlatform::bundle(const QUrl &url)
+{
+    if (!url.isLocalFile() || !QFileInfo(url.toLocalFile()).isDir())
+        return nullptr;
+    return std::make_unique<PlistBundle>(url.toLocalFile());
+}
+
+// A program that lies in no bundle is known by its name.
+UserDefaults &FreedesktopPlatform::standardUserDefaults()
+{
+    const QString identifier = plistBundle().bundleIdentifier();
+    return suite(identifier.isEmpty() ? QCoreApplication::applicationName() : identifier);
+}
+
+UserDefaults *FreedesktopPlatform::userDefaults(const QString &suiteName)
+{
+    return DconfUserDefaults::canOpen(suiteName) ? &suite(suiteName) : nullptr;
+}
+
+UserDefaults &FreedesktopPlatform::suite(const QString &name)
+{
+    return m_suites.try_emplace(name, name).first->second;
+}
+
+Workspace &FreedesktopPlatform::workspace()
+{
+    if (!m_workspace)
+        m_workspace.emplace(plistBundle());
+    return *m_workspace;
+}
+
+Appearance &FreedesktopPlatform::appearance()
+{
+    if (!m_appearance)
+        m_appearance.emplace();
+    return *m_appearance;
+}
+
+}
+
+std::unique_ptr<Platform> makeFreedesktopPlatform()
+{
+    return std::make_unique<FreedesktopPlatform>();
+}

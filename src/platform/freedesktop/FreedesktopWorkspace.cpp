@@ -1,0 +1,73 @@
+#include "FreedesktopWorkspace.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
+
+namespace {
+
+struct SettingsPage {
+    const char *desktop;
+    const char *command;
+};
+
+/// The page with the programs started at login, by the desktop's name in XDG_CURRENT_DESKTOP; the first
+/// installed one of a desktop is the one.
+constexpr SettingsPage autostartPages[] = {
+    {"KDE", "systemsettings kcm_autostart"},
+    {"KDE", "systemsettings5 kcm_autostart"},
+    {"KDE", "kcmshell6 kcm_autostart"},
+    {"KDE", "kcmshell5 kcm_autostart"},
+    {"XFCE", "xfce4-session-settings"},
+    {"MATE", "mate-session-properties"},
+    {"LXQt", "lxqt-config-session"},
+    {"LXDE", "lxsession-edit"},
+    {"X-Cinnamon", "cinnamon-settings startup"},
+    {"Cinnamon", "cinnamon-settings startup"},
+    {"Budgie", "budgie-desktop-settings"},
+    {"GNOME", "gnome-session-properties"},
+    {"GNOME", "gnome-tweaks"},
+    {"Unity", "gnome-session-properties"},
+};
+
+bool openAutostartPage(const QString &desktop)
+{
+    for (const SettingsPage &page : autostartPages) {
+        if (desktop.compare(QLatin1String(page.desktop), Qt::CaseInsensitive) != 0)
+            continue;
+        QStringList command = QString::fromLatin1(page.command).split(u' ');
+        const QString program = QStandardPaths::findExecutable(command.takeFirst());
+        if (!program.isEmpty())
+            return QProcess::startDetached(program, command);
+    }
+    return false;
+}
+
+}
+
+void FreedesktopWorkspace::open(const QUrl &url)
+{
+    if (url.isValid())
+        QDesktopServices::openUrl(url);
+}
+
+void FreedesktopWorkspace::openApplication(const QUrl &bundleURL, const QStringList &arguments,
+                                           std::function<void()> completion)
+{
+    const QString executable = bundleURL == m_mainBundle.bundleURL()
+        ? m_mainBundle.executable()
+        : PlistBundle(bundleURL.toLocalFile()).executable();
+    if (!executable.isEmpty())
+        QProcess::startDetached(executable, arguments);
+    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(completion), Qt::QueuedConnection);
+}
+
+void FreedesktopWorkspace::openLoginItemsSettings()
+{
+    const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
+    for (const QString &desktop : desktops) {
+        if (openAutostartPage(desktop))
+            return;
+    }
+}

@@ -1,0 +1,193 @@
+#include "PortalAppearance.h"
+
+#include "SessionBus.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace {
+
+constexpr int firstAnswerLimit = 50; // milliseconds
+constexpr int laterAnswerLimit = 25000;
+
+const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings");
+
+const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
+const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
+const QString gnomeAccessibilityGroup = QStringLiteral("org.gnome.desktop.a11y.interface");
+
+QString id(const QString &group, const QString &key)
+{
+    return group + u' ' + key;
+}
+
+// Some portals wrap a value more than once.
+QVariant unwrapped(QVariant value)
+{
+    while (value.metaType() == QMetaType::fromType<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value;
+}
+
+// Portals with several backends may name a group, and a key in it, more than once; the first one counts.
+QHash<QString, QVariant> settingsIn(const QDBusArgument &groups)
+{
+    QHash<QString, QVariant> settings;
+    groups.beginMap();
+    while (!groups.atEnd()) {
+        QString group;
+        QVariantMap values;
+        groups.beginMapEntry();
+        groups >> group >> values;
+        groups.endMapEntry();
+        for (auto value = values.cbegin(); value != values.cend(); ++value) {
+            QVariant &setting = settings[id(group, value.key())];
+            if (!setting.isValid())
+                setting = unwrapped(*value);
+        }
+    }
+    groups.endMap();
+    return settings;
+}
+
+std::optional<uint> number(const QVariant &value)
+{
+    return value.typeId() == QMetaType::UInt ? std::optional(value.toUInt()) : std::nullopt;
+}
+
+bool isDarkPalette()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance())
+        && QGuiApplication::palette().color(QPalette::Window).lightnessF() < 0.5F;
+}
+
+}
+
+PortalAppearance::PortalAppearance()
+{
+    if (QCoreApplication *application = QCoreApplication::instance())
+        application->installEventFilter(this);
+    listen();
+    ask(firstAnswerLimit);
+    m_look = look();
+}
+
+PortalAppearance::~PortalAppearance() = default;
+
+std::optional<AppearanceName> PortalAppearance::bestMatch() const
+{
+    if (m_look.isHighContrast) {
+        return m_look.isDark ? AppearanceName::AccessibilityHighContrastDarkAqua
+                             : AppearanceName::AccessibilityHighContrastAqua;
+    }
+    return m_look.isDark ? AppearanceName::DarkAqua : AppearanceName::Aqua;
+}
+
+void PortalAppearance::settle()
+{
+    if (m_question && m_isFirstQuestion)
+        m_question->waitForFinished();
+}
+
+bool PortalAppearance::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance())
+        update();
+    return false;
+}
+
+// No sender is named in these two, since the bus would have to be asked who that is before going on.
+void PortalAppearance::listen()
+{
+    auto bus = SessionBus::connection();
+    if (!bus)
+        return;
+    bus->connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
+                 SLOT(settingChanged(QString, QString, QDBusVariant)));
+    bus->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+                 QStringLiteral("NameOwnerChanged"), {portal}, QString(), this,
+                 SLOT(portalOwnerChanged(QString, QString, QString)));
+}
+
+// One question for everything: it is answered alike by every version of the portal, while the questions for a
+// single value differ between them.
+void PortalAppearance::ask(int limit)
+{
+    const auto bus = SessionBus::connection();
+    if (!bus)
+        return;
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(portal, portalPath, portalInterface, QStringLiteral("ReadAll"));
+    question.setAutoStartService(false);
+    question << QStringList{appearanceGroup, gnomeGroup, gnomeAccessibilityGroup};
+    m_question = std::make_unique<QDBusPendingCallWatcher>(bus->asyncCall(question, limit));
+    connect(m_question.get(), &QDBusPendingCallWatcher::finished, this, &PortalAppearance::takeAnswer);
+}
+
+void PortalAppearance::takeAnswer()
+{
+    const QDBusMessage answer = m_question->reply();
+    m_question.release()->deleteLater();
+    const bool isLate = m_isFirstQuestion && QDBusError(answer).type() == QDBusError::NoReply;
+    m_isFirstQuestion = false;
+    if (isLate)
+        ask(laterAnswerLimit);
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QStringLiteral("a{sa{sv}}"))
+        return;
+    m_settings = settingsIn(answer.arguments().constFirst().value<QDBusArgument>());
+    update();
+}
+
+void PortalAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value)
+{
+    m_settings.insert(id(group, key), unwrapped(value.variant()));
+    update();
+}
+
+void PortalAppearance::portalOwnerChanged(const QString &, const QString &, const QString &newOwner)
+{
+    if (newOwner.isEmpty())
+        return;
+    m_isFirstQuestion = false;
+    ask(laterAnswerLimit);
+}
+
+PortalAppearance::Look PortalAppearance::look() const
+{
+    const auto setting = [this](const QString &group, const QString &key) {
+        return m_settings.value(id(group, key));
+    };
+    // GNOME's own settings are older than the shared ones: they count where the shared ones are not there.
+    const auto isOn = [&](const QString &key, const QString &olderGroup, const QString &olderKey,
+                          bool olderOn) {
+        const QVariant shared = setting(appearanceGroup, key);
+        if (shared.isValid())
+            return number(shared) == 1U;
+        const QVariant older = setting(olderGroup, olderKey);
+        return older.typeId() == QMetaType::Bool && older.toBool() == olderOn;
+    };
+    const auto scheme = number(setting(appearanceGroup, QStringLiteral("color-scheme")));
+    const bool hasScheme = scheme == 1U || scheme == 2U;
+    return {
+        .isDark = hasScheme ? scheme == 1U : isDarkPalette(),
+        .isHighContrast =
+            isOn(QStringLiteral("contrast"), gnomeAccessibilityGroup, QStringLiteral("high-contrast"), true),
+        .reduceMotion =
+            isOn(QStringLiteral("reduced-motion"), gnomeGroup, QStringLiteral("enable-animations"), false),
+    };
+}
+
+void PortalAppearance::update()
+{
+    const Look look = this->look();
+    if (m_look == look)
+        return;
+    m_look = look;
+    emit changed();
+}

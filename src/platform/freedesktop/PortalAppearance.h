@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Appearance.h"
+
+#include <QHash>
+#include <QVariant>
+
+#include <memory>
+
+class QDBusPendingCallWatcher;
+class QDBusVariant;
+
+/// The appearance that the desktop's settings portal tells, and where it says nothing, the lightness of the
+/// palette.
+///
+/// The portal is asked as soon as this object is made, and only if one is running; nothing waits for its
+/// answer but `settle`. One that appears later is asked then, and what changes later is followed.
+class PortalAppearance : public Appearance {
+    Q_OBJECT
+public:
+    PortalAppearance();
+    ~PortalAppearance() override;
+
+    std::optional<AppearanceName> bestMatch() const override;
+    bool shouldReduceMotion() const override { return m_look.reduceMotion; }
+
+    /// Waits for the portal's first answer until 50 ms after this object was made, and no longer.
+    void settle() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private slots:
+    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+    void portalOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
+
+private:
+    struct Look {
+        bool isDark = false;
+        bool isHighContrast = false;
+        bool reduceMotion = false;
+        bool operator==(const Look &) const = default;
+    };
+
+    void listen();
+    void ask(int limit);
+    void takeAnswer();
+    Look look() const;
+    void update();
+
+    QHash<QString, QVariant> m_settings;
+    std::unique_ptr<QDBusPendingCallWatcher> m_question;
+    bool m_isFirstQuestion = true;
+    Look m_look;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QDBusConnection>
+
+#include <optional>
+
+/// The message bus of the person's session, used only where one is already there.
+namespace SessionBus {
+
+/// Whether the environment names a bus. Where it does not, nobody may ask for one: the libraries would start
+/// one.
+bool isPresent();
+
+/// The connection, made on first use; none while there is no bus that answers.
+std::optional<QDBusConnection> connection();
+
+}

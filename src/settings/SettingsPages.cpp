@@ -1,0 +1,8 @@
+#include "SettingsPages.h"
+
+#include "GeneralPage.h"
+
+QList<EBSettingsPage> SettingsPages::make()
+{
+    return {generalPage()};
+}

@@ -1,0 +1,44 @@
+import QtQuick
+import Corvane.Settings.Window
+
+/// The sidebar with the pages, and beside it the page that is selected.
+FocusScope {
+    id: view
+
+    required property string version
+    required property SidebarModel pages
+    required property SettingsModel model
+
+    implicitWidth: 620
+    implicitHeight: Math.max(sidebar.implicitHeight + 2 * 8, page.implicitHeight)
+    focus: true
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        onActivated: sidebar.find()
+    }
+    Sidebar {
+        id: sidebar
+        anchors {
+            left: parent.left
+            top: parent.top
+            bottom: parent.bottom
+            margins: 8
+        }
+        version: view.version
+        pages: view.pages
+        selection: view.model.selection
+        onPicked: id => view.model.selection = id
+    }
+    PageArea {
+        id: page
+        anchors {
+            left: sidebar.right
+            leftMargin: 8
+            right: parent.right
+            top: parent.top
+            bottom: parent.bottom
+        }
+        model: view.model
+    }
+}

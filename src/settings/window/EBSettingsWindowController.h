@@ -1,0 +1,42 @@
+#pragma once
+
+#include "EBApp.h"
+#include "EBSettingsPage.h"
+#include "EBWindow.h"
+
+#include <QVariantAnimation>
+
+#include <memory>
+#include <optional>
+
+class QQmlEngine;
+
+/// The settings window: of fixed width, as high as the page it shows.
+class EBSettingsWindowController : public QObject {
+    Q_OBJECT
+public:
+    class Model;
+
+    /// `pages` must not be empty. `initial` is the id of the page to begin with; the first page for any other
+    /// text.
+    EBSettingsWindowController(QQmlEngine &engine, EBApp app, const QString &version,
+                               const QList<EBSettingsPage> &pages, const std::optional<QString> &initial);
+    ~EBSettingsWindowController() override;
+
+    void showWindow();
+    EBWindow *window() const { return m_window.get(); }
+    Model *model() const { return m_model; }
+
+    /// Resizes the window to a measured content: always 620 points wide, as high as reported, at most as high
+    /// as the screen, its top left corner kept. A height of 0 or less, or within half a point of the
+    /// window's, changes nothing.
+    void fit(QSizeF size);
+
+private:
+    void setHeight(int height);
+
+    Model *m_model;
+    std::unique_ptr<EBWindow> m_window;
+    QVariantAnimation m_resize;
+    bool m_sized = false;
+};

@@ -1,0 +1,51 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Glyphs
+import Embera.Controls
+
+/// One page in the sidebar; a click chooses it. The selected one lies on a chip and carries the product's colour in its glyph.
+Pressable {
+    id: item
+
+    required property string title
+    required property string glyph
+    property bool selected: false
+    /// Tab stops at one page of the list, the arrow keys go on from there.
+    property bool tabStop: true
+
+    implicitHeight: 30
+    leftPadding: 10
+    rightPadding: 10
+    focusPolicy: tabStop ? Qt.StrongFocus : Qt.ClickFocus
+    text: title
+    Accessible.role: Accessible.ListItem
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Accessible.onPressAction: click()
+
+    background: ContinuousRectangle {
+        radius: 10
+        color: item.selected ? EB.chip : "transparent"
+
+        FocusRing {
+            control: item
+        }
+    }
+    contentItem: Row {
+        spacing: 8
+
+        Glyph {
+            anchors.verticalCenter: parent.verticalCenter
+            name: item.glyph
+            size: 15
+            color: item.selected ? EBEnvironment.accent : EB.inkMuted
+        }
+        EBText {
+            anchors.verticalCenter: parent.verticalCenter
+            weight: item.selected ? Font.DemiBold : Font.Medium
+            color: item.selected ? EB.ink : EB.inkMuted
+            text: item.title
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "EBSettingsWindowController.h"
+
+#include <qqmlregistration.h>
+
+/// The selection of the settings window, and what it shows of the page that is selected.
+class EBSettingsWindowController::Model : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(SettingsModel)
+    QML_UNCREATABLE("The settings window's controller makes the model")
+    /// The id of the selected page. An id that no page has shows the first page.
+    Q_PROPERTY(QString selection READ selection WRITE setSelection NOTIFY selectionChanged)
+    Q_PROPERTY(QString title READ title NOTIFY selectionChanged)
+    Q_PROPERTY(QUrl content READ content NOTIFY selectionChanged)
+    /// The shown page's position among all pages, from 1.
+    Q_PROPERTY(int number READ number NOTIFY selectionChanged)
+public:
+    Model(QList<EBSettingsPage> pages, const std::optional<QString> &initial, QObject *parent);
+
+    QString selection() const { return m_selection; }
+    void setSelection(const QString &id);
+    QString title() const { return m_pages.at(current()).title; }
+    QUrl content() const { return m_pages.at(current()).content; }
+    int number() const { return int(current()) + 1; }
+
+signals:
+    void selectionChanged();
+
+private:
+    qsizetype current() const;
+
+    const QList<EBSettingsPage> m_pages;
+    QString m_selection;
+};

@@ -1,0 +1,24 @@
+import QtQuick
+import Embera.Tokens
+import Corvane.Settings.Window
+
+/// What the settings window hosts: the settings view with its product, telling how large it wants to be.
+MeasuredItem {
+    id: root
+
+    required property string app
+    required property string version
+    required property SidebarModel pages
+    required property SettingsModel model
+
+    EBEnvironment.ebApp: app
+    contentSize: Qt.size(view.implicitWidth, view.implicitHeight)
+
+    EBSettingsView {
+        id: view
+        anchors.fill: parent
+        version: root.version
+        pages: root.pages
+        model: root.model
+    }
+}

@@ -1,0 +1,99 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Controls
+import Embera.Rows
+import Corvane.Settings.Window
+
+/// The search field, the pages it finds, and the product with its version. Up and Down move among the pages.
+Item {
+    id: sidebar
+
+    required property string version
+    required property SidebarModel pages
+    required property string selection
+
+    /// The person chose the page with this id.
+    signal picked(id: string)
+
+    /// Puts the keyboard focus into the search field.
+    function find() {
+        search.activate();
+    }
+    function move(step: int) {
+        picked(pages.neighbour(selection, step));
+    }
+
+    implicitWidth: 178
+    implicitHeight: list.y + list.implicitHeight + 8 + footer.height + 12
+
+    ContinuousRectangle {
+        anchors.fill: parent
+        radius: 22
+        color: EB.sunk
+    }
+    EBSearchField {
+        id: search
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            topMargin: 44
+            leftMargin: 16
+            rightMargin: 16
+        }
+        placeholder: qsTr("Search")
+        onTextChanged: sidebar.pages.search = text
+        onMovedUp: sidebar.move(-1)
+        onMovedDown: sidebar.move(1)
+    }
+    FocusScope {
+        id: list
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: search.bottom
+            topMargin: 8 + items.spacing
+            leftMargin: 10
+            rightMargin: 10
+        }
+        implicitHeight: items.implicitHeight
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Pages")
+        Keys.onUpPressed: sidebar.move(-1)
+        Keys.onDownPressed: sidebar.move(1)
+
+        Column {
+            id: items
+            width: parent.width
+            spacing: 2
+
+            Repeater {
+                model: sidebar.pages
+
+                EBSidebarItem {
+                    required property string pageId
+
+                    width: items.width
+                    selected: sidebar.selection === pageId
+                    tabStop: sidebar.pages.neighbour(sidebar.selection, 0) === pageId
+                    onClicked: sidebar.picked(pageId)
+                    onSelectedChanged: if (selected && list.activeFocus)
+                        forceActiveFocus(Qt.TabFocusReason)
+                }
+            }
+        }
+    }
+    EBLabel {
+        id: footer
+        anchors {
+            left: parent.left
+            right: parent.right
+            bottom: parent.bottom
+            leftMargin: 20
+            rightMargin: 10
+            bottomMargin: 12
+        }
+        //: %1 is the product's name, %2 its version.
+        text: qsTr("%1\nVersion %2").arg(EBEnvironment.displayName).arg(sidebar.version)
+    }
+}

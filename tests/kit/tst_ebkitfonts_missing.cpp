@@ -1,0 +1,60 @@
+#include "EBKitFonts.h"
+#include "FakePlatform.h"
+
+#include <QFontDatabase>
+#include <QTest>
+
+namespace {
+
+QStringList logged;
+
+void record(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    logged.append(text);
+}
+
+}
+
+/// The bundle lacks one of the two files.
+class TestEBKitFontsMissing : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aMissingFileIsOneLineAndTheOtherFaceIsRegistered();
+    void theMissingFaceKeepsItsNameForThePlatformToSubstitute();
+    void registeringAgainLogsNothing();
+};
+
+void TestEBKitFontsMissing::aMissingFileIsOneLineAndTheOtherFaceIsRegistered()
+{
+    FakePlatform &platform = FakePlatform::install();
+    platform.main.resources.insert(
+        QStringLiteral("InstrumentSans-SemiBold.ttf"),
+        QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER "InstrumentSans-SemiBold.ttf")));
+    const auto before = qInstallMessageHandler(record);
+    EBKitFonts::registerFonts();
+    qInstallMessageHandler(before);
+    QCOMPARE(logged,
+             QStringList(QStringLiteral("Embera: font GeistMono-Medium.ttf is missing from the bundle")));
+    QVERIFY(QFontDatabase::applicationFontFamilies(0).contains(QStringLiteral("Instrument Sans")));
+    QVERIFY(QFontDatabase::applicationFontFamilies(1).isEmpty());
+}
+
+void TestEBKitFontsMissing::theMissingFaceKeepsItsNameForThePlatformToSubstitute()
+{
+    const QFont font = EBKitFonts::face(EBKitFonts::mono);
+    QCOMPARE(font.family(), QStringLiteral("GeistMono-Medium"));
+    QVERIFY(!QFontInfo(font).family().isEmpty());
+}
+
+void TestEBKitFontsMissing::registeringAgainLogsNothing()
+{
+    logged.clear();
+    const auto before = qInstallMessageHandler(record);
+    EBKitFonts::registerFonts();
+    qInstallMessageHandler(before);
+    QVERIFY(logged.isEmpty());
+}
+
+QTEST_MAIN(TestEBKitFontsMissing)
+#include "tst_ebkitfonts_missing.moc"

@@ -1,0 +1,54 @@
+#include "Agent.h"
+
+#include "Platform.h"
+#include "Shared.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdio>
+
+namespace {
+
+/// Writes a key only when it says something new: every write wakes whoever watches the store.
+void report(const QString &key, bool value)
+{
+    if (Shared::store().value(key) != QVariant(value))
+        Shared::store().setValue(key, value);
+}
+
+void print(const QVariantMap &userInfo)
+{
+    const QByteArray line =
+        QJsonDocument(QJsonObject::fromVariantMap(userInfo)).toJson(QJsonDocument::Compact);
+    std::printf("%s\n", line.constData());
+    std::fflush(stdout);
+}
+
+}
+
+Agent::Agent(LoginItem &loginItem) : m_loginItem(loginItem)
+{
+    Platform::current().distributedNotificationCenter().observe(
+        Shared::Command::name, this, [this](const QVariantMap &userInfo) { perform(userInfo); });
+    connect(&m_loginItem, &LoginItem::changed, this, &Agent::reportLoginItem);
+    reportLoginItem();
+}
+
+void Agent::perform(const QVariantMap &userInfo)
+{
+    print(userInfo);
+    const QString command = userInfo.value(QStringLiteral("command")).toString();
+    const QVariant value = userInfo.value(QStringLiteral("value"));
+    if (command == Shared::Command::setLaunchAtLogin && value.typeId() == QMetaType::Bool)
+        m_loginItem.setRegistered(value.toBool());
+    else if (command == Shared::Command::requestAccessibility)
+        emit accessibilityRequested();
+}
+
+void Agent::reportLoginItem()
+{
+    const LoginItem::State state = m_loginItem.state();
+    report(Shared::Key::agentLaunchAtLogin, state == LoginItem::State::Enabled);
+    report(Shared::Key::agentLaunchAtLoginNeedsApproval, state == LoginItem::State::NeedsApproval);
+}
