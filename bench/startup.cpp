@@ -14,7 +14,7 @@ namespace {
 
 constexpr QRgb paper = qRgb(0xF7, 0xF6, 0xF2);
 /// Near the window's upper edge, where neither program draws anything but the background.
-constexpr int probe = 190;
+constexpr int probe = 140;
 constexpr int runs = 15;
 
 QTextStream out(stdout);

@@ -3,59 +3,89 @@
 #include "Shared.h"
 #include "UserDefaults.h"
 
-AppStorage::AppStorage(QObject *parent) :
-    QObject(parent),
-    m_store(Shared::store())
+#include <cmath>
+#include <utility>
+
+namespace {
+
+/// The value as the store holds it: a Boolean, a text or a finite number; invalid for anything else.
+QVariant storable(const QVariant &value)
 {
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::QString:
+        return value;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return std::isfinite(value.toDouble()) ? QVariant(value.toDouble()) : QVariant();
+    default:
+        return {};
+    }
+}
+
+}
+
+AppStorage::AppStorage(QObject *parent) : QObject(parent), m_store(Shared::store())
+{
+    connect(this, &AppStorage::keyChanged, this, &AppStorage::followKey);
     connect(&m_store, &UserDefaults::changed, this, [this](const QString &changedKey) {
-        if (changedKey.isEmpty() || changedKey == m_key)
+        if (changedKey.isEmpty() || changedKey == key())
             reread();
     });
 }
 
-void AppStorage::setKey(const QString &key)
+QVariant AppStorage::defaultValue() const
 {
-    if (m_key == key)
-        return;
-    m_key = key;
-    if (!m_defaultIsSet)
-        m_default = Contract::defaultValue(key);
-    emit keyChanged();
-    reread();
+    return m_ownDefault.isValid() ? m_ownDefault : Contract::defaultValue(key());
 }
 
 void AppStorage::setDefaultValue(const QVariant &value)
 {
-    m_defaultIsSet = true;
-    if (m_default == value)
+    const QVariant before = defaultValue();
+    m_ownDefault = storable(value);
+    if (before == defaultValue() && before.metaType() == defaultValue().metaType())
         return;
-    m_default = value;
     emit defaultValueChanged();
     reread();
 }
 
 void AppStorage::setValue(const QVariant &value)
 {
-    if (!m_default.isValid() || !QMetaType::canConvert(value.metaType(), m_default.metaType()))
+    if (!m_complete) {
+        m_early = value;
         return;
-    QVariant typed = value;
-    typed.convert(m_default.metaType());
-    m_store.setValue(m_key, typed);
+    }
+    const QVariant typed = storable(value);
+    if (key().isEmpty() || !typed.isValid() || typed.metaType() != defaultValue().metaType())
+        return;
+    m_store.setValue(key(), typed);
     reread();
 }
 
 void AppStorage::componentComplete()
 {
     m_complete = true;
+    setValue(std::exchange(m_early, {}));
+}
+
+void AppStorage::followKey()
+{
+    if (!m_ownDefault.isValid())
+        emit defaultValueChanged();
     reread();
 }
 
 void AppStorage::reread()
 {
-    if (!m_complete)
+    if (key().isEmpty())
         return;
-    const QVariant stored = m_store.value(m_key);
-    const QVariant value = stored.metaType() == m_default.metaType() ? stored : m_default;
+    const QVariant fallback = defaultValue();
+    const QVariant stored = storable(m_store.value(key()));
+    const QVariant value = stored.metaType() == fallback.metaType() ? stored : fallback;
     if (m_value == value && m_value.metaType() == value.metaType())
         return;
     m_value = value;

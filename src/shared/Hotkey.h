@@ -23,8 +23,9 @@ QString caseName(Hotkey hotkey);
 /// What a person reads on the keys, "⌥⌘W".
 QString shownAs(Hotkey hotkey);
 
-/// The shortcut of a key event: a virtual key code (a position on the ANSI keyboard, not a character) and event flags.
-/// Only Shift, Control, Option and Command count among the flags, and they must be exactly those of the shortcut.
+/// The shortcut of a key event: a virtual key code (a position on the ANSI keyboard, not a character) and
+/// event flags. Only Shift, Control, Option and Command count among the flags, and they must be exactly those
+/// of the shortcut.
 std::optional<Hotkey> match(std::int64_t keyCode, std::uint64_t flags);
 
 inline constexpr std::uint64_t shiftFlag = 0x20000;

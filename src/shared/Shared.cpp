@@ -2,6 +2,21 @@
 
 #include "Platform.h"
 
+#include <QPointer>
+
+namespace {
+
+UserDefaults &openStore()
+{
+    Platform &platform = Platform::current();
+    if (platform.mainBundle().bundleIdentifier() == Shared::suiteName)
+        return platform.standardUserDefaults();
+    UserDefaults *suite = platform.userDefaults(Shared::suiteName);
+    return suite ? *suite : platform.standardUserDefaults();
+}
+
+}
+
 QString Shared::Key::hotkeyDisabled(Hotkey hotkey)
 {
     return QStringLiteral("hotkey.") + Hotkeys::caseName(hotkey) + QStringLiteral(".disabled");
@@ -9,11 +24,11 @@ QString Shared::Key::hotkeyDisabled(Hotkey hotkey)
 
 UserDefaults &Shared::store()
 {
-    Platform &platform = Platform::current();
-    if (platform.mainBundle().bundleIdentifier() == suiteName)
-        return platform.standardUserDefaults();
-    UserDefaults *suite = platform.userDefaults(suiteName);
-    return suite ? *suite : platform.standardUserDefaults();
+    // Taken once, so that every view reads and writes the same object; taken again only for another platform.
+    static QPointer<UserDefaults> taken;
+    if (!taken)
+        taken = &openStore();
+    return *taken;
 }
 
 void Shared::send(const QString &command, std::optional<bool> value, const QMap<QString, QString> &extra)

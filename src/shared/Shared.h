@@ -21,7 +21,8 @@ namespace Command {
 /// The name of the notification that carries every command.
 inline const QString name = QStringLiteral("com.vexmoor.corvane.command");
 
-#define COMMAND(identifier, text, carriesValue, meaning) inline const QString identifier = QStringLiteral(text);
+#define COMMAND(identifier, text, carriesValue, meaning)                                                     \
+    inline const QString identifier = QStringLiteral(text);
 CORVANE_COMMANDS(COMMAND)
 #undef COMMAND
 
@@ -29,7 +30,8 @@ CORVANE_COMMANDS(COMMAND)
 
 namespace Key {
 
-#define STORE_KEY(identifier, text, value, writer, meaning) inline const QString identifier = QStringLiteral(text);
+#define STORE_KEY(identifier, text, value, writer, meaning)                                                  \
+    inline const QString identifier = QStringLiteral(text);
 CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY
 
@@ -38,12 +40,13 @@ QString hotkeyDisabled(Hotkey hotkey);
 
 }
 
-/// The shared suite. Inside the agent itself, and where the suite cannot be opened, the standard user defaults.
+/// The shared suite. Inside the agent itself, and where the suite cannot be opened, the standard user
+/// defaults.
 UserDefaults &store();
 
-/// Posts one command. `value` present means one entry "value", absent means no entry at all. An entry of `extra`
-/// under "command" or "value" replaces what stood there. Nothing is answered: the agent's reaction shows as changed
-/// "agent." keys, and without an agent the command is lost.
+/// Posts one command. `value` present means one entry "value", absent means no entry at all. An entry of
+/// `extra` under "command" or "value" replaces what stood there. Nothing is answered: the agent's reaction
+/// shows as changed "agent." keys, and without an agent the command is lost.
 void send(const QString &command, std::optional<bool> value = std::nullopt,
           const QMap<QString, QString> &extra = {});
 

@@ -5,11 +5,12 @@ import Embera.Glyphs
 import Embera.Controls
 
 /// A search field. `text` follows every keystroke; Escape and the clear button empty it.
-T.TextField {
-    id: field
+T.Control {
+    id: control
 
     /// Shown while the field is empty, and its name for accessibility.
     property string placeholder
+    property alias text: field.text
 
     /// The arrow keys, for a list that the search narrows.
     signal movedUp
@@ -17,38 +18,60 @@ T.TextField {
 
     /// Takes the keyboard focus and selects the whole text.
     function activate() {
-        forceActiveFocus(Qt.ShortcutFocusReason);
-        selectAll();
+        field.forceActiveFocus(Qt.ShortcutFocusReason);
+        field.selectAll();
     }
 
     implicitWidth: 160
     implicitHeight: 28
-    leftPadding: mirrored ? clearButton.room : glyph.room
-    rightPadding: mirrored ? glyph.room : clearButton.room
-    verticalAlignment: TextInput.AlignVCenter
     opacity: enabled ? 1 : 0.4
-    font: EBType.font("body")
-    color: EB.ink
-    selectionColor: EBEnvironment.accent
-    selectedTextColor: EBEnvironment.onAccent
-    selectByMouse: true
-    Accessible.name: placeholder
-    Accessible.searchEdit: true
-    Keys.onUpPressed: movedUp()
-    Keys.onDownPressed: movedDown()
-    Keys.onEscapePressed: event => {
-        event.accepted = text !== "";
-        clear();
-    }
 
     background: ContinuousRectangle {
         color: EB.chip
     }
+    contentItem: T.TextField {
+        id: field
+
+        readonly property real leading: 10 + glyph.width + 6
+        readonly property real trailing: clearButton.visible ? clearButton.width : 10
+
+        leftPadding: control.mirrored ? trailing : leading
+        rightPadding: control.mirrored ? leading : trailing
+        horizontalAlignment: TextInput.AlignLeft
+        verticalAlignment: TextInput.AlignVCenter
+        font: EBType.font("body")
+        color: EB.ink
+        selectionColor: EBEnvironment.accent
+        selectedTextColor: EBEnvironment.onAccent
+        selectByMouse: true
+        Accessible.name: control.placeholder
+        Accessible.searchEdit: true
+        Keys.onUpPressed: control.movedUp()
+        Keys.onDownPressed: control.movedDown()
+        Keys.onEscapePressed: event => {
+            event.accepted = text !== "";
+            clear();
+        }
+
+        HoverHandler {
+            cursorShape: Qt.IBeamCursor
+        }
+        EBText {
+            anchors.fill: parent
+            leftPadding: field.leftPadding
+            rightPadding: field.rightPadding
+            text: control.placeholder
+            color: EB.inkMuted
+            elide: Text.ElideRight
+            horizontalAlignment: Text.AlignLeft
+            verticalAlignment: Text.AlignVCenter
+            visible: field.length === 0 && field.preeditText === ""
+            Accessible.ignored: true
+        }
+    }
 
     Glyph {
         id: glyph
-
-        readonly property real room: 10 + width + 6
 
         anchors {
             left: parent.left
@@ -59,30 +82,14 @@ T.TextField {
         size: 13
         color: EB.inkMuted
     }
-    EBText {
-        anchors.fill: parent
-        anchors.leftMargin: field.leftPadding
-        anchors.rightMargin: field.rightPadding
-        text: field.placeholder
-        color: EB.inkMuted
-        elide: Text.ElideRight
-        verticalAlignment: Text.AlignVCenter
-        visible: field.length === 0 && field.preeditText === ""
-        Accessible.ignored: true
-    }
     Pressable {
         id: clearButton
 
-        readonly property real room: visible ? 10 + 11 + 6 : 10
-
-        anchors {
-            right: parent.right
-            top: parent.top
-            bottom: parent.bottom
-        }
+        anchors.right: parent.right
+        width: 6 + 11 + 10
+        height: parent.height
         text: qsTr("Clear search")
-        implicitWidth: room
-        visible: field.text !== ""
+        visible: control.text !== ""
         onClicked: field.clear()
 
         contentItem: Item {

@@ -56,8 +56,11 @@ T.Control {
             model: control.options
 
             delegate: Segment {
-                group: control
                 ringParent: capsule
+                isOn: index === control.selectedIndex
+                // One stop for the Tab key: the chosen segment, or the first one while none is chosen.
+                focusPolicy: index === Math.max(0, control.selectedIndex) ? Qt.StrongFocus : Qt.ClickFocus
+                onFlipped: control.selected(modelData.value)
             }
         }
     }

@@ -2,24 +2,20 @@ import QtQuick
 import Embera.Tokens
 import Embera.Controls
 
-/// One choice of a segmented control. The keyboard reaches the chosen one, or the first one if none is chosen.
+/// One choice of a segmented control.
 ControlledToggle {
     id: segment
 
     required property int index
     required property var modelData
-    required property EBSegmented group
     /// What the ring of the keyboard focus goes around.
     required property Item ringParent
 
     text: modelData.title
-    isOn: index === group.selectedIndex
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 24
     horizontalPadding: 14
-    focusPolicy: index === Math.max(0, group.selectedIndex) ? Qt.StrongFocus : Qt.ClickFocus
     Accessible.role: Accessible.RadioButton
-    onFlipped: group.selected(modelData.value)
 
     background: ContinuousRectangle {
         color: EB.segOn

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <cmath>
+
 Glyph::Glyph(QQuickItem *parent) : CrispItem(parent)
 {
     setImplicitSize(m_size, m_size);
@@ -37,13 +39,27 @@ void Glyph::paint(QPainter *painter)
         paintGlyph(painter, *m_glyph, m_size, m_color, boundingRect());
 }
 
+// Most glyphs have a line through their middle. On a screen with few pixels a point it is only sharp if it
+// runs along pixels: through the middle of one when the stroke is an odd number of pixels wide, between two
+// when it is even.
+static QPointF sharpCenter(const QPainter &painter, QPointF center, qreal strokeWidth)
+{
+    const QTransform &toPixels = painter.deviceTransform();
+    const qreal pixels = std::max(1.0, std::round(strokeWidth * std::abs(toPixels.m22())));
+    const qreal offset = std::fmod(pixels, 2) / 2;
+    const QPointF at = toPixels.map(center);
+    return toPixels.inverted().map(
+        QPointF(std::round(at.x() - offset) + offset, std::round(at.y() - offset) + offset));
+}
+
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds)
 {
     if (!(size > 0))
         return;
+    const qreal width = glyphStrokeWidth(size);
     QRectF box(0, 0, size, size);
-    box.moveCenter(bounds.center());
-    QPen pen(color, glyphStrokeWidth(size), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    box.moveCenter(sharpCenter(*painter, bounds.center(), width));
+    QPen pen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     pen.setMiterLimit(10);
     painter->strokePath(GlyphShape{name}.path(box), pen);
 }

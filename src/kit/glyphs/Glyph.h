@@ -41,5 +41,5 @@ private:
     QColor m_color = Qt::black;
 };
 
-/// Strokes a glyph of `size` points, centred in `bounds`.
+/// Strokes a glyph of `size` points in the middle of `bounds`, to the nearest half device pixel.
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds);

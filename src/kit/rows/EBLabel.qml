@@ -22,6 +22,7 @@ Item {
         text: label.text.toLocaleUpperCase()
         role: label.small ? "monoSmall" : "mono"
         color: label.tone === "onLoud" ? EBEnvironment.onLoud : label.tone === "ink" ? EB.ink : EB.inkMuted
+        horizontalAlignment: Text.AlignLeft
         Accessible.ignored: true
     }
 }

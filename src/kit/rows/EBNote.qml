@@ -5,6 +5,7 @@ import Embera.Tokens
 EBText {
     role: "caption"
     color: EB.inkMuted
+    horizontalAlignment: Text.AlignLeft
     wrapMode: Text.Wrap
     leftPadding: 16
     rightPadding: 16

@@ -51,6 +51,7 @@ Item {
                 width: parent.width
                 text: row.title
                 role: "bodyStrong"
+                horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
             }
             EBText {
@@ -60,6 +61,7 @@ Item {
                 text: row.detail
                 role: "caption"
                 color: EB.inkMuted
+                horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
                 visible: text !== ""
             }

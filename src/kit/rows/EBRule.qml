@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Controls
 
 /// A hairline across the card.
 Item {
@@ -11,7 +12,7 @@ Item {
     implicitHeight: 1
     width: parent?.width ?? implicitWidth
 
-    Rectangle {
+    ContinuousRectangle {
         anchors {
             left: parent.left
             leftMargin: rule.inset
@@ -19,6 +20,7 @@ Item {
             top: parent.top
             bottom: parent.bottom
         }
+        radius: 0
         color: EB.line
     }
 }

@@ -2,8 +2,7 @@
 
 #include "Platform.h"
 
-EB::EB(QObject *parent) :
-    QObject(parent)
+EB::EB(QObject *parent) : QObject(parent)
 {
     connect(&Platform::current().appearance(), &Appearance::changed, this, &EB::appearanceChanged);
 }

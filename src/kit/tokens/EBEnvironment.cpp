@@ -4,8 +4,7 @@
 
 #include <qqml.h>
 
-EBEnvironment::EBEnvironment(QObject *parent) :
-    QObject(parent)
+EBEnvironment::EBEnvironment(QObject *parent) : QObject(parent)
 {
     if (auto *item = qobject_cast<QQuickItem *>(parent))
         connect(item, &QQuickItem::parentChanged, this, &EBEnvironment::followParent);

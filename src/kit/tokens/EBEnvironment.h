@@ -6,8 +6,8 @@
 #include <QQuickItem>
 #include <qqmlregistration.h>
 
-/// The current product, handed down the item tree: an item that sets `ebApp` sets it for everything inside it.
-/// Without any ancestor that sets one, the product is `quiller`. Attached to items only.
+/// The current product, handed down the item tree: an item that sets `ebApp` sets it for everything inside
+/// it. Without any ancestor that sets one, the product is `quiller`. Attached to items only.
 class EBEnvironment : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -25,7 +25,8 @@ public:
     explicit EBEnvironment(QObject *parent = nullptr);
     static EBEnvironment *qmlAttachedProperties(QObject *object);
 
-    /// The environment of an item, made on first use.
+    /// The environment of an item, made on first use. Null until Embera.Tokens was imported for the first
+    /// time.
     static EBEnvironment *of(QQuickItem *item);
 
     EBApp ebApp() const { return m_app; }

@@ -3,7 +3,8 @@
 #include "ColorTokens.h"
 #include "EBKitColor.h"
 
-/// The palette for C++: one function a token, named like it. Each token is made on first use and never released.
+/// The palette for C++: one function a token, named like it. Each token is made on first use and never
+/// released.
 namespace EBKit {
 
 #define EB_TOKEN(name, ...) const EBKitColor &name();

@@ -7,19 +7,13 @@
 
 #include <optional>
 
-/// A colour that may differ between light and dark. The high-contrast appearances have no values of their own.
+/// A colour that may differ between light and dark. The high-contrast appearances have no values of their
+/// own.
 class EBKitColor {
 public:
     /// A fixed colour.
-    constexpr EBKitColor(QColor color) :
-        EBKitColor(color, color)
-    {
-    }
-    constexpr EBKitColor(QColor light, QColor dark) :
-        m_light(light),
-        m_dark(dark)
-    {
-    }
+    constexpr EBKitColor(QColor color) : EBKitColor(color, color) { }
+    constexpr EBKitColor(QColor light, QColor dark) : m_light(light), m_dark(dark) { }
 
     /// The dark value for the two dark names, the light value otherwise, also where no name matched.
     constexpr QColor resolved(std::optional<AppearanceName> appearance) const
@@ -44,6 +38,6 @@ struct EBQuad {
 
 EBKitColor eb(EBQuad light, EBQuad dark);
 
-/// Six hexadecimal digits, a leading hash sign and spaces or tabs at the ends allowed; none for anything else.
-/// A plus sign counts as the first of the six, and so does a minus sign before a zero.
+/// Six hexadecimal digits, a leading hash sign and spaces or tabs at the ends allowed; none for anything
+/// else. A plus sign counts as the first of the six, and so does a minus sign before a zero.
 std::optional<QColor> hex(QStringView text);

@@ -41,10 +41,11 @@ const Role &entry(EBTypeRole role)
 bool isGeneric(const QString &family)
 {
     static const QStringList generic = {QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
-                                        QStringLiteral("Sans-Serif"), QStringLiteral("sans")};
-    return family.isEmpty() || generic.contains(family, Qt::CaseInsensitive);
+                                        QStringLiteral("sans-serif"), QStringLiteral("system-ui")};
+    return generic.contains(family, Qt::CaseInsensitive);
 }
 
+/// The face only: its size, weight and slant are the desktop's business elsewhere.
 QStringList systemFamilies()
 {
     QStringList families = QGuiApplication::font().families();
@@ -63,9 +64,7 @@ QFont faceFont(Face face)
     case Face::System:
         break;
     }
-    QFont font;
-    font.setFamilies(systemFamilies());
-    return font;
+    return QFont(systemFamilies());
 }
 
 }

@@ -11,15 +11,26 @@
 /// The twelve type roles. The first five and the last two are set in the kit's own faces, the others in the
 /// desktop's general font.
 enum class EBTypeRole {
-    hero, display, title, heading, subheading, lead, body, bodyStrong, small, caption, mono, monoSmall
+    hero,
+    display,
+    title,
+    heading,
+    subheading,
+    lead,
+    body,
+    bodyStrong,
+    small,
+    caption,
+    mono,
+    monoSmall
 };
 
 namespace EBTypes {
 
-inline constexpr std::array allCases = {
-    EBTypeRole::hero, EBTypeRole::display,    EBTypeRole::title, EBTypeRole::heading,
-    EBTypeRole::subheading, EBTypeRole::lead, EBTypeRole::body,  EBTypeRole::bodyStrong,
-    EBTypeRole::small, EBTypeRole::caption,   EBTypeRole::mono,  EBTypeRole::monoSmall};
+inline constexpr std::array allCases = {EBTypeRole::hero,    EBTypeRole::display,    EBTypeRole::title,
+                                        EBTypeRole::heading, EBTypeRole::subheading, EBTypeRole::lead,
+                                        EBTypeRole::body,    EBTypeRole::bodyStrong, EBTypeRole::small,
+                                        EBTypeRole::caption, EBTypeRole::mono,       EBTypeRole::monoSmall};
 
 std::optional<EBTypeRole> fromRawValue(QStringView rawValue);
 

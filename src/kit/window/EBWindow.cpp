@@ -26,9 +26,10 @@ EBWindow::EBWindow(QSize contentSize, Style style) : m_style(style)
 
 void EBWindow::host(QQuickItem *view)
 {
-    const auto fill = [this, view] { view->setSize(contentItem()->size()); };
-    connect(contentItem(), &QQuickItem::widthChanged, view, fill);
-    connect(contentItem(), &QQuickItem::heightChanged, view, fill);
+    // Before a window is shown it has its size already, and its content item has none.
+    const auto fill = [this, view] { view->setSize(size()); };
+    connect(this, &QWindow::widthChanged, view, fill);
+    connect(this, &QWindow::heightChanged, view, fill);
     view->setParent(contentItem());
     view->setParentItem(contentItem());
     fill();

@@ -44,6 +44,7 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
     connect(root, &MeasuredItem::measured, this, &EBSettingsWindowController::fit);
     m_window->host(root);
     m_window->center();
+    root->settle();
     fit(root->contentSize());
 }
 

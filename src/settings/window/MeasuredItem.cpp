@@ -1,5 +1,23 @@
 #include "MeasuredItem.h"
 
+namespace {
+
+/// A positioner takes the sizes of what stands in it, so the inner items go first.
+void layOut(QQuickItem *item)
+{
+    for (QQuickItem *child : item->childItems())
+        layOut(child);
+    item->ensurePolished();
+}
+
+}
+
+void MeasuredItem::settle()
+{
+    for (QQuickItem *child : childItems())
+        layOut(child);
+}
+
 void MeasuredItem::setContentSize(QSizeF size)
 {
     if (m_contentSize == size)

@@ -15,6 +15,9 @@ public:
     QSizeF contentSize() const { return m_contentSize; }
     void setContentSize(QSizeF size);
 
+    /// Lays everything out now instead of at the next frame, so that `contentSize` is true.
+    void settle();
+
 signals:
     void contentSizeChanged();
     /// The size has changed. Said once a frame, however often the layout moved in between.

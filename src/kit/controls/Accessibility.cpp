@@ -1,0 +1,174 @@
+#include "Accessibility.h"
+
+#include <QAccessible>
+#include <QPointer>
+#include <QQuickItem>
+
+namespace {
+
+/// What Qt says about an item, with the corrections. Qt's own interface of the item stays in Qt's cache and
+/// belongs to it, so it is looked up whenever it is needed: it may go first.
+class MendedItem : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    MendedItem(QQuickItem *item, QAccessible::Id original)
+        : m_item(item),
+          m_original(original),
+          m_enabledChanged(
+              QObject::connect(item, &QQuickItem::enabledChanged, item, [item] { announce(item); }))
+    {
+    }
+    ~MendedItem() override { QObject::disconnect(m_enabledChanged); }
+    Q_DISABLE_COPY_MOVE(MendedItem)
+
+    bool isValid() const override { return m_item && original() && original()->isValid(); }
+    QObject *object() const override { return m_item; }
+
+    QAccessible::State state() const override
+    {
+        if (!isValid())
+            return {};
+        QAccessible::State state = original()->state();
+        if (!m_item->isEnabled()) {
+            state.disabled = true;
+            state.focusable = false;
+            state.focused = false;
+        }
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        auto *actions = enabledActions();
+        if (!actions)
+            return {};
+        QStringList names = actions->actionNames();
+        if (isPressableItem() && !names.contains(pressAction()))
+            names.prepend(pressAction());
+        return names;
+    }
+    void doAction(const QString &name) override
+    {
+        if (auto *actions = enabledActions())
+            actions->doAction(name);
+    }
+    QStringList keyBindingsForAction(const QString &name) const override
+    {
+        auto *actions = enabledActions();
+        return actions ? actions->keyBindingsForAction(name) : QStringList();
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (!isValid())
+            return nullptr;
+        if (type == QAccessible::ActionInterface)
+            return static_cast<QAccessibleActionInterface *>(this);
+        return original()->interface_cast(type);
+    }
+
+    QWindow *window() const override { return isValid() ? original()->window() : nullptr; }
+    QAccessibleInterface *parent() const override { return isValid() ? original()->parent() : nullptr; }
+    QAccessibleInterface *child(int index) const override
+    {
+        return isValid() ? original()->child(index) : nullptr;
+    }
+    int childCount() const override { return isValid() ? original()->childCount() : 0; }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return isValid() ? original()->indexOfChild(child) : -1;
+    }
+    QAccessibleInterface *childAt(int x, int y) const override
+    {
+        return isValid() ? mended(original()->childAt(x, y)) : nullptr;
+    }
+    QAccessibleInterface *focusChild() const override
+    {
+        return isValid() ? mended(original()->focusChild()) : nullptr;
+    }
+    QList<QPair<QAccessibleInterface *, QAccessible::Relation>>
+    relations(QAccessible::Relation match) const override
+    {
+        return isValid() ? original()->relations(match) : decltype(relations(match))();
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        return isValid() ? original()->text(kind) : QString();
+    }
+    void setText(QAccessible::Text kind, const QString &text) override
+    {
+        if (isValid())
+            original()->setText(kind, text);
+    }
+    QRect rect() const override { return isValid() ? original()->rect() : QRect(); }
+    QAccessible::Role role() const override { return isValid() ? original()->role() : QAccessible::NoRole; }
+    QColor foregroundColor() const override { return isValid() ? original()->foregroundColor() : QColor(); }
+    QColor backgroundColor() const override { return isValid() ? original()->backgroundColor() : QColor(); }
+    void virtual_hook(int id, void *data) override
+    {
+        if (isValid())
+            original()->virtual_hook(id, data);
+    }
+
+private:
+    static void announce(QQuickItem *item)
+    {
+        QAccessible::State changed;
+        changed.disabled = true;
+        changed.focusable = true;
+        QAccessibleStateChangeEvent event(item, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+
+    QAccessibleInterface *original() const { return QAccessible::accessibleInterface(m_original); }
+
+    QAccessibleInterface *mended(QAccessibleInterface *found) const
+    {
+        return found == original() ? const_cast<MendedItem *>(this) : found;
+    }
+
+    QAccessibleActionInterface *enabledActions() const
+    {
+        return isValid() && m_item->isEnabled() ? original()->actionInterface() : nullptr;
+    }
+
+    bool isPressableItem() const
+    {
+        const QAccessible::Role kind = role();
+        return (kind == QAccessible::PageTab || kind == QAccessible::ListItem)
+            && m_item->metaObject()->indexOfMethod("accessiblePressAction()") >= 0;
+    }
+
+    QPointer<QQuickItem> m_item;
+    QAccessible::Id m_original;
+    QMetaObject::Connection m_enabledChanged;
+};
+
+/// Set while Qt is asked for its own interface of an item.
+bool askingQt = false;
+
+QAccessibleInterface *mend(const QString &className, QObject *object)
+{
+    // Qt's factory answers at this class; the classes below it belong to whoever installed a factory for
+    // them.
+    if (askingQt || className != QLatin1String("QQuickItem"))
+        return nullptr;
+    auto *item = qobject_cast<QQuickItem *>(object);
+    if (!item)
+        return nullptr;
+    askingQt = true;
+    QAccessibleInterface *original = QAccessible::queryAccessibleInterface(item);
+    askingQt = false;
+    // Both are now in the cache for this item, and the cache hands out the younger one, which is ours.
+    return original ? new MendedItem(item, QAccessible::uniqueId(original)) : nullptr;
+}
+
+}
+
+void installKitAccessibility()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(mend);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}

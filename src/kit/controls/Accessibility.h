@@ -1,0 +1,11 @@
+#pragma once
+
+/// Mends, for every item of this process, what Qt Quick tells assistive technologies wrongly:
+/// - a disabled item says that it is disabled and cannot take the focus, offers no actions and takes none,
+/// and
+///   announces the change when it is enabled or disabled;
+/// - a tab or an item of a list that can be pressed says so.
+///
+/// To be called once, after the application object is made and before the first window is; again it does
+/// nothing.
+void installKitAccessibility();
