@@ -32,10 +32,18 @@ function(corvane_view_room name)
     cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;SINGLETONS;DEPENDS;LINK" ${ARGN})
     set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     qt_add_library(${name} STATIC)
+    # What the types of this module are made of, so that qmllint can follow them.
+    set(modules QtQuick)
+    foreach(room IN LISTS ARG_DEPENDS)
+        get_property(uri GLOBAL PROPERTY CORVANE_URI_${room})
+        list(APPEND modules ${uri})
+    endforeach()
+    set_property(GLOBAL PROPERTY CORVANE_URI_${name} ${ARG_URI})
     qt_add_qml_module(${name}
         URI ${ARG_URI}
         VERSION 1.0
         RESOURCE_PREFIX /qt/qml
+        DEPENDENCIES ${modules}
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")

@@ -1,5 +1,6 @@
 #include "SettingsAppDelegate.h"
 
+#include "Accessibility.h"
 #include "EBKitFonts.h"
 #include "EBSettingsWindowController.h"
 #include "GeneralActions.h"
@@ -12,6 +13,7 @@
 SettingsAppDelegate::SettingsAppDelegate()
 {
     QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
+    installKitAccessibility();
     GeneralActions::setGuideOpener(&SettingsAppDelegate::openGuide);
 }
 
@@ -37,6 +39,7 @@ void SettingsAppDelegate::openSettings()
         initial = qEnvironmentVariable("CV_TAB");
     m_settings = std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version,
                                                               SettingsPages::make(), initial);
+    platform.appearance().settle();
     m_settings->showWindow();
 }
 

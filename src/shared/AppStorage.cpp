@@ -31,16 +31,26 @@ QVariant storable(const QVariant &value)
 
 AppStorage::AppStorage(QObject *parent) : QObject(parent), m_store(Shared::store())
 {
-    connect(this, &AppStorage::keyChanged, this, &AppStorage::followKey);
     connect(&m_store, &UserDefaults::changed, this, [this](const QString &changedKey) {
-        if (changedKey.isEmpty() || changedKey == key())
+        if (changedKey.isEmpty() || changedKey == m_key)
             reread();
     });
 }
 
+void AppStorage::setKey(const QString &key)
+{
+    if (m_key == key)
+        return;
+    m_key = key;
+    emit keyChanged();
+    if (!m_ownDefault.isValid())
+        emit defaultValueChanged();
+    reread();
+}
+
 QVariant AppStorage::defaultValue() const
 {
-    return m_ownDefault.isValid() ? m_ownDefault : Contract::defaultValue(key());
+    return m_ownDefault.isValid() ? m_ownDefault : Contract::defaultValue(m_key);
 }
 
 void AppStorage::setDefaultValue(const QVariant &value)
@@ -60,9 +70,9 @@ void AppStorage::setValue(const QVariant &value)
         return;
     }
     const QVariant typed = storable(value);
-    if (key().isEmpty() || !typed.isValid() || typed.metaType() != defaultValue().metaType())
+    if (m_key.isEmpty() || !typed.isValid() || typed.metaType() != defaultValue().metaType())
         return;
-    m_store.setValue(key(), typed);
+    m_store.setValue(m_key, typed);
     reread();
 }
 
@@ -72,19 +82,10 @@ void AppStorage::componentComplete()
     setValue(std::exchange(m_early, {}));
 }
 
-void AppStorage::followKey()
-{
-    if (!m_ownDefault.isValid())
-        emit defaultValueChanged();
-    reread();
-}
-
 void AppStorage::reread()
 {
-    if (key().isEmpty())
-        return;
-    const QVariant fallback = defaultValue();
-    const QVariant stored = storable(m_store.value(key()));
+    const QVariant fallback = m_key.isEmpty() ? QVariant() : defaultValue();
+    const QVariant stored = storable(m_store.value(m_key));
     const QVariant value = stored.metaType() == fallback.metaType() ? stored : fallback;
     if (m_value == value && m_value.metaType() == value.metaType())
         return;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QProperty>
 #include <QQmlParserStatus>
 #include <QVariant>
 #include <qqmlregistration.h>
@@ -22,16 +21,14 @@ class AppStorage : public QObject, public QQmlParserStatus {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
     QML_ELEMENT
-    Q_PROPERTY(QString key READ key WRITE setKey NOTIFY keyChanged BINDABLE bindableKey REQUIRED)
+    Q_PROPERTY(QString key READ key WRITE setKey NOTIFY keyChanged REQUIRED)
     Q_PROPERTY(QVariant defaultValue READ defaultValue WRITE setDefaultValue NOTIFY defaultValueChanged)
     Q_PROPERTY(QVariant value READ value WRITE setValue NOTIFY valueChanged)
 public:
     explicit AppStorage(QObject *parent = nullptr);
 
     QString key() const { return m_key; }
-    void setKey(const QString &key) { m_key = key; }
-    /// Bindable, so that a bound key is known before any binding reads `value`.
-    QBindable<QString> bindableKey() { return &m_key; }
+    void setKey(const QString &key);
     QVariant defaultValue() const;
     void setDefaultValue(const QVariant &value);
     QVariant value() const { return m_value; }
@@ -46,11 +43,10 @@ signals:
     void valueChanged();
 
 private:
-    void followKey();
     void reread();
 
     UserDefaults &m_store;
-    Q_OBJECT_BINDABLE_PROPERTY(AppStorage, QString, m_key, &AppStorage::keyChanged)
+    QString m_key;
     QVariant m_ownDefault;
     QVariant m_value;
     QVariant m_early;

@@ -7,7 +7,7 @@ const QList<Contract::StoreKey> &Contract::storeKeys()
 {
     static const QList<StoreKey> keys = [] {
         QList<StoreKey> list = {
-#define STORE_KEY(identifier, name, value, writer, meaning)                                                  \
+#define STORE_KEY(identifier, name, value, writer, meaning)                                                            \
     StoreKey{QStringLiteral(name), value, QStringLiteral(writer), QStringLiteral(meaning)},
             CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY
@@ -24,7 +24,7 @@ const QList<Contract::StoreKey> &Contract::storeKeys()
 const QList<Contract::CommandEntry> &Contract::commands()
 {
     static const QList<CommandEntry> list = {
-#define COMMAND(identifier, name, carriesValue, meaning)                                                     \
+#define COMMAND(identifier, name, carriesValue, meaning)                                                               \
     CommandEntry{QStringLiteral(name), carriesValue, QStringLiteral(meaning)},
         CORVANE_COMMANDS(COMMAND)
 #undef COMMAND

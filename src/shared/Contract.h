@@ -8,49 +8,44 @@
 /// declared once. Accessors, the QML names, the tests and docs/contract.md derive from these two tables.
 
 /// STORE_KEY(identifier, name, default, written by, meaning). The default's type is the type of the key.
-#define CORVANE_STORE_KEYS(STORE_KEY)                                                                        \
-    STORE_KEY(onboardingCompleted, "onboardingCompleted", false, "application",                              \
-              "The person has finished the onboarding guide.")                                               \
-    STORE_KEY(menuBarIconHidden, "menuBarIconHidden", false, "application",                                  \
-              "The agent shows no menu-bar icon.")                                                           \
-    STORE_KEY(agentAccessibilityTrusted, "agent.accessibilityTrusted", false, "agent",                       \
-              "The agent has the Accessibility permission.")                                                 \
-    STORE_KEY(agentLaunchAtLogin, "agent.launchAtLogin", false, "both",                                      \
-              "The agent is registered to start at login; the application writes the choice ahead of the "   \
-              "agent's report.")                                                                             \
-    STORE_KEY(agentLaunchAtLoginNeedsApproval, "agent.launchAtLoginNeedsApproval", false, "both",            \
-              "The login item waits for the person's approval; the application writes false with each "      \
-              "choice.")                                                                                     \
-    STORE_KEY(buttonTheme, "buttonTheme", QStringLiteral("classic"), "application",                          \
-              "Look of the overlay buttons: classic, soft, graphite, mono or outline.")                      \
-    STORE_KEY(buttonSizeOption, "buttonSizeOption", QStringLiteral("medium"), "application",                 \
-              "Size of the overlay buttons: small, medium or large.")                                        \
-    STORE_KEY(showMinimizeButton, "showMinimizeButton", false, "application",                                \
-              "A minimize button is shown next to Close.")                                                   \
-    STORE_KEY(showMaximizeButton, "showMaximizeButton", false, "application",                                \
-              "A full-screen button is shown.")                                                              \
-    STORE_KEY(maximizeMode, "maximizeMode", QStringLiteral("fullscreen"), "application",                     \
-              "What the full-screen button and ⌘F do: fullscreen or fill.")                                  \
-    STORE_KEY(layoutsEnabled, "layouts.enabled", true, "application",                                        \
-              "Snapping and layouts in the window overview are on.")                                         \
-    STORE_KEY(layoutsShelf, "layouts.shelf", true, "application",                                            \
-              "The layouts handle and shelf are shown in the window overview.")                              \
-    STORE_KEY(layoutsGap, "layouts.gap", 0.0, "application", "Space between arranged windows, in points.")   \
-    STORE_KEY(layoutsLaunchApps, "layouts.launchApps", true, "application",                                  \
-              "Restoring a saved layout opens applications that are not running.")                           \
-    STORE_KEY(                                                                                               \
-        layoutsSaved, "layouts.saved", QString(), "both",                                                    \
-        "The saved layouts, as JSON text; absent: none. The agent adds layouts, the application renames "    \
-        "and deletes them, and each write replaces the whole list.")
+#define CORVANE_STORE_KEYS(STORE_KEY)                                                                                  \
+    STORE_KEY(onboardingCompleted, "onboardingCompleted", false, "application",                                        \
+              "The person has finished the onboarding guide.")                                                         \
+    STORE_KEY(menuBarIconHidden, "menuBarIconHidden", false, "application", "The agent shows no menu-bar icon.")       \
+    STORE_KEY(agentAccessibilityTrusted, "agent.accessibilityTrusted", false, "agent",                                 \
+              "The agent has the Accessibility permission.")                                                           \
+    STORE_KEY(agentLaunchAtLogin, "agent.launchAtLogin", false, "both",                                                \
+              "The agent is registered to start at login; the application writes the choice ahead of the "             \
+              "agent's report.")                                                                                       \
+    STORE_KEY(agentLaunchAtLoginNeedsApproval, "agent.launchAtLoginNeedsApproval", false, "both",                      \
+              "The login item waits for the person's approval; the application writes false with each "                \
+              "choice.")                                                                                               \
+    STORE_KEY(buttonTheme, "buttonTheme", QStringLiteral("classic"), "application",                                    \
+              "Look of the overlay buttons: classic, soft, graphite, mono or outline.")                                \
+    STORE_KEY(buttonSizeOption, "buttonSizeOption", QStringLiteral("medium"), "application",                           \
+              "Size of the overlay buttons: small, medium or large.")                                                  \
+    STORE_KEY(showMinimizeButton, "showMinimizeButton", false, "application",                                          \
+              "A minimize button is shown next to Close.")                                                             \
+    STORE_KEY(showMaximizeButton, "showMaximizeButton", false, "application", "A full-screen button is shown.")        \
+    STORE_KEY(maximizeMode, "maximizeMode", QStringLiteral("fullscreen"), "application",                               \
+              "What the full-screen button and ⌘F do: fullscreen or fill.")                                            \
+    STORE_KEY(layoutsEnabled, "layouts.enabled", true, "application",                                                  \
+              "Snapping and layouts in the window overview are on.")                                                   \
+    STORE_KEY(layoutsShelf, "layouts.shelf", true, "application",                                                      \
+              "The layouts handle and shelf are shown in the window overview.")                                        \
+    STORE_KEY(layoutsGap, "layouts.gap", 0.0, "application", "Space between arranged windows, in points.")             \
+    STORE_KEY(layoutsLaunchApps, "layouts.launchApps", true, "application",                                            \
+              "Restoring a saved layout opens applications that are not running.")                                     \
+    STORE_KEY(layoutsSaved, "layouts.saved", QString(), "both",                                                        \
+              "The saved layouts, as JSON text; absent: none. The agent adds layouts, the application renames "        \
+              "and deletes them, and each write replaces the whole list.")
 
 /// COMMAND(identifier, name, carries a value, asks the agent to).
-#define CORVANE_COMMANDS(COMMAND)                                                                            \
-    COMMAND(applySettings, "applySettings", false,                                                           \
-            "Read the settings in the store again and apply them now.")                                      \
-    COMMAND(setLaunchAtLogin, "setLaunchAtLogin", true,                                                      \
-            "Register (true) or unregister (false) itself as a login item.")                                 \
-    COMMAND(requestAccessibility, "requestAccessibility", false,                                             \
-            "Ask the system for the Accessibility permission.")                                              \
+#define CORVANE_COMMANDS(COMMAND)                                                                                      \
+    COMMAND(applySettings, "applySettings", false, "Read the settings in the store again and apply them now.")         \
+    COMMAND(setLaunchAtLogin, "setLaunchAtLogin", true,                                                                \
+            "Register (true) or unregister (false) itself as a login item.")                                           \
+    COMMAND(requestAccessibility, "requestAccessibility", false, "Ask the system for the Accessibility permission.")   \
     COMMAND(checkForUpdates, "checkForUpdates", false, "Run its update check.")
 
 namespace Contract {

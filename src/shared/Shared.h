@@ -21,8 +21,7 @@ namespace Command {
 /// The name of the notification that carries every command.
 inline const QString name = QStringLiteral("com.vexmoor.corvane.command");
 
-#define COMMAND(identifier, text, carriesValue, meaning)                                                     \
-    inline const QString identifier = QStringLiteral(text);
+#define COMMAND(identifier, text, carriesValue, meaning) inline const QString identifier = QStringLiteral(text);
 CORVANE_COMMANDS(COMMAND)
 #undef COMMAND
 
@@ -30,8 +29,7 @@ CORVANE_COMMANDS(COMMAND)
 
 namespace Key {
 
-#define STORE_KEY(identifier, text, value, writer, meaning)                                                  \
-    inline const QString identifier = QStringLiteral(text);
+#define STORE_KEY(identifier, text, value, writer, meaning) inline const QString identifier = QStringLiteral(text);
 CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY
 
@@ -47,7 +45,6 @@ UserDefaults &store();
 /// Posts one command. `value` present means one entry "value", absent means no entry at all. An entry of
 /// `extra` under "command" or "value" replaces what stood there. Nothing is answered: the agent's reaction
 /// shows as changed "agent." keys, and without an agent the command is lost.
-void send(const QString &command, std::optional<bool> value = std::nullopt,
-          const QMap<QString, QString> &extra = {});
+void send(const QString &command, std::optional<bool> value = std::nullopt, const QMap<QString, QString> &extra = {});
 
 }

@@ -10,15 +10,14 @@ class StoreKeys : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(Key)
     QML_SINGLETON
-#define STORE_KEY(identifier, text, value, writer, meaning)                                                  \
-    Q_PROPERTY(QString identifier READ identifier CONSTANT)
+#define STORE_KEY(identifier, text, value, writer, meaning) Q_PROPERTY(QString identifier READ identifier CONSTANT)
     CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY
 public:
-#define STORE_KEY(identifier, text, value, writer, meaning)                                                  \
-    QString identifier() const                                                                               \
-    {                                                                                                        \
-        return Shared::Key::identifier;                                                                      \
+#define STORE_KEY(identifier, text, value, writer, meaning)                                                            \
+    QString identifier() const                                                                                         \
+    {                                                                                                                  \
+        return Shared::Key::identifier;                                                                                \
     }
     CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY

@@ -62,14 +62,14 @@ void TestEBApp::aProductOwnsItsAccentFamily_data()
     QTest::addColumn<Colors>("family");
 
     QTest::newRow("quiller") << EBApp::quiller
-                             << Colors{&EBKit::coral(), &EBKit::onCoral(), &EBKit::loudCoral(),
-                                       &EBKit::onLoudCoral(), &EBKit::loudCoralDot()};
+                             << Colors{&EBKit::coral(), &EBKit::onCoral(), &EBKit::loudCoral(), &EBKit::onLoudCoral(),
+                                       &EBKit::loudCoralDot()};
     QTest::newRow("corvane") << EBApp::corvane
                              << Colors{&EBKit::indigo(), &EBKit::onIndigo(), &EBKit::loudIndigo(),
                                        &EBKit::onLoudIndigo(), &EBKit::loudIndigoDot()};
     QTest::newRow("parcelo") << EBApp::parcelo
-                             << Colors{&EBKit::teal(), &EBKit::onTeal(), &EBKit::loudTeal(),
-                                       &EBKit::onLoudTeal(), &EBKit::loudTealDot()};
+                             << Colors{&EBKit::teal(), &EBKit::onTeal(), &EBKit::loudTeal(), &EBKit::onLoudTeal(),
+                                       &EBKit::loudTealDot()};
 }
 
 void TestEBApp::aProductOwnsItsAccentFamily()

@@ -14,6 +14,7 @@ class TestEBEnvironment : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QVERIFY(make("Item {}")); }
     void init();
     void cleanup() { m_root.reset(); }
 

@@ -20,9 +20,8 @@ void TestEBKitFonts::bothFacesAreRegisteredInOrder()
 {
     FakePlatform &platform = FakePlatform::install();
     for (const char *file : {"InstrumentSans-SemiBold.ttf", "GeistMono-Medium.ttf"}) {
-        platform.main.resources.insert(
-            QString::fromLatin1(file),
-            QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + QLatin1String(file)));
+        platform.main.resources.insert(QString::fromLatin1(file),
+                                       QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + QLatin1String(file)));
     }
     EBKitFonts::registerFonts();
     QVERIFY(QFontDatabase::applicationFontFamilies(0).contains(QStringLiteral("Instrument Sans")));

@@ -2,6 +2,7 @@
 #include "FakePlatform.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QTest>
 
 namespace {
@@ -28,14 +29,12 @@ private slots:
 void TestEBKitFontsMissing::aMissingFileIsOneLineAndTheOtherFaceIsRegistered()
 {
     FakePlatform &platform = FakePlatform::install();
-    platform.main.resources.insert(
-        QStringLiteral("InstrumentSans-SemiBold.ttf"),
-        QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER "InstrumentSans-SemiBold.ttf")));
+    platform.main.resources.insert(QStringLiteral("InstrumentSans-SemiBold.ttf"),
+                                   QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER "InstrumentSans-SemiBold.ttf")));
     const auto before = qInstallMessageHandler(record);
     EBKitFonts::registerFonts();
     qInstallMessageHandler(before);
-    QCOMPARE(logged,
-             QStringList(QStringLiteral("Embera: font GeistMono-Medium.ttf is missing from the bundle")));
+    QCOMPARE(logged, QStringList(QStringLiteral("Embera: font GeistMono-Medium.ttf is missing from the bundle")));
     QVERIFY(QFontDatabase::applicationFontFamilies(0).contains(QStringLiteral("Instrument Sans")));
     QVERIFY(QFontDatabase::applicationFontFamilies(1).isEmpty());
 }

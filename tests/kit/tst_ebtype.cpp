@@ -3,6 +3,7 @@
 #include "FakePlatform.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRawFont>

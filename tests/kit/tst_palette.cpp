@@ -53,8 +53,8 @@ const QList<Token> tokens = {
     {"ok", EBKit::ok, "#1F8A4C", 1, "#4CD07D", 1},
 };
 
-const QList<std::optional<AppearanceName>> lightNames = {
-    AppearanceName::Aqua, AppearanceName::AccessibilityHighContrastAqua, std::nullopt};
+const QList<std::optional<AppearanceName>> lightNames = {AppearanceName::Aqua,
+                                                         AppearanceName::AccessibilityHighContrastAqua, std::nullopt};
 const QList<std::optional<AppearanceName>> darkNames = {AppearanceName::DarkAqua,
                                                         AppearanceName::AccessibilityHighContrastDarkAqua};
 
@@ -152,9 +152,9 @@ void TestPalette::withoutAnyMatchTheLightValuesAreUsed()
 
 void TestPalette::theFixedTokensAreTheSameInLightAndDark()
 {
-    for (const auto &color : {EBKit::knob, EBKit::loudCoral, EBKit::loudIndigo, EBKit::loudTeal,
-                              EBKit::onLoudCoral, EBKit::onLoudIndigo, EBKit::onLoudTeal, EBKit::loudCoralDot,
-                              EBKit::loudIndigoDot, EBKit::loudTealDot})
+    for (const auto &color :
+         {EBKit::knob, EBKit::loudCoral, EBKit::loudIndigo, EBKit::loudTeal, EBKit::onLoudCoral, EBKit::onLoudIndigo,
+          EBKit::onLoudTeal, EBKit::loudCoralDot, EBKit::loudIndigoDot, EBKit::loudTealDot})
         QCOMPARE(color().resolved(AppearanceName::Aqua), color().resolved(AppearanceName::DarkAqua));
 }
 
@@ -194,18 +194,15 @@ void TestPalette::qmlSeesEveryToken()
     QFETCH(int, index);
     const Token &token = tokens[index];
     EB palette;
-    compare(palette.property(token.name).value<QColor>(), QString::fromLatin1(token.lightHex),
-            token.lightAlpha);
+    compare(palette.property(token.name).value<QColor>(), QString::fromLatin1(token.lightHex), token.lightAlpha);
     m_platform->look.setName(AppearanceName::DarkAqua);
-    compare(palette.property(token.name).value<QColor>(), QString::fromLatin1(token.darkHex),
-            token.darkAlpha);
+    compare(palette.property(token.name).value<QColor>(), QString::fromLatin1(token.darkHex), token.darkAlpha);
 }
 
 void TestPalette::qmlHasNoTokenBeyondTheTable()
 {
     QStringList seen;
-    for (int index = EB::staticMetaObject.propertyOffset(); index < EB::staticMetaObject.propertyCount();
-         ++index) {
+    for (int index = EB::staticMetaObject.propertyOffset(); index < EB::staticMetaObject.propertyCount(); ++index) {
         const QMetaProperty property = EB::staticMetaObject.property(index);
         if (property.metaType() == QMetaType::fromType<QColor>())
             seen.append(QString::fromLatin1(property.name()));
@@ -220,8 +217,7 @@ void TestPalette::qmlFollowsTheAppearance()
 {
     QQmlEngine engine;
     QQmlComponent component(&engine);
-    component.setData("import QtQml\nimport Embera.Tokens\nQtObject { property string paper: EB.paper }",
-                      QUrl());
+    component.setData("import QtQml\nimport Embera.Tokens\nQtObject { property string paper: EB.paper }", QUrl());
     const std::unique_ptr<QObject> root(component.create());
     QVERIFY2(root, qPrintable(component.errorString()));
     QCOMPARE(root->property("paper"), QVariant(QStringLiteral("#f7f6f2")));

@@ -30,9 +30,9 @@ public:
         QAccessible::State state = original()->state();
         if (!m_item->isEnabled()) {
             state.disabled = true;
-            state.focusable = false;
             state.focused = false;
         }
+        state.focusable = state.focusable && takesFocus();
         return state;
     }
 
@@ -44,6 +44,8 @@ public:
         QStringList names = actions->actionNames();
         if (isPressableItem() && !names.contains(pressAction()))
             names.prepend(pressAction());
+        if (!takesFocus())
+            names.removeAll(setFocusAction());
         return names;
     }
     void doAction(const QString &name) override
@@ -100,7 +102,13 @@ public:
             original()->setText(kind, text);
     }
     QRect rect() const override { return isValid() ? original()->rect() : QRect(); }
-    QAccessible::Role role() const override { return isValid() ? original()->role() : QAccessible::NoRole; }
+    QAccessible::Role role() const override
+    {
+        if (!isValid())
+            return QAccessible::NoRole;
+        const QVariant declared = m_item->property("accessibleRole");
+        return declared.isValid() ? QAccessible::Role(declared.toInt()) : original()->role();
+    }
     QColor foregroundColor() const override { return isValid() ? original()->foregroundColor() : QColor(); }
     QColor backgroundColor() const override { return isValid() ? original()->backgroundColor() : QColor(); }
     void virtual_hook(int id, void *data) override
@@ -129,6 +137,11 @@ private:
     QAccessibleActionInterface *enabledActions() const
     {
         return isValid() && m_item->isEnabled() ? original()->actionInterface() : nullptr;
+    }
+
+    bool takesFocus() const
+    {
+        return m_item->isEnabled() && (role() != QAccessible::StaticText || m_item->activeFocusOnTab());
     }
 
     bool isPressableItem() const

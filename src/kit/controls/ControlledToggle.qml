@@ -18,10 +18,16 @@ T.CheckBox {
         isFlipping = false;
         return checkState;
     }
+    function accessiblePressAction() {
+        flip();
+    }
+    function accessibleToggleAction() {
+        flip();
+    }
 
     checkState: isOn ? Qt.Checked : Qt.Unchecked
     nextCheckState: flip
     Accessible.name: text
-    Keys.onReturnPressed: event => event.isAutoRepeat || control.click()
-    Keys.onEnterPressed: event => event.isAutoRepeat || control.click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || control.flip()
+    Keys.onEnterPressed: event => event.isAutoRepeat || control.flip()
 }

@@ -18,6 +18,7 @@ Pressable {
     implicitWidth: size
     implicitHeight: size
     opacity: enabled ? 1 : 0.4
+    hoverEnabled: true
     containmentMask: circle
 
     background: ContinuousRectangle {

@@ -5,7 +5,7 @@ import Embera.Glyphs
 import Embera.Controls
 
 /// A search field. `text` follows every keystroke; Escape and the clear button empty it.
-T.Control {
+ContinuousRectangle {
     id: control
 
     /// Shown while the field is empty, and its name for accessibility.
@@ -24,19 +24,19 @@ T.Control {
 
     implicitWidth: 160
     implicitHeight: 28
+    color: EB.chip
     opacity: enabled ? 1 : 0.4
 
-    background: ContinuousRectangle {
-        color: EB.chip
-    }
-    contentItem: T.TextField {
+    T.TextField {
         id: field
 
+        readonly property bool mirrored: effectiveHorizontalAlignment === TextInput.AlignRight
         readonly property real leading: 10 + glyph.width + 6
         readonly property real trailing: clearButton.visible ? clearButton.width : 10
 
-        leftPadding: control.mirrored ? trailing : leading
-        rightPadding: control.mirrored ? leading : trailing
+        anchors.fill: parent
+        leftPadding: mirrored ? trailing : leading
+        rightPadding: mirrored ? leading : trailing
         horizontalAlignment: TextInput.AlignLeft
         verticalAlignment: TextInput.AlignVCenter
         font: EBType.font("body")
@@ -69,7 +69,6 @@ T.Control {
             Accessible.ignored: true
         }
     }
-
     Glyph {
         id: glyph
 
@@ -89,7 +88,7 @@ T.Control {
         width: 6 + 11 + 10
         height: parent.height
         text: qsTr("Clear search")
-        visible: control.text !== ""
+        visible: field.length > 0
         onClicked: field.clear()
 
         contentItem: Item {

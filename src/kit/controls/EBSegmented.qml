@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 
 /// A chooser over a short list of values. It highlights the first option whose value equals `selection`, which it
 /// never sets itself; choosing an option emits `selected` with its value.
-T.Control {
+ContinuousRectangle {
     id: control
 
     /// The name for accessibility; it is not drawn.
@@ -26,14 +25,19 @@ T.Control {
         segments.itemAt(Math.max(0, selectedIndex)).forceActiveFocus(Qt.TabFocusReason);
     }
 
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    padding: 2
+    /// Chooses the option `step` places to the right of the highlighted one.
+    function chooseRight(step: int) {
+        choose(selectedIndex + (row.effectiveLayoutDirection === Qt.RightToLeft ? -step : step));
+    }
+
+    implicitWidth: row.implicitWidth + 2 * row.x
+    implicitHeight: row.implicitHeight + 2 * row.y
+    color: EB.chip
     opacity: enabled ? 1 : 0.4
     Accessible.role: Accessible.Grouping
     Accessible.name: label
-    Keys.onLeftPressed: choose(selectedIndex + (mirrored ? 1 : -1))
-    Keys.onRightPressed: choose(selectedIndex + (mirrored ? -1 : 1))
+    Keys.onLeftPressed: chooseRight(-1)
+    Keys.onRightPressed: chooseRight(1)
     Keys.onUpPressed: choose(selectedIndex - 1)
     Keys.onDownPressed: choose(selectedIndex + 1)
     Keys.onPressed: event => {
@@ -42,12 +46,11 @@ T.Control {
             choose(event.key === Qt.Key_Home ? 0 : options.length - 1);
     }
 
-    background: ContinuousRectangle {
-        id: capsule
+    Row {
+        id: row
 
-        color: EB.chip
-    }
-    contentItem: Row {
+        x: 2
+        y: 2
         spacing: 2
 
         Repeater {
@@ -56,10 +59,11 @@ T.Control {
             model: control.options
 
             delegate: Segment {
-                ringParent: capsule
+                ringParent: control
                 isOn: index === control.selectedIndex
-                // One stop for the Tab key: the chosen segment, or the first one while none is chosen.
-                focusPolicy: index === Math.max(0, control.selectedIndex) ? Qt.StrongFocus : Qt.ClickFocus
+                // One stop for the Tab key: the chosen segment, or the first one while none is chosen. The focus stays
+                // where it is when the choice changes from outside.
+                focusPolicy: activeFocus || index === Math.max(0, control.selectedIndex) ? Qt.StrongFocus : Qt.ClickFocus
                 onFlipped: control.selected(modelData.value)
             }
         }

@@ -1,11 +1,16 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// What every button of the kit does: it is named by its text, and Return and Enter press it as Space does.
+/// What every button of the kit does: it is named by its text, and Return, Enter and an assistive technology press it
+/// as Space does. One that is a tab or an item of a list declares the property `accessibleRole`.
 T.AbstractButton {
     id: control
 
+    function accessiblePressAction() {
+        clicked();
+    }
+
     Accessible.name: text
-    Keys.onReturnPressed: event => event.isAutoRepeat || control.click()
-    Keys.onEnterPressed: event => event.isAutoRepeat || control.click()
+    Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || control.clicked()
 }

@@ -9,5 +9,7 @@ EBText {
     wrapMode: Text.Wrap
     leftPadding: 16
     rightPadding: 16
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
     width: parent?.width ?? implicitWidth
 }

@@ -52,6 +52,8 @@ Item {
                 text: row.title
                 role: "bodyStrong"
                 horizontalAlignment: Text.AlignLeft
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 wrapMode: Text.Wrap
             }
             EBText {
@@ -62,8 +64,11 @@ Item {
                 role: "caption"
                 color: EB.inkMuted
                 horizontalAlignment: Text.AlignLeft
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 wrapMode: Text.Wrap
                 visible: text !== ""
+                Accessible.ignored: !visible
             }
         }
         Row {

@@ -17,10 +17,10 @@ class EB : public QObject {
 public:
     explicit EB(QObject *parent = nullptr);
 
-#define EB_TOKEN(name, ...)                                                                                  \
-    QColor name() const                                                                                      \
-    {                                                                                                        \
-        return EBKit::name().current();                                                                      \
+#define EB_TOKEN(name, ...)                                                                                            \
+    QColor name() const                                                                                                \
+    {                                                                                                                  \
+        return EBKit::name().current();                                                                                \
     }
     EB_COLOR_TOKENS(EB_TOKEN, EB_TOKEN)
 #undef EB_TOKEN

@@ -18,8 +18,8 @@ public:
     /// The dark value for the two dark names, the light value otherwise, also where no name matched.
     constexpr QColor resolved(std::optional<AppearanceName> appearance) const
     {
-        const bool dark = appearance == AppearanceName::DarkAqua
-            || appearance == AppearanceName::AccessibilityHighContrastDarkAqua;
+        const bool dark =
+            appearance == AppearanceName::DarkAqua || appearance == AppearanceName::AccessibilityHighContrastDarkAqua;
         return dark ? m_dark : m_light;
     }
 

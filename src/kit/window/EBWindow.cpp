@@ -12,13 +12,20 @@ namespace {
 
 /// How far down the strip reaches that moves the window, in points.
 constexpr int titleBarHeight = 28;
+constexpr int resizeDuration = 200; // milliseconds
 
 }
 
 EBWindow::EBWindow(QSize contentSize, Style style) : m_style(style)
 {
     setFlags(Qt::Window | Qt::FramelessWindowHint);
-    setFrame(QRect(QPoint(), contentSize));
+    resize(contentSize);
+    fixSize();
+    m_resize.setDuration(resizeDuration);
+    m_resize.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&m_resize, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &height) { resize(width(), height.toInt()); });
+    connect(&m_resize, &QVariantAnimation::finished, this, &EBWindow::fixSize);
     const auto paint = [this] { setColor(EBKit::paper().current()); };
     connect(&Platform::current().appearance(), &Appearance::changed, this, paint);
     paint();
@@ -59,22 +66,37 @@ void EBWindow::center()
     setPosition(frame.topLeft());
 }
 
-void EBWindow::setFrame(const QRect &frame)
+void EBWindow::setHeight(int height, bool animate)
 {
-    // The limits go first in the direction of the change, so that no step in between is refused.
-    setMinimumSize(minimumSize().boundedTo(frame.size()));
-    setMaximumSize(maximumSize().expandedTo(frame.size()));
-    if (frame.topLeft() == position())
-        resize(frame.size());
-    else
-        setGeometry(frame);
-    setMinimumSize(frame.size());
-    setMaximumSize(frame.size());
+    m_resize.stop();
+    // A window manager refuses what lies outside the limits.
+    setMinimumHeight(std::min(this->height(), height));
+    setMaximumHeight(std::max(this->height(), height));
+    if (animate) {
+        m_resize.setStartValue(this->height());
+        m_resize.setEndValue(height);
+        m_resize.start();
+        return;
+    }
+    resize(width(), height);
+    fixSize();
+}
+
+int EBWindow::targetHeight() const
+{
+    return m_resize.state() == QAbstractAnimation::Running ? m_resize.endValue().toInt() : height();
+}
+
+void EBWindow::fixSize()
+{
+    setMinimumSize(size());
+    setMaximumSize(size());
 }
 
 void EBWindow::makeKeyAndOrderFront()
 {
+    if (isVisible())
+        raise();
     show();
-    raise();
     requestActivate();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQuickWindow>
+#include <QVariantAnimation>
 #include <qqmlregistration.h>
 
 /// A window of the kit: frameless, of fixed size, with a transparent title bar over its content. The kit
@@ -29,8 +30,12 @@ public:
     /// Places the window in the middle of its screen.
     void center();
 
-    /// Moves and resizes at once.
-    void setFrame(const QRect &frame);
+    /// Resizes the window to `height`, its top left corner kept: at once, or in a short animation that a later call
+    /// takes over.
+    void setHeight(int height, bool animate);
+
+    /// The height the window has, or is on its way to.
+    int targetHeight() const;
 
     bool miniaturizeButtonEnabled() const { return m_style.miniaturizeButtonEnabled; }
     bool zoomButtonEnabled() const { return m_style.zoomButtonEnabled; }
@@ -43,6 +48,8 @@ protected:
 
 private:
     void addChrome(QQmlEngine *engine);
+    void fixSize();
 
     Style m_style;
+    QVariantAnimation m_resize;
 };

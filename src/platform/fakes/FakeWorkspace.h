@@ -18,8 +18,7 @@ public:
 
     void open(const QUrl &url) override { openedURLs.append(url); }
 
-    void openApplication(const QUrl &bundleURL, const QStringList &arguments,
-                         std::function<void()> completion) override
+    void openApplication(const QUrl &bundleURL, const QStringList &arguments, std::function<void()> completion) override
     {
         openedApplications.append({bundleURL, arguments});
         QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(completion), Qt::QueuedConnection);

@@ -26,17 +26,15 @@ bool isElement(QStringView text)
         return character == u'_' || (character >= u'a' && character <= u'z')
             || (character >= u'A' && character <= u'Z');
     };
-    return !text.isEmpty() && isLetter(text.front())
-        && std::all_of(text.begin(), text.end(), [&](QChar character) {
-               return isLetter(character) || (character >= u'0' && character <= u'9');
-           });
+    return !text.isEmpty() && isLetter(text.front()) && std::all_of(text.begin(), text.end(), [&](QChar character) {
+        return isLetter(character) || (character >= u'0' && character <= u'9');
+    });
 }
 
 std::optional<Signal> signalNamed(const QString &name)
 {
     const QList<QStringView> elements = QStringView(name).split(u'.');
-    if (elements.size() < 3 || name.size() > longestName
-        || !std::all_of(elements.begin(), elements.end(), isElement))
+    if (elements.size() < 3 || name.size() > longestName || !std::all_of(elements.begin(), elements.end(), isElement))
         return std::nullopt;
     const QString interface = name.chopped(elements.last().size() + 1);
     return Signal{u'/' + QString(interface).replace(u'.', u'/'), interface, elements.last().toString()};
@@ -73,6 +71,5 @@ void DBusNotificationCenter::observe(const QString &name, QObject *context, Obse
     if (!signal || !bus)
         return;
     auto *receiver = new DBusSignalReceiver(std::move(observer), context);
-    bus->connect(QString(), signal->path, signal->interface, signal->member, QStringLiteral("a{sv}"),
-                 receiver, SLOT(receive(QVariantMap)));
+    bus->connect(QString(), signal->path, signal->interface, signal->member, receiver, SLOT(receive(QVariantMap)));
 }

@@ -8,6 +8,8 @@
 #include <dconf.h>
 #pragma pop_macro("signals")
 
+#include <thread>
+
 namespace {
 
 QByteArray folderOf(const QString &suiteName)
@@ -25,19 +27,16 @@ void silenceLibrary()
         [](const gchar *, GLogLevelFlags, const gchar *, gpointer) {}, nullptr);
 }
 
-// The library shares the one bus connection of the process, and that one ends the process when the bus goes
-// away.
+// The library shares the one bus connection of the process, and that one ends the process when the bus goes away,
+// unless it is told not to. Waiting for the connection is left to a thread, which needs no event loop and ends at once.
 void outliveBus()
 {
-    g_bus_get(
-        G_BUS_TYPE_SESSION, nullptr,
-        [](GObject *, GAsyncResult *result, gpointer) {
-            if (GDBusConnection *bus = g_bus_get_finish(result, nullptr)) {
-                g_dbus_connection_set_exit_on_close(bus, FALSE);
-                g_object_unref(bus);
-            }
-        },
-        nullptr);
+    std::thread([] {
+        if (GDBusConnection *bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr)) {
+            g_dbus_connection_set_exit_on_close(bus, FALSE);
+            g_object_unref(bus);
+        }
+    }).detach();
 }
 
 QVariant fromGVariant(GVariant *value)

@@ -160,12 +160,9 @@ void PortalAppearance::portalOwnerChanged(const QString &, const QString &, cons
 
 PortalAppearance::Look PortalAppearance::look() const
 {
-    const auto setting = [this](const QString &group, const QString &key) {
-        return m_settings.value(id(group, key));
-    };
+    const auto setting = [this](const QString &group, const QString &key) { return m_settings.value(id(group, key)); };
     // GNOME's own settings are older than the shared ones: they count where the shared ones are not there.
-    const auto isOn = [&](const QString &key, const QString &olderGroup, const QString &olderKey,
-                          bool olderOn) {
+    const auto isOn = [&](const QString &key, const QString &olderGroup, const QString &olderKey, bool olderOn) {
         const QVariant shared = setting(appearanceGroup, key);
         if (shared.isValid())
             return number(shared) == 1U;
@@ -178,8 +175,7 @@ PortalAppearance::Look PortalAppearance::look() const
         .isDark = hasScheme ? scheme == 1U : isDarkPalette(),
         .isHighContrast =
             isOn(QStringLiteral("contrast"), gnomeAccessibilityGroup, QStringLiteral("high-contrast"), true),
-        .reduceMotion =
-            isOn(QStringLiteral("reduced-motion"), gnomeGroup, QStringLiteral("enable-animations"), false),
+        .reduceMotion = isOn(QStringLiteral("reduced-motion"), gnomeGroup, QStringLiteral("enable-animations"), false),
     };
 }
 

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr QSize initialContent(620, 410);
-constexpr int resizeDuration = 200; // milliseconds
 constexpr qreal noise = 0.5;
 
 }
@@ -27,11 +26,6 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
     //: The title of the settings window; %1 is the product's name.
     m_window->setTitle(tr("%1 Settings").arg(EBApps::displayName(app)));
     m_window->center();
-
-    m_resize.setDuration(resizeDuration);
-    m_resize.setEasingCurve(QEasingCurve::InOutQuad);
-    connect(&m_resize, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &height) { setHeight(height.toInt()); });
 
     auto *root = ViewEngine::make<MeasuredItem>(
         engine, QStringLiteral("qrc:/qt/qml/Corvane/Settings/Window/SettingsRoot.qml"),
@@ -61,26 +55,13 @@ void EBSettingsWindowController::fit(QSizeF size)
         return;
     const qreal screenHeight = m_window->screen()->availableGeometry().height();
     const qreal wanted = std::min(std::ceil(size.height()), screenHeight);
-    if (m_resize.state() == QAbstractAnimation::Running && m_resize.endValue() == int(wanted))
-        return;
-    m_resize.stop();
-    const int current = m_window->height();
+    const int current = m_window->targetHeight();
     if (std::abs(wanted - current) <= noise || std::abs(size.height() - current) <= noise)
         return;
-    if (m_sized && m_window->isVisible() && !Platform::current().appearance().shouldReduceMotion()) {
-        m_resize.setStartValue(current);
-        m_resize.setEndValue(int(wanted));
-        m_resize.start();
-        return;
-    }
-    setHeight(int(wanted));
+    const bool reduceMotion = Platform::current().appearance().shouldReduceMotion();
+    m_window->setHeight(int(wanted), m_sized && m_window->isVisible() && !reduceMotion);
     if (!m_sized) {
         m_sized = true;
         m_window->center();
     }
-}
-
-void EBSettingsWindowController::setHeight(int height)
-{
-    m_window->setFrame(QRect(m_window->position(), QSize(initialContent.width(), height)));
 }

@@ -4,8 +4,6 @@
 #include "EBSettingsPage.h"
 #include "EBWindow.h"
 
-#include <QVariantAnimation>
-
 #include <memory>
 #include <optional>
 
@@ -33,10 +31,7 @@ public:
     void fit(QSizeF size);
 
 private:
-    void setHeight(int height);
-
     Model *m_model;
     std::unique_ptr<EBWindow> m_window;
-    QVariantAnimation m_resize;
     bool m_sized = false;
 };

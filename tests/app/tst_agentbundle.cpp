@@ -1,0 +1,96 @@
+#include "AgentBundle.h"
+#include "FakePlatform.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+class TestAgentBundle : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void theAgentIsTheApplicationAroundThisOne();
+    void outsideOfAHelpersFolderThereIsNoAgent_data();
+    void outsideOfAHelpersFolderThereIsNoAgent();
+    void anAgentWithoutAFolderIsNone();
+    void aKeyOf44CharactersOffersUpdates_data();
+    void aKeyOf44CharactersOffersUpdates();
+    void anAgentWithoutFactsOffersNoUpdates();
+
+private:
+    void putIn(const QString &folder) { m_platform->main.url = QUrl::fromLocalFile(folder); }
+
+    FakePlatform *m_platform = nullptr;
+};
+
+void TestAgentBundle::init()
+{
+    QTest::failOnWarning(QRegularExpression(".*"));
+    m_platform = &FakePlatform::install();
+    putIn("/apps/Corvane.app/Contents/Helpers/Corvane Settings.app/");
+    FakeBundle agent;
+    agent.url = QUrl::fromLocalFile("/apps/Corvane.app");
+    agent.info = QVariantMap();
+    m_platform->bundles = {agent};
+}
+
+void TestAgentBundle::theAgentIsTheApplicationAroundThisOne()
+{
+    const auto agent = AgentBundle::bundle();
+    QVERIFY(agent);
+    QCOMPARE(agent->bundleURL(), QUrl::fromLocalFile("/apps/Corvane.app"));
+    putIn("/apps/Corvane.app/Contents/Helpers/Corvane Settings.app");
+    QVERIFY(AgentBundle::bundle());
+}
+
+void TestAgentBundle::outsideOfAHelpersFolderThereIsNoAgent_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("alone") << "/apps/Corvane Settings.app";
+    QTest::newRow("another folder of a bundle") << "/apps/Corvane.app/Contents/MacOS/Corvane Settings.app";
+    QTest::newRow("a folder of that name") << "/apps/Helpers/Corvane Settings.app";
+    QTest::newRow("the root") << "/";
+}
+
+void TestAgentBundle::outsideOfAHelpersFolderThereIsNoAgent()
+{
+    QFETCH(QString, folder);
+    putIn(folder);
+    QVERIFY(!AgentBundle::bundle());
+    QVERIFY(!AgentBundle::updatesAvailable());
+}
+
+void TestAgentBundle::anAgentWithoutAFolderIsNone()
+{
+    m_platform->bundles.clear();
+    QVERIFY(!AgentBundle::bundle());
+    QVERIFY(!AgentBundle::updatesAvailable());
+}
+
+void TestAgentBundle::aKeyOf44CharactersOffersUpdates_data()
+{
+    QTest::addColumn<QVariant>("key");
+    QTest::addColumn<bool>("available");
+    QTest::newRow("44") << QVariant(QString(44, 'k')) << true;
+    QTest::newRow("43") << QVariant(QString(43, 'k')) << false;
+    QTest::newRow("45") << QVariant(QString(45, 'k')) << false;
+    QTest::newRow("empty") << QVariant(QString()) << false;
+    QTest::newRow("absent") << QVariant() << false;
+    QTest::newRow("no text") << QVariant(true) << false;
+}
+
+void TestAgentBundle::aKeyOf44CharactersOffersUpdates()
+{
+    QFETCH(QVariant, key);
+    m_platform->bundles[0].info = QVariantMap{{"SUPublicEDKey", key}};
+    QTEST(AgentBundle::updatesAvailable(), "available");
+}
+
+void TestAgentBundle::anAgentWithoutFactsOffersNoUpdates()
+{
+    m_platform->bundles[0].info.reset();
+    QVERIFY(!AgentBundle::updatesAvailable());
+}
+
+QTEST_GUILESS_MAIN(TestAgentBundle)
+#include "tst_agentbundle.moc"

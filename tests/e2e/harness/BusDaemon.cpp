@@ -1,0 +1,57 @@
+#include "BusDaemon.h"
+
+#include "ChildProcess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr const char *configuration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:dir=%1</listen>
+  <auth>EXTERNAL</auth>
+  <servicedir>%1/services</servicedir>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+)";
+
+}
+
+BusDaemon::BusDaemon(const QStringList &services)
+{
+    ChildProcess::endWithThisProcess(m_daemon);
+    if (!writeConfiguration(services))
+        return;
+    const QString file = QStringLiteral("--config-file=") + m_folder.filePath(QStringLiteral("bus.conf"));
+    m_daemon.start(QStringLiteral("dbus-daemon"),
+                   {file, QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
+    m_address = ChildProcess::firstLine(m_daemon);
+}
+
+BusDaemon::~BusDaemon()
+{
+    ChildProcess::stop(m_daemon);
+}
+
+bool BusDaemon::writeConfiguration(const QStringList &services) const
+{
+    const QString folder = m_folder.filePath(QStringLiteral("services"));
+    bool complete = QDir().mkpath(folder);
+    for (const QString &service : services) {
+        const QString name = service + QStringLiteral(".service");
+        const QString installed = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                                                         QStringLiteral("dbus-1/services/") + name);
+        complete = complete && QFile::link(installed, folder + u'/' + name);
+    }
+    QFile file(m_folder.filePath(QStringLiteral("bus.conf")));
+    return complete && file.open(QIODevice::WriteOnly)
+        && file.write(QString::fromLatin1(configuration).arg(m_folder.path()).toUtf8()) > 0;
+}

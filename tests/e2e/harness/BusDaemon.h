@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// A message bus of the test's own. It ends with this object, and with the test process however that one ends.
+class BusDaemon {
+public:
+    /// The bus may start the installed session services named in `services`, such as "ca.desrt.dconf", and no others:
+    /// what else is installed on the machine cannot answer in a test. They get the environment this process has now.
+    explicit BusDaemon(const QStringList &services);
+    ~BusDaemon();
+
+    /// Empty when no bus could be started.
+    QByteArray address() const { return m_address; }
+
+private:
+    bool writeConfiguration(const QStringList &services) const;
+
+    QTemporaryDir m_folder;
+    QProcess m_daemon;
+    QByteArray m_address;
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <xcb/xcb.h>
+
+class XConnection;
+
+/// The keyboard of the virtual display. Keys are named by X key symbols, such as XK_Tab.
+class Keyboard {
+public:
+    explicit Keyboard(const XConnection &x);
+
+    /// Presses and releases `key` while `modifiers` are held. A key the keyboard does not have is a fatal
+    /// mistake in the test.
+    void press(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers = {}) const;
+
+    /// Holds `key` down until it has repeated itself `repeats` times, and lets go.
+    void hold(xcb_keysym_t key, int repeats) const;
+
+    /// Types a text of Latin letters, digits, signs and spaces.
+    void type(const QString &text) const;
+
+private:
+    struct Key {
+        xcb_keycode_t code;
+        bool shifted;
+    };
+
+    void send(bool down, xcb_keycode_t code) const;
+
+    const XConnection &m_x;
+    QHash<xcb_keysym_t, Key> m_keys;
+};

@@ -1,0 +1,97 @@
+#include "TopLevel.h"
+
+#include "XConnection.h"
+#include "XReply.h"
+
+#include <xcb/xcb_icccm.h>
+
+QList<TopLevel> TopLevel::ofProcess(const XConnection &x, qint64 processId)
+{
+    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, x.root()), nullptr));
+    if (!tree)
+        return {};
+    const xcb_atom_t owner = x.atom("_NET_WM_PID");
+    const xcb_window_t *ids = xcb_query_tree_children(tree.get());
+    QList<TopLevel> windows;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        if (x.number(ids[i], owner) == processId)
+            windows.append(TopLevel(x, ids[i]));
+    }
+    return windows;
+}
+
+QRect TopLevel::geometry() const
+{
+    const XReply<xcb_get_geometry_reply_t> reply(
+        xcb_get_geometry_reply(*m_x, xcb_get_geometry(*m_x, m_id), nullptr));
+    return reply ? QRect(reply->x, reply->y, reply->width, reply->height) : QRect();
+}
+
+QString TopLevel::title() const
+{
+    return QString::fromUtf8(m_x->property(m_id, m_x->atom("_NET_WM_NAME")));
+}
+
+QString TopLevel::windowClass() const
+{
+    return QString::fromUtf8(m_x->property(m_id, XCB_ATOM_WM_CLASS).split('\0').value(1));
+}
+
+bool TopLevel::isViewable() const
+{
+    const XReply<xcb_get_window_attributes_reply_t> reply(
+        xcb_get_window_attributes_reply(*m_x, xcb_get_window_attributes(*m_x, m_id), nullptr));
+    return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+bool TopLevel::hasInputFocus() const
+{
+    const XReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(*m_x, xcb_get_input_focus(*m_x), nullptr));
+    return reply && reply->focus == m_id;
+}
+
+QByteArrayList TopLevel::protocols() const
+{
+    const QByteArray bytes = m_x->property(m_id, m_x->atom("WM_PROTOCOLS"));
+    QByteArrayList names;
+    for (qsizetype at = 0; at + qsizetype(sizeof(xcb_atom_t)) <= bytes.size(); at += sizeof(xcb_atom_t)) {
+        xcb_atom_t atom;
+        std::memcpy(&atom, bytes.constData() + at, sizeof atom);
+        const XReply<xcb_get_atom_name_reply_t> reply(
+            xcb_get_atom_name_reply(*m_x, xcb_get_atom_name(*m_x, atom), nullptr));
+        if (reply)
+            names.append({xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get())});
+    }
+    return names;
+}
+
+std::optional<QSize> TopLevel::minimumSize() const
+{
+    xcb_size_hints_t hints = {};
+    xcb_icccm_get_wm_normal_hints_reply(*m_x, xcb_icccm_get_wm_normal_hints(*m_x, m_id), &hints, nullptr);
+    if (!(hints.flags & XCB_ICCCM_SIZE_HINT_P_MIN_SIZE))
+        return std::nullopt;
+    return QSize(hints.min_width, hints.min_height);
+}
+
+std::optional<QSize> TopLevel::maximumSize() const
+{
+    xcb_size_hints_t hints = {};
+    xcb_icccm_get_wm_normal_hints_reply(*m_x, xcb_icccm_get_wm_normal_hints(*m_x, m_id), &hints, nullptr);
+    if (!(hints.flags & XCB_ICCCM_SIZE_HINT_P_MAX_SIZE))
+        return std::nullopt;
+    return QSize(hints.max_width, hints.max_height);
+}
+
+void TopLevel::close() const
+{
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = m_id;
+    message.type = m_x->atom("WM_PROTOCOLS");
+    message.data.data32[0] = m_x->atom("WM_DELETE_WINDOW");
+    xcb_send_event(*m_x, false, m_id, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char *>(&message));
+    m_x->synchronise();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QRect>
+#include <QString>
+
+#include <optional>
+#include <xcb/xcb.h>
+
+class XConnection;
+
+/// A top-level window as the X server and a window manager know it. All geometry is in pixels of the screen.
+class TopLevel {
+public:
+    /// The windows of that process, in stacking order from the bottom.
+    static QList<TopLevel> ofProcess(const XConnection &x, qint64 processId);
+
+    xcb_window_t id() const { return m_id; }
+    QRect geometry() const;
+    QString title() const;
+
+    /// The class part of WM_CLASS.
+    QString windowClass() const;
+
+    /// On the screen: mapped, and not hidden by an unmapped parent.
+    bool isViewable() const;
+
+    bool hasInputFocus() const;
+
+    /// The names in WM_PROTOCOLS, such as "WM_DELETE_WINDOW".
+    QByteArrayList protocols() const;
+
+    /// The smallest and the largest size the window allows, where it names one.
+    std::optional<QSize> minimumSize() const;
+    std::optional<QSize> maximumSize() const;
+
+    /// Asks the window to close, as the button of a window manager does.
+    void close() const;
+
+private:
+    TopLevel(const XConnection &x, xcb_window_t id) : m_x(&x), m_id(id) { }
+
+    const XConnection *m_x;
+    xcb_window_t m_id;
+};

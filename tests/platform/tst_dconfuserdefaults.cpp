@@ -1,0 +1,355 @@
+#include "DconfUserDefaults.h"
+#include "PrivateSession.h"
+#include "Tool.h"
+
+#include <QSignalSpy>
+
+namespace {
+
+const QString suiteName = QStringLiteral("com.vexmoor.corvane");
+const QString folder = QStringLiteral("/com/vexmoor/corvane/");
+constexpr int keysOfOneProcess = 150;
+
+QString pathOf(const QString &key)
+{
+    return folder + key;
+}
+
+void writeFromOutside(const QString &key, const QString &value)
+{
+    dconf({QStringLiteral("write"), pathOf(key), value});
+}
+
+QString readFromOutside(const QString &key)
+{
+    return dconf({QStringLiteral("read"), pathOf(key)});
+}
+
+/// Everything that was announced before the end of a change made outside only now.
+QStringList announced(QSignalSpy &spy)
+{
+    static int fences = 0;
+    const QString fence = QStringLiteral("fence%1").arg(++fences);
+    writeFromOutside(fence, QStringLiteral("true"));
+    const auto isLast = [&] { return !spy.isEmpty() && spy.last().first() == fence; };
+    if (!QTest::qWaitFor(isLast))
+        QTest::qFail("a change from outside was not announced", __FILE__, __LINE__);
+    QStringList keys;
+    while (spy.size() > 1)
+        keys.append(spy.takeFirst().first().toString());
+    spy.clear();
+    return keys;
+}
+
+/// A suite that has begun to listen, and what it has announced since.
+struct Followed {
+    DconfUserDefaults defaults{suiteName};
+    QSignalSpy spy{&defaults, &UserDefaults::changed};
+
+    Followed() { announced(spy); }
+};
+
+void writeManyKeys(const QString &prefix)
+{
+    DconfUserDefaults defaults(suiteName);
+    for (int i = 0; i < keysOfOneProcess; ++i)
+        defaults.setValue(prefix + QString::number(i), static_cast<double>(i));
+}
+
+}
+
+class DconfUserDefaultsTest : public QObject {
+    Q_OBJECT
+public:
+    explicit DconfUserDefaultsTest(PrivateSession &) { }
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+    void cleanup() { dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/")}); }
+
+    void aValueIsStoredWithItsTypeBeforeTheCallReturns_data();
+    void aValueIsStoredWithItsTypeBeforeTheCallReturns();
+    void aKeyIsReadUnderItsNameWithItsDots();
+    void anAbsentKeyReadsAsInvalid();
+    void aNumberOfAnyTypeIsReadAsADouble_data();
+    void aNumberOfAnyTypeIsReadAsADouble();
+    void aValueOfAnotherTypeReadsAsInvalid_data();
+    void aValueOfAnotherTypeReadsAsInvalid();
+    void aWholeNumberIsStoredAsADouble();
+    void aValueNoSuiteHoldsIsIgnored();
+    void anInvalidValueRemovesTheKey();
+    void aChangeByAnotherProcessIsAnnounced();
+    void severalKeysChangedAtOnceAreAnnouncedOneByOne();
+    void removingAFolderAroundTheSuiteAnnouncesThatEverythingMayHaveChanged();
+    void aChangeInANeighbouringSuiteIsNotAnnounced();
+    void anOwnWriteIsAnnouncedOnceAndAtOnce();
+    void writingWhatIsStoredAlreadyAnnouncesNothing();
+    void aChangeByAnotherProcessAfterAnOwnWriteIsAnnounced();
+    void twoSuitesOfOneNameFollowEachOther();
+    void aKeyThatIsNoPathLivesInMemory_data();
+    void aKeyThatIsNoPathLivesInMemory();
+    void aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory_data();
+    void aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory();
+    void processesThatWriteAtTheSameTimeLoseNothing();
+};
+
+void DconfUserDefaultsTest::aValueIsStoredWithItsTypeBeforeTheCallReturns_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("true") << QVariant(true) << QStringLiteral("true");
+    QTest::newRow("false") << QVariant(false) << QStringLiteral("false");
+    QTest::newRow("text") << QVariant(QStringLiteral("classic")) << QStringLiteral("'classic'");
+    QTest::newRow("no text") << QVariant(QString()) << QStringLiteral("''");
+    QTest::newRow("symbols") << QVariant(QStringLiteral("⌘ ü 🪟")) << QStringLiteral("'⌘ ü 🪟'");
+    QTest::newRow("zero") << QVariant(0.0) << QStringLiteral("0.0");
+    QTest::newRow("number") << QVariant(-12.5) << QStringLiteral("-12.5");
+}
+
+void DconfUserDefaultsTest::aValueIsStoredWithItsTypeBeforeTheCallReturns()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QString, stored);
+    DconfUserDefaults defaults(suiteName);
+    defaults.setValue(QStringLiteral("key"), value);
+    QCOMPARE(readFromOutside(QStringLiteral("key")), stored);
+    const QVariant readBack = DconfUserDefaults(suiteName).value(QStringLiteral("key"));
+    QCOMPARE(readBack.typeId(), value.typeId());
+    QCOMPARE(readBack, value);
+}
+
+void DconfUserDefaultsTest::aKeyIsReadUnderItsNameWithItsDots()
+{
+    const QString key = QStringLiteral("hotkey.close.disabled");
+    writeFromOutside(key, QStringLiteral("true"));
+    QCOMPARE(DconfUserDefaults(suiteName).value(key), QVariant(true));
+}
+
+void DconfUserDefaultsTest::anAbsentKeyReadsAsInvalid()
+{
+    QVERIFY(!DconfUserDefaults(suiteName).value(QStringLiteral("absent")).isValid());
+}
+
+void DconfUserDefaultsTest::aNumberOfAnyTypeIsReadAsADouble_data()
+{
+    QTest::addColumn<QString>("stored");
+    for (const char *type : {"byte", "int16", "uint16", "int32", "uint32", "int64", "uint64", "double"})
+        QTest::newRow(type) << QString::fromLatin1(type) + QStringLiteral(" 8");
+}
+
+void DconfUserDefaultsTest::aNumberOfAnyTypeIsReadAsADouble()
+{
+    QFETCH(QString, stored);
+    writeFromOutside(QStringLiteral("layouts.gap"), stored);
+    const QVariant value = DconfUserDefaults(suiteName).value(QStringLiteral("layouts.gap"));
+    QCOMPARE(value.typeId(), QMetaType::Double);
+    QCOMPARE(value.toDouble(), 8.0);
+}
+
+void DconfUserDefaultsTest::aValueOfAnotherTypeReadsAsInvalid_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("list") << QStringLiteral("['a', 'b']");
+    QTest::newRow("tuple") << QStringLiteral("(1, true)");
+    QTest::newRow("nothing") << QStringLiteral("@mb nothing");
+    QTest::newRow("wrapped") << QStringLiteral("<true>");
+    QTest::newRow("path") << QStringLiteral("objectpath '/a'");
+}
+
+void DconfUserDefaultsTest::aValueOfAnotherTypeReadsAsInvalid()
+{
+    QFETCH(QString, stored);
+    writeFromOutside(QStringLiteral("key"), stored);
+    QVERIFY(!DconfUserDefaults(suiteName).value(QStringLiteral("key")).isValid());
+    QCOMPARE(readFromOutside(QStringLiteral("key")), stored);
+}
+
+void DconfUserDefaultsTest::aWholeNumberIsStoredAsADouble()
+{
+    DconfUserDefaults(suiteName).setValue(QStringLiteral("layouts.gap"), 12);
+    QCOMPARE(readFromOutside(QStringLiteral("layouts.gap")), QStringLiteral("12.0"));
+}
+
+void DconfUserDefaultsTest::aValueNoSuiteHoldsIsIgnored()
+{
+    DconfUserDefaults defaults(suiteName);
+    defaults.setValue(QStringLiteral("key"), true);
+    defaults.setValue(QStringLiteral("key"), QStringList{QStringLiteral("a")});
+    QCOMPARE(defaults.value(QStringLiteral("key")), QVariant(true));
+    QCOMPARE(readFromOutside(QStringLiteral("key")), QStringLiteral("true"));
+}
+
+void DconfUserDefaultsTest::anInvalidValueRemovesTheKey()
+{
+    DconfUserDefaults defaults(suiteName);
+    defaults.setValue(QStringLiteral("layouts.saved"), QStringLiteral("[]"));
+    defaults.setValue(QStringLiteral("layouts.saved"), QVariant());
+    QVERIFY(!defaults.value(QStringLiteral("layouts.saved")).isValid());
+    QCOMPARE(readFromOutside(QStringLiteral("layouts.saved")), QString());
+}
+
+void DconfUserDefaultsTest::aChangeByAnotherProcessIsAnnounced()
+{
+    const QString key = QStringLiteral("agent.accessibilityTrusted");
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    writeFromOutside(key, QStringLiteral("true"));
+    QTRY_COMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().first(), QVariant(key));
+    QCOMPARE(defaults.value(key), QVariant(true));
+}
+
+void DconfUserDefaultsTest::severalKeysChangedAtOnceAreAnnouncedOneByOne()
+{
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    dconf({QStringLiteral("load"), folder}, "[/]\nbuttonTheme='a'\nlayouts.gap=2.0\n");
+    QStringList keys = announced(spy);
+    keys.sort();
+    QCOMPARE(keys, QStringList({QStringLiteral("buttonTheme"), QStringLiteral("layouts.gap")}));
+}
+
+void DconfUserDefaultsTest::removingAFolderAroundTheSuiteAnnouncesThatEverythingMayHaveChanged()
+{
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    defaults.setValue(QStringLiteral("key"), true);
+    announced(spy);
+    dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/com/vexmoor/")});
+    QTRY_COMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().first(), QVariant(QString()));
+    QVERIFY(!defaults.value(QStringLiteral("key")).isValid());
+}
+
+void DconfUserDefaultsTest::aChangeInANeighbouringSuiteIsNotAnnounced()
+{
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    DconfUserDefaults neighbour(QStringLiteral("com.vexmoor.corvane2"));
+    neighbour.setValue(QStringLiteral("key"), true);
+    dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/com/vexmoor/corvane2/")});
+    QCOMPARE(announced(spy), QStringList());
+}
+
+void DconfUserDefaultsTest::anOwnWriteIsAnnouncedOnceAndAtOnce()
+{
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(announced(spy), QStringList(QStringLiteral("buttonTheme")));
+}
+
+void DconfUserDefaultsTest::writingWhatIsStoredAlreadyAnnouncesNothing()
+{
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    announced(spy);
+    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    QCOMPARE(announced(spy), QStringList());
+}
+
+void DconfUserDefaultsTest::aChangeByAnotherProcessAfterAnOwnWriteIsAnnounced()
+{
+    const QString key = QStringLiteral("agent.launchAtLogin");
+    Followed followed;
+    auto &[defaults, spy] = followed;
+    defaults.setValue(key, true);
+    announced(spy);
+    writeFromOutside(key, QStringLiteral("false"));
+    QTRY_COMPARE(spy.size(), 1);
+    QCOMPARE(defaults.value(key), QVariant(false));
+}
+
+void DconfUserDefaultsTest::twoSuitesOfOneNameFollowEachOther()
+{
+    DconfUserDefaults one(suiteName);
+    DconfUserDefaults other(suiteName);
+    QSignalSpy spy(&other, &UserDefaults::changed);
+    one.setValue(QStringLiteral("key"), 3.0);
+    QCOMPARE(other.value(QStringLiteral("key")), QVariant(3.0));
+    QTRY_COMPARE(spy.size(), 1);
+}
+
+void DconfUserDefaultsTest::aKeyThatIsNoPathLivesInMemory_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("slash first") << QStringLiteral("/a");
+    QTest::newRow("slash last") << QStringLiteral("a/");
+    QTest::newRow("two slashes") << QStringLiteral("a//b");
+    QTest::newRow("zero inside") << QString(QStringLiteral("a") + QChar(u'\0') + QStringLiteral("b"));
+}
+
+void DconfUserDefaultsTest::aKeyThatIsNoPathLivesInMemory()
+{
+    QFETCH(QString, key);
+    DconfUserDefaults defaults(suiteName);
+    QVERIFY(!defaults.value(key).isValid());
+    QSignalSpy spy(&defaults, &UserDefaults::changed);
+    defaults.setValue(key, QStringLiteral("kept"));
+    QCOMPARE(defaults.value(key), QVariant(QStringLiteral("kept")));
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(dconf({QStringLiteral("dump"), folder}), QString());
+}
+
+void DconfUserDefaultsTest::aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("two dots") << QStringLiteral("com..vexmoor");
+    QTest::newRow("dot last") << QStringLiteral("com.vexmoor.");
+}
+
+void DconfUserDefaultsTest::aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory()
+{
+    QFETCH(QString, name);
+    QVERIFY(!DconfUserDefaults::canOpen(name));
+    DconfUserDefaults defaults(name);
+    defaults.setValue(QStringLiteral("key"), true);
+    QCOMPARE(defaults.value(QStringLiteral("key")), QVariant(true));
+    QCOMPARE(dconf({QStringLiteral("dump"), QStringLiteral("/")}), QString());
+}
+
+void DconfUserDefaultsTest::processesThatWriteAtTheSameTimeLoseNothing()
+{
+    QProcess second;
+    QProcess third;
+    second.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), QStringLiteral("second")});
+    third.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), QStringLiteral("third")});
+    QVERIFY(second.waitForReadyRead() && third.waitForReadyRead());
+    second.write("go\n");
+    third.write("go\n");
+    writeManyKeys(QStringLiteral("first"));
+    QVERIFY(second.waitForFinished() && third.waitForFinished());
+    const DconfUserDefaults defaults(suiteName);
+    for (int i = 0; i < keysOfOneProcess; ++i) {
+        for (const char *prefix : {"first", "second", "third"})
+            QCOMPARE(defaults.value(QLatin1String(prefix) + QString::number(i)), QVariant(static_cast<double>(i)));
+    }
+}
+
+namespace {
+
+// One of the other writers: it says that it is there, waits for the word, and writes.
+int writeOnCommand(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    puts("ready");
+    fflush(stdout);
+    getchar();
+    writeManyKeys(QString::fromLocal8Bit(argv[2]));
+    return 0;
+}
+
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 3 && qstrcmp(argv[1], "--write") == 0)
+        return writeOnCommand(argc, argv);
+    return runInPrivateSession<DconfUserDefaultsTest>(argc, argv);
+}
+
+#include "tst_dconfuserdefaults.moc"

@@ -1,0 +1,90 @@
+#include "FreedesktopPlatform.h"
+#include "PrivateSession.h"
+#include "Tool.h"
+
+#include <QDir>
+
+class FreedesktopPlatformTest : public QObject {
+    Q_OBJECT
+public:
+    explicit FreedesktopPlatformTest(PrivateSession &session) : m_session(session) { }
+
+private slots:
+    void initTestCase() { Platform::install(makeFreedesktopPlatform()); }
+    void cleanupTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+
+    void aSuiteIsMadeOnce();
+    void aSuiteThatCannotBeOpenedIsNull();
+    void aProgramOutsideABundleHasStandardDefaultsUnderItsName();
+    void theMainBundleIsTheFolderOfTheExecutable();
+    void aBundleIsNullWhereThereIsNoFolder();
+    void everyServiceIsThereAndStaysTheSame();
+
+private:
+    PrivateSession &m_session;
+};
+
+// No question may be left unanswered: the bus library keeps what belongs to it.
+void FreedesktopPlatformTest::cleanupTestCase()
+{
+    Platform::current().appearance().settle();
+    Platform::install(nullptr);
+}
+
+void FreedesktopPlatformTest::aSuiteIsMadeOnce()
+{
+    const QString name = QStringLiteral("com.vexmoor.corvane");
+    UserDefaults *suite = Platform::current().userDefaults(name);
+    QVERIFY(suite);
+    QCOMPARE(Platform::current().userDefaults(name), suite);
+    QVERIFY(Platform::current().userDefaults(QStringLiteral("com.vexmoor.other")) != suite);
+}
+
+void FreedesktopPlatformTest::aSuiteThatCannotBeOpenedIsNull()
+{
+    QVERIFY(!Platform::current().userDefaults(QString()));
+    QVERIFY(!Platform::current().userDefaults(QStringLiteral("com..corvane")));
+}
+
+void FreedesktopPlatformTest::aProgramOutsideABundleHasStandardDefaultsUnderItsName()
+{
+    Platform::current().standardUserDefaults().setValue(QStringLiteral("key"), true);
+    QCOMPARE(dconf({QStringLiteral("read"), QStringLiteral("/tst_freedesktopplatform/key")}), QStringLiteral("true"));
+}
+
+void FreedesktopPlatformTest::theMainBundleIsTheFolderOfTheExecutable()
+{
+    const Bundle &bundle = Platform::current().mainBundle();
+    QCOMPARE(bundle.bundleURL(), QUrl::fromLocalFile(QCoreApplication::applicationDirPath()));
+    QVERIFY(!bundle.hasInfoDictionary());
+}
+
+void FreedesktopPlatformTest::aBundleIsNullWhereThereIsNoFolder()
+{
+    Platform &platform = Platform::current();
+    const auto bundle = platform.bundle(QUrl::fromLocalFile(m_session.dataFolder()));
+    QVERIFY(bundle);
+    QCOMPARE(bundle->bundleURL(), QUrl::fromLocalFile(m_session.dataFolder()));
+    QVERIFY(!platform.bundle(QUrl::fromLocalFile(m_session.dataFolder() + QStringLiteral("/absent"))));
+    QVERIFY(!platform.bundle(QUrl::fromLocalFile(QCoreApplication::applicationFilePath())));
+    QVERIFY(!platform.bundle(QUrl(QStringLiteral("https://example.com/"))));
+    QVERIFY(!platform.bundle(QUrl()));
+}
+
+void FreedesktopPlatformTest::everyServiceIsThereAndStaysTheSame()
+{
+    Platform &platform = Platform::current();
+    QCOMPARE(&platform.standardUserDefaults(), &platform.standardUserDefaults());
+    QCOMPARE(&platform.distributedNotificationCenter(), &platform.distributedNotificationCenter());
+    QCOMPARE(&platform.workspace(), &platform.workspace());
+    QCOMPARE(&platform.appearance(), &platform.appearance());
+    QCOMPARE(&platform.mainBundle(), &platform.mainBundle());
+}
+
+int main(int argc, char **argv)
+{
+    return runInPrivateSession<FreedesktopPlatformTest>(argc, argv);
+}
+
+#include "tst_freedesktopplatform.moc"

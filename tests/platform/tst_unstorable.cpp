@@ -1,0 +1,116 @@
+#include "DBusNotificationCenter.h"
+#include "DconfUserDefaults.h"
+#include "PortalAppearance.h"
+#include "PrivateSession.h"
+
+#include <QFile>
+#include <QSignalSpy>
+
+namespace {
+
+const QString suiteName = QStringLiteral("com.vexmoor.corvane");
+
+/// Makes a session in which nothing can be stored, for the reason this program is built for.
+struct Trouble {
+    explicit Trouble(PrivateSession &session)
+    {
+        const QByteArrayView name = TROUBLE;
+        if (name == "dead_bus")
+            qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+        if (name == "meaningless_bus")
+            qputenv("DBUS_SESSION_BUS_ADDRESS", "no address at all");
+        if (name == "bus_to_be_started")
+            qputenv("DBUS_SESSION_BUS_ADDRESS", "autolaunch:");
+        if (name == "no_service")
+            session.start({});
+    }
+};
+
+void writeFile(const QString &name, const QByteArray &content)
+{
+    QFile file(name);
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write(content);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+}
+
+class UnstorableTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+
+    void aValueIsKeptInMemoryAndAnnounced();
+    void aValueInMemoryCanBeRemoved();
+    void nobodyElseSeesIt();
+    void aNoticeIsLostInSilence();
+    void theAppearanceIsThatOfThePalette();
+    void noBusIsStarted();
+};
+
+void UnstorableTest::aValueIsKeptInMemoryAndAnnounced()
+{
+    DconfUserDefaults defaults(suiteName);
+    QSignalSpy spy(&defaults, &UserDefaults::changed);
+    QVERIFY(!defaults.value(QStringLiteral("buttonTheme")).isValid());
+    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    defaults.setValue(QStringLiteral("layouts.gap"), 4.0);
+    QCOMPARE(defaults.value(QStringLiteral("buttonTheme")), QVariant(QStringLiteral("a")));
+    QCOMPARE(defaults.value(QStringLiteral("layouts.gap")), QVariant(4.0));
+    QCOMPARE(spy.size(), 2);
+    QCOMPARE(spy.first().first(), QVariant(QStringLiteral("buttonTheme")));
+}
+
+void UnstorableTest::aValueInMemoryCanBeRemoved()
+{
+    DconfUserDefaults defaults(suiteName);
+    defaults.setValue(QStringLiteral("key"), true);
+    defaults.setValue(QStringLiteral("key"), QVariant());
+    QVERIFY(!defaults.value(QStringLiteral("key")).isValid());
+}
+
+void UnstorableTest::nobodyElseSeesIt()
+{
+    DconfUserDefaults defaults(suiteName);
+    defaults.setValue(QStringLiteral("key"), true);
+    QVERIFY(!DconfUserDefaults(suiteName).value(QStringLiteral("key")).isValid());
+}
+
+void UnstorableTest::aNoticeIsLostInSilence()
+{
+    DBusNotificationCenter center;
+    center.observe(QStringLiteral("com.vexmoor.corvane.command"), this, [](const QVariantMap &) {});
+    center.post(QStringLiteral("com.vexmoor.corvane.command"), {{QStringLiteral("command"), QStringLiteral("a")}});
+}
+
+void UnstorableTest::theAppearanceIsThatOfThePalette()
+{
+    PortalAppearance appearance;
+    appearance.settle();
+    QCOMPARE(appearance.bestMatch(), AppearanceName::Aqua);
+    QVERIFY(!appearance.shouldReduceMotion());
+}
+
+// The libraries would run this program, found in PATH and put there by main(), to start a bus of their own.
+void UnstorableTest::noBusIsStarted()
+{
+    QVERIFY(!QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/started")));
+}
+
+int main(int argc, char **argv)
+{
+    PrivateSession session;
+    const QByteArray programs = session.dataFolder().toLocal8Bit();
+    writeFile(session.dataFolder() + QStringLiteral("/dbus-launch"),
+              "#!/bin/sh\ntouch \"$XDG_RUNTIME_DIR/started\"\nexit 1\n");
+    qputenv("PATH", programs + ':' + qgetenv("PATH"));
+    qputenv("DISPLAY", ":1");
+    const Trouble trouble(session);
+    const QGuiApplication application(argc, argv);
+    UnstorableTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_unstorable.moc"

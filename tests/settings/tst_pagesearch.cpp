@@ -1,0 +1,126 @@
+#include "SidebarModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+EBSettingsPage page(const char *id, const QStringList &keywords)
+{
+    QString title = QString::fromLatin1(id);
+    title[0] = title[0].toUpper();
+    return {QString::fromLatin1(id), title, GlyphName::gear, keywords, QUrl()};
+}
+
+/// The four pages and their keywords as the product lists them.
+QList<EBSettingsPage> fourPages()
+{
+    return {
+        page("general", {"login", "startup", "menu bar", "icon", "accessibility", "permission", "guide"}),
+        page("buttons", {"look", "theme", "colour", "color", "size", "minimize", "full screen", "maximize"}),
+        page("shortcuts", {"keyboard", "hotkey", "close", "hide", "quit", "minimize"}),
+        page("layouts", {"snap", "arrange", "tile", "window", "layout", "shelf", "gap"}),
+    };
+}
+
+}
+
+class TestPageSearch : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
+    void findsPages_data();
+    void findsPages();
+    void theModelListsWhatTheSearchFinds();
+    void aSearchThatFindsTheSameMovesNothing();
+    void neighboursStopAtTheEnds();
+    void aPageThatIsNotListedStandsAboveTheFirst();
+    void anEmptyListKeepsTheSelection();
+};
+
+void TestPageSearch::findsPages_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QStringList>("found");
+    const QStringList all = {"general", "buttons", "shortcuts", "layouts"};
+    QTest::newRow("empty text finds every page") << "" << all;
+    QTest::newRow("nothing but space finds every page") << " \t " << all;
+    QTest::newRow("space around the text does not count") << "  Color " << QStringList{"buttons"};
+    QTest::newRow("part of a keyword of two pages") << "min" << QStringList{"buttons", "shortcuts"};
+    QTest::newRow("window") << "window" << QStringList{"layouts"};
+    QTest::newRow("a title in capitals") << "GENERAL" << QStringList{"general"};
+    QTest::newRow("the middle of a title") << "hortcut" << QStringList{"shortcuts"};
+    QTest::newRow("a keyword of two words") << "menu b" << QStringList{"general"};
+    QTest::newRow("space inside the text counts") << "menu  bar" << QStringList();
+    QTest::newRow("a line end is not trimmed") << "color\n" << QStringList();
+    QTest::newRow("a non-breaking space is trimmed") << QStringLiteral("\u00A0color") << QStringList{"buttons"};
+    QTest::newRow("nothing contains it") << "zebra" << QStringList();
+    QTest::newRow("no pattern characters") << ".*" << QStringList();
+}
+
+void TestPageSearch::findsPages()
+{
+    QFETCH(QString, search);
+    QFETCH(QStringList, found);
+    QStringList ids;
+    for (const EBSettingsPage &match : pagesMatching(fourPages(), search))
+        ids.append(match.id);
+    QCOMPARE(ids, found);
+}
+
+void TestPageSearch::theModelListsWhatTheSearchFinds()
+{
+    SidebarModel model(fourPages());
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QCOMPARE(model.rowCount(), 4);
+    model.setSearch("min");
+    QCOMPARE(model.rowCount(), 2);
+    QCOMPARE(model.data(model.index(0), SidebarModel::IdRole).toString(), "buttons");
+    QCOMPARE(model.data(model.index(0), SidebarModel::TitleRole).toString(), "Buttons");
+    QCOMPARE(model.data(model.index(0), SidebarModel::GlyphRole).toString(), "gear");
+    QCOMPARE(model.data(model.index(1), SidebarModel::IdRole).toString(), "shortcuts");
+    model.setSearch("");
+    QCOMPARE(model.rowCount(), 4);
+}
+
+void TestPageSearch::aSearchThatFindsTheSameMovesNothing()
+{
+    SidebarModel model(fourPages());
+    model.setSearch("wind");
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    model.setSearch("windo");
+    QCOMPARE(resets.count(), 0);
+    model.setSearch("zebra");
+    QCOMPARE(resets.count(), 1);
+}
+
+void TestPageSearch::neighboursStopAtTheEnds()
+{
+    const SidebarModel model(fourPages());
+    QCOMPARE(model.neighbour("general", 1), "buttons");
+    QCOMPARE(model.neighbour("general", -1), "general");
+    QCOMPARE(model.neighbour("layouts", 1), "layouts");
+    QCOMPARE(model.neighbour("layouts", -1), "shortcuts");
+}
+
+void TestPageSearch::aPageThatIsNotListedStandsAboveTheFirst()
+{
+    SidebarModel model(fourPages());
+    model.setSearch("min");
+    QCOMPARE(model.neighbour("general", 1), "buttons");
+    QCOMPARE(model.neighbour("general", 0), "buttons");
+    QCOMPARE(model.neighbour("general", -1), "buttons");
+}
+
+void TestPageSearch::anEmptyListKeepsTheSelection()
+{
+    SidebarModel model(fourPages());
+    model.setSearch("zebra");
+    QCOMPARE(model.neighbour("general", 1), "general");
+}
+
+QTEST_GUILESS_MAIN(TestPageSearch)
+#include "tst_pagesearch.moc"

@@ -1,0 +1,228 @@
+#include "Shared.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+using Row = QStringList;
+
+QString page()
+{
+    QFile file(QStringLiteral(CONTRACT_PAGE));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+Row cells(QStringView line)
+{
+    Row row;
+    for (const QStringView cell : line.sliced(1).chopped(1).split(u'|'))
+        row.append(cell.trimmed().toString());
+    return row;
+}
+
+/// The rows of the table whose head is exactly `head`, without the head.
+QList<Row> table(const Row &head)
+{
+    QList<Row> rows;
+    bool inside = false;
+    const QStringList lines = page().split(u'\n');
+    for (const QString &line : lines) {
+        const bool isRow = line.startsWith(u'|') && line.endsWith(u'|');
+        if (!inside)
+            inside = isRow && cells(line) == head;
+        else if (!isRow)
+            break;
+        else if (!line.startsWith(QLatin1String("|---")))
+            rows.append(cells(line));
+    }
+    return rows;
+}
+
+QString code(const QString &text)
+{
+    return u'`' + text + u'`';
+}
+
+QString wireType(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return code(QStringLiteral("b"));
+    case QMetaType::QString:
+        return code(QStringLiteral("s"));
+    case QMetaType::Double:
+        return code(QStringLiteral("d"));
+    default:
+        return {};
+    }
+}
+
+QString defaultCell(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::QString:
+        return value.toString().isEmpty() ? QStringLiteral("absent") : code(u'"' + value.toString() + u'"');
+    case QMetaType::Double:
+        return code(QString::number(value.toDouble(), 'f', 1));
+    default:
+        return code(value.toString());
+    }
+}
+
+QVariant defaultOf(const char *key)
+{
+    return Contract::defaultValue(QString::fromLatin1(key));
+}
+
+}
+
+class TestContract : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+
+    void thePageListsTheKeysOfTheCodeAndNoOthers();
+    void thePageListsTheCommandsOfTheCodeAndNoOthers();
+    void thePageListsTheShortcutsOfTheCodeAndNoOthers();
+    void thePageNamesTheSuiteAndTheSignal();
+
+    void everyKeyHasItsTypeDefaultAndWriter_data();
+    void everyKeyHasItsTypeDefaultAndWriter();
+    void thereAreNoOtherKeys();
+    void aKeyOutsideTheTableHasNoDefault();
+    void everyCommandSaysWhetherItCarriesAValue();
+    void theIdentifiersSpellTheNames();
+};
+
+void TestContract::thePageListsTheKeysOfTheCodeAndNoOthers()
+{
+    QList<Row> expected;
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        expected.append(
+            {code(key.name), wireType(key.defaultValue), defaultCell(key.defaultValue), key.writer, key.meaning});
+    }
+    QCOMPARE(table({"Key", "Type", "Default", "Written by", "Meaning"}), expected);
+}
+
+void TestContract::thePageListsTheCommandsOfTheCodeAndNoOthers()
+{
+    QList<Row> expected;
+    for (const Contract::CommandEntry &command : Contract::commands()) {
+        const QString value = command.carriesValue ? QStringLiteral("Boolean") : QStringLiteral("absent");
+        expected.append({code(command.name), value, QStringLiteral("none"), command.meaning});
+    }
+    QCOMPARE(table({"Command", "\"value\"", "Extra entries", "Asks the agent to"}), expected);
+}
+
+void TestContract::thePageListsTheShortcutsOfTheCodeAndNoOthers()
+{
+    const QList<Row> rows = table({"Case", "Number", "Key code", "Shortcut"});
+    QCOMPARE(rows.size(), qsizetype(Hotkeys::allCases.size()));
+    for (qsizetype raw = 0; raw < rows.size(); ++raw) {
+        const Hotkey hotkey = Hotkeys::allCases[std::size_t(raw)];
+        const Row &row = rows[raw];
+        QCOMPARE(row[0], code(Hotkeys::caseName(hotkey)));
+        QCOMPARE(row[1], QString::number(raw));
+        QCOMPARE(row[3], Hotkeys::shownAs(hotkey));
+        const auto flags = Hotkeys::commandFlag | (row[3].startsWith(u'⌥') ? Hotkeys::optionFlag : 0);
+        const QStringList keyCode = row[2].split(u' ');
+        QCOMPARE(Hotkeys::match(keyCode[0].toInt(), flags), std::optional(hotkey));
+        QCOMPARE(keyCode[1], u'(' + row[3].last(1) + u')');
+    }
+}
+
+void TestContract::thePageNamesTheSuiteAndTheSignal()
+{
+    QCOMPARE(Shared::suiteName, QStringLiteral("com.vexmoor.corvane"));
+    QCOMPARE(Shared::Command::name, QStringLiteral("com.vexmoor.corvane.command"));
+    const QString text = page();
+    QVERIFY(text.contains(QStringLiteral("named `%1`").arg(Shared::suiteName)));
+    const QString path = u'/' + QString(Shared::suiteName).replace(u'.', u'/');
+    const qsizetype dot = Shared::Command::name.lastIndexOf(u'.');
+    const QList<Row> signal = {{"path", code(path)},
+                               {"interface", code(Shared::Command::name.first(dot))},
+                               {"member", code(Shared::Command::name.sliced(dot + 1))},
+                               {"arguments", "one, `a{sv}`"}};
+    QCOMPARE(table({"Part of the signal", "Value"}), signal);
+}
+
+void TestContract::everyKeyHasItsTypeDefaultAndWriter_data()
+{
+    QTest::addColumn<QVariant>("defaultValue");
+    QTest::addColumn<QString>("writer");
+
+    QTest::newRow("onboardingCompleted") << QVariant(false) << "application";
+    QTest::newRow("menuBarIconHidden") << QVariant(false) << "application";
+    QTest::newRow("agent.accessibilityTrusted") << QVariant(false) << "agent";
+    QTest::newRow("agent.launchAtLogin") << QVariant(false) << "both";
+    QTest::newRow("agent.launchAtLoginNeedsApproval") << QVariant(false) << "both";
+    QTest::newRow("buttonTheme") << QVariant(QStringLiteral("classic")) << "application";
+    QTest::newRow("buttonSizeOption") << QVariant(QStringLiteral("medium")) << "application";
+    QTest::newRow("showMinimizeButton") << QVariant(false) << "application";
+    QTest::newRow("showMaximizeButton") << QVariant(false) << "application";
+    QTest::newRow("maximizeMode") << QVariant(QStringLiteral("fullscreen")) << "application";
+    QTest::newRow("layouts.enabled") << QVariant(true) << "application";
+    QTest::newRow("layouts.shelf") << QVariant(true) << "application";
+    QTest::newRow("layouts.gap") << QVariant(0.0) << "application";
+    QTest::newRow("layouts.launchApps") << QVariant(true) << "application";
+    QTest::newRow("layouts.saved") << QVariant(QString()) << "both";
+    QTest::newRow("hotkey.close.disabled") << QVariant(false) << "application";
+    QTest::newRow("hotkey.closeAll.disabled") << QVariant(false) << "application";
+    QTest::newRow("hotkey.minimize.disabled") << QVariant(false) << "application";
+    QTest::newRow("hotkey.maximize.disabled") << QVariant(false) << "application";
+    QTest::newRow("hotkey.hide.disabled") << QVariant(false) << "application";
+    QTest::newRow("hotkey.hideOthers.disabled") << QVariant(false) << "application";
+    QTest::newRow("hotkey.kill.disabled") << QVariant(false) << "application";
+}
+
+void TestContract::everyKeyHasItsTypeDefaultAndWriter()
+{
+    QFETCH(QVariant, defaultValue);
+    QFETCH(QString, writer);
+    const QVariant actual = defaultOf(QTest::currentDataTag());
+    QCOMPARE(actual.metaType(), defaultValue.metaType());
+    QCOMPARE(actual, defaultValue);
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        if (key.name == QLatin1String(QTest::currentDataTag()))
+            QCOMPARE(key.writer, writer);
+    }
+}
+
+void TestContract::thereAreNoOtherKeys()
+{
+    QCOMPARE(Contract::storeKeys().size(), 22);
+}
+
+void TestContract::aKeyOutsideTheTableHasNoDefault()
+{
+    QVERIFY(!defaultOf("hotkey.none.disabled").isValid());
+    QVERIFY(!defaultOf("ButtonTheme").isValid());
+    QVERIFY(!defaultOf("").isValid());
+}
+
+void TestContract::everyCommandSaysWhetherItCarriesAValue()
+{
+    QMap<QString, bool> carriesValue;
+    for (const Contract::CommandEntry &command : Contract::commands())
+        carriesValue.insert(command.name, command.carriesValue);
+    QCOMPARE(carriesValue,
+             (QMap<QString, bool>{{QStringLiteral("applySettings"), false},
+                                  {QStringLiteral("setLaunchAtLogin"), true},
+                                  {QStringLiteral("requestAccessibility"), false},
+                                  {QStringLiteral("checkForUpdates"), false}}));
+}
+
+void TestContract::theIdentifiersSpellTheNames()
+{
+    QCOMPARE(Shared::Key::agentLaunchAtLoginNeedsApproval, "agent.launchAtLoginNeedsApproval");
+    QCOMPARE(Shared::Key::layoutsSaved, "layouts.saved");
+    QCOMPARE(Shared::Key::buttonSizeOption, "buttonSizeOption");
+    QCOMPARE(Shared::Command::setLaunchAtLogin, "setLaunchAtLogin");
+    QCOMPARE(Shared::Command::checkForUpdates, "checkForUpdates");
+}
+
+QTEST_APPLESS_MAIN(TestContract)
+#include "tst_contract.moc"

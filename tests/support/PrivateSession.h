@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+class BusDaemon;
+
+/// A login session of the test's own: new folders for settings, data, caches and run-time files, and a
+/// message bus once it is started. The environment of this process is changed to it, so it is made first in
+/// main(), before the application object, and one process has one of them. Children inherit it. Everything
+/// ends with this object, and with the test however that one ends.
+class PrivateSession {
+public:
+    PrivateSession();
+    ~PrivateSession();
+
+    /// Starts the bus. It can start the installed services named in `services` and no others; those of the
+    /// session's own dataFolder()/dbus-1/services count as installed. False when no bus could be started.
+    bool start(const QStringList &services = {QStringLiteral("ca.desrt.dconf")});
+
+    /// Ends the bus. Its address stays in the environment, as it does in a real session.
+    void stop();
+
+    QString configFolder() const { return m_folder.filePath(QStringLiteral("config")); }
+    QString dataFolder() const { return m_folder.filePath(QStringLiteral("data")); }
+    QString runtimeFolder() const { return m_folder.filePath(QStringLiteral("run")); }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<BusDaemon> m_bus;
+};
+
+/// The main() of a test that lives in a private session with a bus, and is told of it.
+template <typename Test> int runInPrivateSession(int argc, char **argv)
+{
+    PrivateSession session;
+    if (!session.start())
+        return 1;
+    const QGuiApplication application(argc, argv);
+    Test test(session);
+    return QTest::qExec(&test, argc, argv);
+}

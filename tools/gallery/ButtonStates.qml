@@ -1,0 +1,54 @@
+import QtQuick
+import Embera.Controls
+
+/// A button of one variant and size in all its states, without and with the arrow.
+Row {
+    id: states
+
+    required property string variant
+    required property string size
+    /// The button at rest.
+    readonly property Item atRest: rest
+
+    spacing: 16
+
+    EBButton {
+        id: rest
+
+        variant: states.variant
+        size: states.size
+        text: qsTr("At rest")
+    }
+    EBButton {
+        variant: states.variant
+        size: states.size
+        text: qsTr("Pressed")
+        down: true
+    }
+    EBButton {
+        variant: states.variant
+        size: states.size
+        text: qsTr("Disabled")
+        enabled: false
+    }
+    EBButton {
+        variant: states.variant
+        size: states.size
+        text: qsTr("At rest")
+        arrow: true
+    }
+    EBButton {
+        variant: states.variant
+        size: states.size
+        text: qsTr("Pressed")
+        arrow: true
+        down: true
+    }
+    EBButton {
+        variant: states.variant
+        size: states.size
+        text: qsTr("Disabled")
+        arrow: true
+        enabled: false
+    }
+}

@@ -1,0 +1,37 @@
+#include "Catalogue.h"
+
+#include "EBApp.h"
+#include "EBKit.h"
+#include "GlyphName.h"
+#include "Platform.h"
+
+Catalogue::Catalogue(QObject *parent) : QObject(parent)
+{
+    connect(&Platform::current().appearance(), &Appearance::changed, this, &Catalogue::appearanceChanged);
+}
+
+QStringList Catalogue::glyphs() const
+{
+    QStringList names;
+    for (const GlyphName glyph : allGlyphNames())
+        names.append(rawValue(glyph));
+    return names;
+}
+
+QVariantList Catalogue::tokens() const
+{
+    return {
+#define EB_TOKEN(token, ...)                                                                                           \
+    QVariantMap{{QStringLiteral("name"), QStringLiteral(#token)}, {QStringLiteral("color"), EBKit::token().current()}},
+        EB_COLOR_TOKENS(EB_TOKEN, EB_TOKEN)
+#undef EB_TOKEN
+    };
+}
+
+QStringList Catalogue::apps() const
+{
+    QStringList names;
+    for (const EBApp app : EBApps::allCases)
+        names.append(EBApps::rawValue(app));
+    return names;
+}

@@ -1,0 +1,53 @@
+#include "ScenePicture.h"
+
+#include "EBEnvironment.h"
+#include "EBKit.h"
+#include "FakePlatform.h"
+#include "GalleryLook.h"
+#include "PictureScreens.h"
+#include "Scene.h"
+#include "SceneTable.h"
+#include "ViewEngine.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <QStyleHints>
+
+#include <cmath>
+
+namespace {
+
+QSize extentOf(const QQuickItem &item)
+{
+    return {int(std::ceil(item.implicitWidth())), int(std::ceil(item.implicitHeight()))};
+}
+
+}
+
+ScenePicture::ScenePicture(QQmlEngine &engine, FakePlatform &platform, const GalleryLook &look)
+    : m_engine(engine), m_look(look)
+{
+    platform.look.setReduceMotion(true);
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
+}
+
+QImage ScenePicture::draw(const SceneEntry &entry, qreal scale) const
+{
+    QQuickWindow window;
+    window.setScreen(PictureScreens::ofScale(scale));
+    window.setColor(EBKit::paper().current());
+    const std::unique_ptr<Scene> scene(ViewEngine::make<Scene>(m_engine, entry.source.toString()));
+    EBEnvironment::of(scene.get())->setEbApp(m_look.app());
+    scene->setParentItem(window.contentItem());
+    window.resize(extentOf(*scene));
+    window.show();
+    window.requestActivate();
+    QCoreApplication::processEvents();
+
+    // The first drawing lays the scene out; only then is its size known, and where its items are.
+    window.grabWindow();
+    window.resize(extentOf(*scene));
+    scene->strikePose();
+    QCoreApplication::processEvents();
+    return window.grabWindow();
+}

@@ -1,0 +1,121 @@
+#include "EBApp.h"
+#include "FakePlatform.h"
+#include "GalleryLook.h"
+#include "GalleryOptions.h"
+#include "GalleryPlatform.h"
+#include "PictureFile.h"
+#include "PictureScreens.h"
+#include "ScenePicture.h"
+#include "SceneTable.h"
+#include "ViewEngine.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QQuickView>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int failure = 1;
+constexpr int misuse = 2;
+
+int complain(const QString &fault, int exitCode)
+{
+    std::fprintf(stderr, "corvane-gallery: %s\n", qPrintable(fault));
+    return exitCode;
+}
+
+int list()
+{
+    for (const SceneEntry &scene : SceneTable::all())
+        std::puts(qPrintable(scene.name));
+    return 0;
+}
+
+int help(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    std::puts(qPrintable(GalleryOptions::helpText()));
+    return 0;
+}
+
+/// The application object with everything the scenes need.
+struct Gallery {
+    Gallery(int &argc, char *argv[], const GalleryOptions &options)
+        : application(argc, argv),
+          platform(installGalleryPlatform(QGuiApplication::applicationDirPath() + QStringLiteral("/../Resources"))),
+          look(platform.look)
+    {
+        if (!options.font.isEmpty())
+            QGuiApplication::setFont(QFont(options.font));
+        look.setDark(options.dark);
+        look.setHighContrast(options.highContrast);
+        look.setApp(options.app);
+    }
+
+    QGuiApplication application;
+    FakePlatform &platform;
+    GalleryLook look;
+    ViewEngine engine;
+};
+
+bool isMissing(const QString &font)
+{
+    return !font.isEmpty() && !QFontDatabase::hasFamily(font);
+}
+
+int render(int argc, char *argv[], const GalleryOptions &options)
+{
+    const PictureScreens screens({options.scale});
+    Gallery gallery(argc, argv, options);
+    if (isMissing(options.font))
+        return complain(QStringLiteral("There is no font \"%1\".").arg(options.font), misuse);
+    const ScenePicture picture(gallery.engine, gallery.platform, gallery.look);
+    if (!PictureFile::write(picture.draw(*SceneTable::find(options.scene), options.scale), options.file))
+        return complain(QStringLiteral("\"%1\" cannot be written.").arg(options.file), failure);
+    return 0;
+}
+
+int browse(int argc, char *argv[], const GalleryOptions &options)
+{
+    if (options.scale != 1)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    Gallery gallery(argc, argv, options);
+    if (isMissing(options.font))
+        return complain(QStringLiteral("There is no font \"%1\".").arg(options.font), misuse);
+    QQuickView view(&gallery.engine, nullptr);
+    view.setTitle(QGuiApplication::translate("Gallery", "Corvane Gallery"));
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.setInitialProperties({{QStringLiteral("look"), QVariant::fromValue(&gallery.look)}});
+    view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Gallery/Browser.qml")));
+    view.resize(1180, 800);
+    view.show();
+    return QGuiApplication::exec();
+}
+
+}
+
+int main(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const auto parsed = GalleryOptions::parse(arguments);
+    if (const auto *fault = std::get_if<QString>(&parsed))
+        return complain(*fault, misuse);
+
+    const auto &options = std::get<GalleryOptions>(parsed);
+    switch (options.action) {
+    case GalleryOptions::Action::list:
+        return list();
+    case GalleryOptions::Action::help:
+        return help(argc, argv);
+    case GalleryOptions::Action::render:
+        return render(argc, argv, options);
+    case GalleryOptions::Action::browse:
+        break;
+    }
+    return browse(argc, argv, options);
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import Corvane.Gallery
+
+/// The button on the loud colours of the three products.
+Sheet {
+    Repeater {
+        model: Catalogue.apps
+
+        LoudPanel {
+            id: panel
+
+            required property string modelData
+
+            app: modelData
+
+            Repeater {
+                model: ["md", "sm", "xs"]
+
+                ButtonStates {
+                    required property string modelData
+
+                    variant: "onLoud"
+                    size: modelData
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import Embera.Controls
+import Corvane.Gallery
+
+/// The chooser over a short list: with each choice, without one, with numbers, disabled, mirrored; one has the focus.
+Sheet {
+    id: scene
+
+    readonly property var sizes: [{value: "small", title: qsTr("Small")}, {value: "medium", title: qsTr("Medium")}, {value: "large", title: qsTr("Large")}]
+
+    // The chooser itself cannot take the focus, its segments can: the Tab key finds the right one.
+    keys: ["Tab"]
+
+    Section {
+        title: qsTr("Keyboard focus")
+
+        EBSegmented {
+            label: qsTr("Size")
+            options: scene.sizes
+            selection: "medium"
+        }
+    }
+    Section {
+        title: qsTr("First, last, none")
+
+        EBSegmented {
+            label: qsTr("Size")
+            options: scene.sizes
+            selection: "small"
+        }
+        EBSegmented {
+            label: qsTr("Size")
+            options: scene.sizes
+            selection: "large"
+        }
+        EBSegmented {
+            label: qsTr("Size")
+            options: scene.sizes
+        }
+    }
+    Section {
+        title: qsTr("Numbers")
+
+        EBSegmented {
+            label: qsTr("Gap")
+            options: [0, 4, 8, 12, 16].map(gap => ({value: gap, title: String(gap)}))
+            selection: 8
+        }
+    }
+    Section {
+        title: qsTr("Disabled")
+
+        EBSegmented {
+            label: qsTr("Size")
+            options: scene.sizes
+            selection: "medium"
+            enabled: false
+        }
+    }
+    Section {
+        title: qsTr("Mirrored")
+        LayoutMirroring.enabled: true
+        LayoutMirroring.childrenInherit: true
+
+        EBSegmented {
+            label: qsTr("Size")
+            options: scene.sizes
+            selection: "small"
+        }
+    }
+}

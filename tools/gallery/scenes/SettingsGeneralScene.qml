@@ -1,0 +1,6 @@
+import Corvane.Gallery
+
+/// The settings window as it first opens.
+SettingsSheet {
+    page: "general"
+}
