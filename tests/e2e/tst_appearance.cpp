@@ -1,18 +1,36 @@
 #include "EndToEndTest.h"
-#include "FakePortal.h"
+#include "SettingsPortal.h"
 
 #include <QDeadlineTimer>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const QString group = u"org.freedesktop.appearance"_s;
+const QString colorScheme = u"color-scheme"_s;
+const QString contrast = u"contrast"_s;
+const QString reducedMotion = u"reduced-motion"_s;
+
+// The portal's numbers.
+constexpr uint noPreference = 0;
+constexpr uint dark = 1;
+constexpr uint light = 2;
+constexpr uint on = 1;
+
+QVariant settings(const QVariantMap &appearance)
+{
+    return QVariant::fromValue(SettingsGroups{{{group, appearance}}});
+}
+
+}
+
 /// How the window follows the desktop's look while the desktop says what it wants through its portal.
 class TestAppearance : public EndToEndTest {
     Q_OBJECT
 
 private:
-    using Scheme = FakePortal::ColorScheme;
-
     static constexpr QColor lightPaper{0xF7, 0xF6, 0xF2};
     static constexpr QColor darkPaper{0x0D, 0x0D, 0x0E};
     static constexpr QColor lightIndigo{0x5A, 0x5C, 0xF2};
@@ -72,41 +90,34 @@ void TestAppearance::isLightWithoutAPortal()
 
 void TestAppearance::startsInTheSchemeOfThePortal_data()
 {
-    QTest::addColumn<QVariantMap>("appearance");
-    QTest::addColumn<uint>("version");
+    QTest::addColumn<QVariant>("answer");
     QTest::addColumn<QColor>("paper");
-    for (const uint version : {1U, 2U}) {
-        const QString portal = u"portal %1, "_s.arg(version);
-        const auto row = [&](const char *name, const QVariantMap &appearance, const QColor &paper) {
-            QTest::newRow(qPrintable(portal + QLatin1String(name))) << appearance << version << paper;
-        };
-        row("no preference", FakePortal::colorScheme(Scheme::NoPreference), lightPaper);
-        row("dark", FakePortal::colorScheme(Scheme::Dark), darkPaper);
-        row("light", FakePortal::colorScheme(Scheme::Light), lightPaper);
-        row("unknown value", {{u"color-scheme"_s, 9U}}, lightPaper);
-        row("a value of another type", {{u"color-scheme"_s, u"dark"_s}}, lightPaper);
-        row("nothing", {}, lightPaper);
-    }
+    QTest::newRow("no preference") << settings({{colorScheme, noPreference}}) << lightPaper;
+    QTest::newRow("dark") << settings({{colorScheme, dark}}) << darkPaper;
+    QTest::newRow("light") << settings({{colorScheme, light}}) << lightPaper;
+    QTest::newRow("unknown value") << settings({{colorScheme, 9U}}) << lightPaper;
+    QTest::newRow("a value of another type") << settings({{colorScheme, u"dark"_s}}) << lightPaper;
+    QTest::newRow("nothing") << settings({}) << lightPaper;
+    QTest::newRow("an error") << QVariant() << lightPaper;
 }
 
 void TestAppearance::startsInTheSchemeOfThePortal()
 {
-    QFETCH(QVariantMap, appearance);
-    QFETCH(uint, version);
+    QFETCH(QVariant, answer);
     QFETCH(QColor, paper);
-    const FakePortal portal(appearance, version);
+    const SettingsPortal portal(answer);
     QVERIFY(open());
     QVERIFY(isPaintedOn(paper));
 }
 
 void TestAppearance::followsTheSchemeWhileItIsOpen()
 {
-    FakePortal portal(FakePortal::colorScheme(Scheme::Light));
+    SettingsPortal portal(settings({{colorScheme, light}}));
     QVERIFY(open());
     QVERIFY(isPaintedOn(lightPaper));
-    portal.change(FakePortal::colorScheme(Scheme::Dark));
+    portal.change(group, colorScheme, dark);
     QVERIFY(isPaintedOn(darkPaper));
-    portal.change(FakePortal::colorScheme(Scheme::NoPreference));
+    portal.change(group, colorScheme, noPreference);
     QVERIFY(isPaintedOn(lightPaper));
 }
 
@@ -114,25 +125,23 @@ void TestAppearance::followsAPortalThatComesLater()
 {
     QVERIFY(open());
     QVERIFY(isPaintedOn(lightPaper));
-    const FakePortal portal(FakePortal::colorScheme(Scheme::Dark));
+    const SettingsPortal portal(settings({{colorScheme, dark}}));
     QVERIFY(isPaintedOn(darkPaper));
 }
 
 void TestAppearance::highContrastKeepsTheColours_data()
 {
-    QTest::addColumn<Scheme>("scheme");
+    QTest::addColumn<uint>("scheme");
     QTest::addColumn<QColor>("paper");
-    QTest::newRow("light") << Scheme::Light << lightPaper;
-    QTest::newRow("dark") << Scheme::Dark << darkPaper;
+    QTest::newRow("light") << light << lightPaper;
+    QTest::newRow("dark") << dark << darkPaper;
 }
 
 void TestAppearance::highContrastKeepsTheColours()
 {
-    QFETCH(Scheme, scheme);
+    QFETCH(uint, scheme);
     QFETCH(QColor, paper);
-    QVariantMap appearance = FakePortal::colorScheme(scheme);
-    appearance.insert(FakePortal::contrast(true));
-    const FakePortal portal(appearance);
+    const SettingsPortal portal(settings({{colorScheme, scheme}, {contrast, on}}));
     QVERIFY(open());
     QVERIFY(isPaintedOn(paper));
 }
@@ -140,14 +149,14 @@ void TestAppearance::highContrastKeepsTheColours()
 void TestAppearance::recoloursTheControlsToo()
 {
     store().write(u"agent.launchAtLogin"_s, true);
-    FakePortal portal(FakePortal::colorScheme(Scheme::Light));
+    SettingsPortal portal(settings({{colorScheme, light}}));
     QVERIFY(open());
     FIND(login, ATSPI_ROLE_CHECK_BOX, "Start at login");
     settle();
     const QRect box = login.extents();
     const QPoint track(box.left() + 6, box.center().y());
     QVERIFY(screen().waitForPixel(track, lightIndigo));
-    portal.change(FakePortal::colorScheme(Scheme::Dark));
+    portal.change(group, colorScheme, dark);
     QVERIFY(screen().waitForPixel(track, darkIndigo));
 }
 
@@ -160,25 +169,25 @@ void TestAppearance::aFlippedSwitchSlides()
 
 void TestAppearance::aFlippedSwitchDoesNotSlideWithReducedMotion()
 {
-    const FakePortal portal(FakePortal::reducedMotion(true));
+    const SettingsPortal portal(settings({{reducedMotion, on}}));
     QVERIFY(open());
     QCOMPARE(picturesOfAFlip(lightIndigo).size(), 2);
 }
 
 void TestAppearance::reducedMotionIsReadAtTheMomentOfTheFlip()
 {
-    FakePortal portal(FakePortal::reducedMotion(false));
+    SettingsPortal portal(settings({}));
     QVERIFY(open());
-    portal.change(FakePortal::reducedMotion(true));
+    portal.change(group, reducedMotion, on);
     // The notices arrive in their order, and the second one can be seen.
-    portal.change(FakePortal::colorScheme(Scheme::Dark));
+    portal.change(group, colorScheme, dark);
     QVERIFY(isPaintedOn(darkPaper));
     QCOMPARE(picturesOfAFlip(darkIndigo).size(), 2);
 }
 
 void TestAppearance::thePageGrowsAtOnceWithReducedMotion()
 {
-    const FakePortal portal(FakePortal::reducedMotion(true));
+    const SettingsPortal portal(settings({{reducedMotion, on}}));
     QVERIFY(open());
     FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
     settle();

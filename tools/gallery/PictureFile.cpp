@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int paletteSize = 256;
-constexpr int smallest = 9;
+constexpr int smallest = 100; // in percent
 
 const QRgb *line(const QImage &picture, int y)
 {

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int side = 8000; // points
+constexpr int side = 16000; // device pixels
 
 QByteArray description(const QList<qreal> &scales)
 {
@@ -21,9 +21,8 @@ QByteArray description(const QList<qreal> &scales)
                                    {QStringLiteral("y"), 0},
                                    {QStringLiteral("width"), side},
                                    {QStringLiteral("height"), side},
-                                   {QStringLiteral("logicalDpi"), 96},
-                                   {QStringLiteral("logicalBaseDpi"), 96},
-                                   {QStringLiteral("dpr"), scale}});
+                                   {QStringLiteral("logicalDpi"), 96 * scale},
+                                   {QStringLiteral("logicalBaseDpi"), 96}});
     }
     return QJsonDocument(QJsonObject{{QStringLiteral("screens"), screens}}).toJson();
 }
@@ -37,7 +36,8 @@ PictureScreens::PictureScreens(const QList<qreal> &scales)
         qFatal("the screens could not be described: %s", qPrintable(file.errorString()));
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file.fileName()));
     // A person's own choices would change the pictures, and a theme of the desktop wants a display.
-    for (const char *variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_QPA_PLATFORMTHEME"})
+    for (const char *variable : {"QT_ENABLE_HIGHDPI_SCALING", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+                                 "QT_FONT_DPI", "QT_QPA_PLATFORMTHEME"})
         qunsetenv(variable);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }

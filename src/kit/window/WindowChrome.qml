@@ -11,11 +11,11 @@ Item {
     z: 1
 
     Shortcut {
-        sequences: [StandardKey.Close]
+        sequences: ["Ctrl+W"]
         onActivated: chrome.window.close()
     }
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequences: ["Ctrl+Q"]
         onActivated: Qt.quit()
     }
     Row {

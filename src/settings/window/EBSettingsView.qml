@@ -14,7 +14,7 @@ FocusScope {
     focus: true
 
     Shortcut {
-        sequences: [StandardKey.Find]
+        sequences: ["Ctrl+F"]
         onActivated: sidebar.find()
     }
     Sidebar {

@@ -3,7 +3,7 @@ import Embera.Tokens
 import Embera.Glyphs
 import Embera.Controls
 
-/// One page in the sidebar; a click chooses it. The selected one lies on a chip and carries the product's colour in its glyph.
+/// One page in the sidebar; a click chooses it. The selected one lies on a chip, and its glyph has the product's colour.
 Pressable {
     id: item
 
@@ -12,16 +12,15 @@ Pressable {
     property bool selected: false
     /// Tab stops at one page of the list, the arrow keys go on from there.
     property bool tabStop: true
+    readonly property int accessibleRole: Accessible.ListItem
 
     implicitHeight: 30
     leftPadding: 10
     rightPadding: 10
     focusPolicy: tabStop ? Qt.StrongFocus : Qt.ClickFocus
     text: title
-    Accessible.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: selected
-    Accessible.onPressAction: click()
 
     background: ContinuousRectangle {
         radius: 10

@@ -172,13 +172,6 @@ QString Accessible::text() const
     return taken(atspi_text_get_text(text.get(), 0, count, Failure()));
 }
 
-bool Accessible::setText(const QString &text) const
-{
-    const auto editable = held(m_object ? atspi_accessible_get_editable_text_iface(m_object.get()) : nullptr);
-    return editable
-        && atspi_editable_text_set_text_contents(editable.get(), text.toUtf8().constData(), Failure());
-}
-
 std::optional<double> Accessible::value() const
 {
     const auto value = held(m_object ? atspi_accessible_get_value_iface(m_object.get()) : nullptr);

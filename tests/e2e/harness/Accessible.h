@@ -45,7 +45,6 @@ public:
 
     /// The characters of a text element; empty for every other one.
     QString text() const;
-    bool setText(const QString &text) const;
     std::optional<double> value() const;
 
     bool grabFocus() const;
