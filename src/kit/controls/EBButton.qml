@@ -12,13 +12,11 @@ Pressable {
     /// A round arrow badge follows the label.
     property bool arrow: false
 
-    implicitWidth: face.implicitWidth
-    implicitHeight: face.implicitHeight
+    implicitWidth: implicitContentWidth
+    implicitHeight: implicitContentHeight
     opacity: enabled ? 1 : 0.4
 
     contentItem: ButtonFace {
-        id: face
-
         text: control.text
         variant: control.variant
         size: control.size

@@ -19,11 +19,9 @@ Pressable {
     implicitHeight: size
     opacity: enabled ? 1 : 0.4
     hoverEnabled: true
-    containmentMask: circle
+    containmentMask: background
 
     background: ContinuousRectangle {
-        id: circle
-
         color: control.hovered ? EB.chip : "transparent"
 
         FocusRing {

@@ -10,17 +10,15 @@ ControlledToggle {
     property string label
 
     text: label
-    implicitWidth: face.implicitWidth
-    implicitHeight: face.implicitHeight
+    implicitWidth: implicitContentWidth
+    implicitHeight: implicitContentHeight
     opacity: enabled ? 1 : 0.4
 
     contentItem: SwitchFace {
-        id: face
-
         position: control.isOn ? 1 : 0
         mirrored: control.mirrored
-        offColor: EB.track
-        onColor: EBEnvironment.accent
+        trackColor: EB.track
+        accentColor: EBEnvironment.accent
         knobColor: EB.knob
         knobBorderColor: EB.lineStrong
 

@@ -39,7 +39,7 @@ SwitchFace::SwitchFace(QQuickItem *parent) : CrispItem(parent)
 void SwitchFace::paint(QPainter *painter)
 {
     const qreal position = std::clamp(m_position, 0.0, 1.0);
-    paintCapsule(painter, QRectF(QPointF(), trackSize), mixed(m_offColor, m_onColor, position));
+    paintCapsule(painter, QRectF(QPointF(), trackSize), mixed(m_trackColor, m_accentColor, position));
 
     const qreal travel = trackSize.width() - knobSize.width() - 2 * inset;
     const qreal x = inset + travel * (m_mirrored ? 1 - position : position);

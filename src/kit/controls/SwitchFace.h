@@ -12,8 +12,8 @@ class SwitchFace : public CrispItem {
     Q_PROPERTY(qreal position MEMBER m_position WRITE setPosition NOTIFY changed)
     /// On is at the left.
     Q_PROPERTY(bool mirrored MEMBER m_mirrored WRITE setMirrored NOTIFY changed)
-    Q_PROPERTY(QColor offColor MEMBER m_offColor WRITE setOffColor NOTIFY changed)
-    Q_PROPERTY(QColor onColor MEMBER m_onColor WRITE setOnColor NOTIFY changed)
+    Q_PROPERTY(QColor trackColor MEMBER m_trackColor WRITE setTrackColor NOTIFY changed)
+    Q_PROPERTY(QColor accentColor MEMBER m_accentColor WRITE setAccentColor NOTIFY changed)
     Q_PROPERTY(QColor knobColor MEMBER m_knobColor WRITE setKnobColor NOTIFY changed)
     /// The knob's border while it is off; it fades away on the way to on.
     Q_PROPERTY(QColor knobBorderColor MEMBER m_knobBorderColor WRITE setKnobBorderColor NOTIFY changed)
@@ -22,8 +22,8 @@ public:
 
     void setPosition(qreal position) { set(m_position, position); }
     void setMirrored(bool mirrored) { set(m_mirrored, mirrored); }
-    void setOffColor(const QColor &color) { set(m_offColor, color); }
-    void setOnColor(const QColor &color) { set(m_onColor, color); }
+    void setTrackColor(const QColor &color) { set(m_trackColor, color); }
+    void setAccentColor(const QColor &color) { set(m_accentColor, color); }
     void setKnobColor(const QColor &color) { set(m_knobColor, color); }
     void setKnobBorderColor(const QColor &color) { set(m_knobBorderColor, color); }
 
@@ -42,8 +42,8 @@ private:
 
     qreal m_position = 0;
     bool m_mirrored = false;
-    QColor m_offColor;
-    QColor m_onColor;
+    QColor m_trackColor;
+    QColor m_accentColor;
     QColor m_knobColor;
     QColor m_knobBorderColor;
 };
