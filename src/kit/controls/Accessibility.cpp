@@ -13,8 +13,7 @@ public:
     MendedItem(QQuickItem *item, QAccessible::Id original)
         : m_item(item),
           m_original(original),
-          m_enabledChanged(
-              QObject::connect(item, &QQuickItem::enabledChanged, item, [item] { announce(item); }))
+          m_enabledChanged(QObject::connect(item, &QQuickItem::enabledChanged, item, [item] { announce(item); }))
     {
     }
     ~MendedItem() override { QObject::disconnect(m_enabledChanged); }
@@ -70,10 +69,7 @@ public:
 
     QWindow *window() const override { return isValid() ? original()->window() : nullptr; }
     QAccessibleInterface *parent() const override { return isValid() ? original()->parent() : nullptr; }
-    QAccessibleInterface *child(int index) const override
-    {
-        return isValid() ? original()->child(index) : nullptr;
-    }
+    QAccessibleInterface *child(int index) const override { return isValid() ? original()->child(index) : nullptr; }
     int childCount() const override { return isValid() ? original()->childCount() : 0; }
     int indexOfChild(const QAccessibleInterface *child) const override
     {
@@ -83,19 +79,12 @@ public:
     {
         return isValid() ? mended(original()->childAt(x, y)) : nullptr;
     }
-    QAccessibleInterface *focusChild() const override
-    {
-        return isValid() ? mended(original()->focusChild()) : nullptr;
-    }
-    QList<QPair<QAccessibleInterface *, QAccessible::Relation>>
-    relations(QAccessible::Relation match) const override
+    QAccessibleInterface *focusChild() const override { return isValid() ? mended(original()->focusChild()) : nullptr; }
+    QList<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(QAccessible::Relation match) const override
     {
         return isValid() ? original()->relations(match) : decltype(relations(match))();
     }
-    QString text(QAccessible::Text kind) const override
-    {
-        return isValid() ? original()->text(kind) : QString();
-    }
+    QString text(QAccessible::Text kind) const override { return isValid() ? original()->text(kind) : QString(); }
     void setText(QAccessible::Text kind, const QString &text) override
     {
         if (isValid())

@@ -66,8 +66,7 @@ void ButtonFace::measure()
     const EBButtonStyle::Geometry geometry = m_style.geometry();
     m_labelWidth = std::ceil(QFontMetricsF(m_style.font()).horizontalAdvance(m_text));
     const qreal badge = m_style.arrow ? geometry.spacing + geometry.badgeDiameter : 0;
-    setImplicitSize(geometry.leadingPadding + m_labelWidth + badge + geometry.trailingPadding,
-                    geometry.height);
+    setImplicitSize(geometry.leadingPadding + m_labelWidth + badge + geometry.trailingPadding, geometry.height);
     setBleed(m_style.arrow ? std::max(0.0, (geometry.badgeDiameter - geometry.height) / 2) : 0);
 }
 
@@ -86,10 +85,10 @@ void ButtonFace::paint(QPainter *painter)
         return;
     const qreal diameter = geometry.badgeDiameter;
     const qreal x = leading + m_labelWidth + geometry.spacing;
-    paintBadge(painter,
-               QRectF(m_mirrored ? bounds.right() - x - diameter : x, bounds.center().y() - diameter / 2,
-                      diameter, diameter),
-               colors);
+    paintBadge(
+        painter,
+        QRectF(m_mirrored ? bounds.right() - x - diameter : x, bounds.center().y() - diameter / 2, diameter, diameter),
+        colors);
 }
 
 void ButtonFace::paintLabel(QPainter *painter, qreal x, const QColor &color) const

@@ -50,5 +50,4 @@ void paintContinuousRect(QPainter *painter, const QRectF &bounds, qreal radius, 
                          const QColor &stroke = Qt::transparent, qreal strokeWidth = 0);
 
 /// A capsule of the kit: the ends are half circles, and a border is one point wide.
-void paintCapsule(QPainter *painter, const QRectF &bounds, const QColor &fill,
-                  const QColor &border = Qt::transparent);
+void paintCapsule(QPainter *painter, const QRectF &bounds, const QColor &fill, const QColor &border = Qt::transparent);

@@ -23,9 +23,8 @@ ControlledToggle {
         knobBorderColor: EB.lineStrong
 
         Behavior on position {
-            enabled: control.isFlipping
-
             NumberAnimation {
+                // Only what the person does is animated, and only if motion is welcome at that moment.
                 duration: control.isFlipping ? Motion.duration(0.15) : 0
                 easing: Motion.easeOut
             }

@@ -48,8 +48,7 @@ static QPointF sharpCenter(const QPainter &painter, QPointF center, qreal stroke
     const qreal pixels = std::max(1.0, std::round(strokeWidth * std::abs(toPixels.m22())));
     const qreal offset = std::fmod(pixels, 2) / 2;
     const QPointF at = toPixels.map(center);
-    return toPixels.inverted().map(
-        QPointF(std::round(at.x() - offset) + offset, std::round(at.y() - offset) + offset));
+    return toPixels.inverted().map(QPointF(std::round(at.x() - offset) + offset, std::round(at.y() - offset) + offset));
 }
 
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds)

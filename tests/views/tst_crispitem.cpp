@@ -1,0 +1,113 @@
+#include "CrispItem.h"
+
+#include <QPainter>
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QTest>
+
+/// Stripes one device pixel wide, black on the even ones: any stretching or smoothing turns some of them grey.
+class Stripes : public CrispItem {
+public:
+    int paintings = 0;
+
+protected:
+    void paint(QPainter *painter) override
+    {
+        ++paintings;
+        painter->setRenderHint(QPainter::Antialiasing, false);
+        const qreal pixel = 1 / painter->device()->devicePixelRatio();
+        for (int column = 0; column * pixel < width(); ++column)
+            painter->fillRect(QRectF(column * pixel, 0, pixel, height()), column % 2 ? Qt::white : Qt::black);
+    }
+};
+
+class CrispItemTest : public QObject {
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        m_window = std::make_unique<QQuickWindow>();
+        m_window->setColor(Qt::red);
+        m_window->resize(100, 60);
+        m_item = new Stripes;
+        m_item->setParent(m_window.get());
+        m_item->setParentItem(m_window->contentItem());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    }
+
+    void everyPixelIsTheOneThatWasPainted_data()
+    {
+        QTest::addColumn<QRectF>("geometry");
+        QTest::newRow("even") << QRectF(4, 4, 24, 24);
+        QTest::newRow("odd size") << QRectF(4, 4, 13, 13);
+        QTest::newRow("odd place") << QRectF(5, 7, 24, 24);
+        QTest::newRow("odd both") << QRectF(5, 7, 15, 11);
+        QTest::newRow("fractional place") << QRectF(5.3, 7.7, 15, 11);
+    }
+    void everyPixelIsTheOneThatWasPainted()
+    {
+        QFETCH(const QRectF, geometry);
+        m_item->setPosition(geometry.topLeft());
+        m_item->setSize(geometry.size());
+        const QImage image = m_window->grabWindow();
+        const qreal scale = m_window->effectiveDevicePixelRatio();
+        QCOMPARE(scale, QByteArray(SCALE).toDouble());
+        const int y = int(geometry.center().y() * scale);
+        int black = 0;
+        int white = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y) & 0xffffff;
+            const bool isStripe = pixel == 0 || pixel == 0xffffff;
+            QVERIFY2(isStripe || pixel == 0xff0000, qPrintable(QString::number(pixel, 16)));
+            if (pixel == 0) {
+                QCOMPARE(black, white);
+                ++black;
+            } else if (pixel == 0xffffff) {
+                ++white;
+            }
+        }
+        QVERIFY(qAbs(black + white - geometry.width() * scale) < 1);
+    }
+
+    void itIsPaintedAnewOnlyWhenSomethingChanges()
+    {
+        m_item->setSize({24, 24});
+        m_window->grabWindow();
+        const int before = m_item->paintings;
+        m_item->setPosition({30, 20});
+        m_item->setOpacity(0.5);
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, before);
+        m_item->setSize({25, 24});
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, before + 1);
+        m_item->update();
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, before + 2);
+    }
+
+    void withoutASizeNothingIsPainted()
+    {
+        m_item->setSize({0, 24});
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, 0);
+    }
+
+private:
+    std::unique_ptr<QQuickWindow> m_window;
+    Stripes *m_item = nullptr;
+};
+
+// Once for each scale, which holds for a whole process.
+int main(int argc, char **argv)
+{
+    qputenv("QT_SCALE_FACTOR", SCALE);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    CrispItemTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_crispitem.moc"
