@@ -15,8 +15,7 @@ public:
     /// Starts a new instance of the application in `bundleURL`. `completion` runs on the main thread once the
     /// start was attempted, whatever came of it, and never before this call has returned.
     virtual void openApplication(const QUrl &bundleURL, const QStringList &arguments,
-                                 std::function<void()> completion)
-        = 0;
+                                 std::function<void()> completion) = 0;
 
     /// Opens the page of the desktop's settings on which login items are allowed.
     virtual void openLoginItemsSettings() = 0;

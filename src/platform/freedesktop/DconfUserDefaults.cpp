@@ -28,14 +28,14 @@ void silenceLibrary()
 }
 
 // The library shares the one bus connection of the process, and that one ends the process when the bus goes away,
-// unless it is told not to. Waiting for the connection is left to a thread, which needs no event loop and ends at once.
+// unless it is told not to. Waiting for the connection is left to a thread, which needs no event loop and ends at once;
+// holding on to the connection makes sure that the library gets no other.
 void outliveBus()
 {
     std::thread([] {
-        if (GDBusConnection *bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr)) {
+        static GDBusConnection *const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+        if (bus)
             g_dbus_connection_set_exit_on_close(bus, FALSE);
-            g_object_unref(bus);
-        }
     }).detach();
 }
 
@@ -156,7 +156,7 @@ QVariant DconfUserDefaults::value(const QString &key) const
     GVariant *stored = path ? dconf_client_read(m_client, path->constData()) : nullptr;
     if (!stored)
         return {};
-    const QVariant value = fromGVariant(stored);
+    QVariant value = fromGVariant(stored);
     g_variant_unref(stored);
     return value;
 }

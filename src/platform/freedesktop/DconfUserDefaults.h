@@ -7,7 +7,7 @@
 
 #include <optional>
 
-using DConfClient = struct _DConfClient;
+using DConfClient = struct _DConfClient; // NOLINT(bugprone-reserved-identifier): the library's own name
 
 /// A suite in the dconf database: the suite's name with slashes for its dots is the folder, the key the name
 /// in it.
