@@ -1,8 +1,9 @@
 #include "SettingsPages.h"
 
 #include "GeneralPage.h"
+#include "ShortcutsPage.h"
 
 QList<EBSettingsPage> SettingsPages::make()
 {
-    return {generalPage()};
+    return {generalPage(), shortcutsPage()};
 }

@@ -31,6 +31,13 @@ UserDefaults &Shared::store()
     return *taken;
 }
 
+QVariant Shared::value(const QString &key)
+{
+    const QVariant stored = store().value(key);
+    const QVariant fallback = Contract::defaultValue(key);
+    return stored.metaType() == fallback.metaType() ? stored : fallback;
+}
+
 void Shared::send(const QString &command, std::optional<bool> value, const QMap<QString, QString> &extra)
 {
     QVariantMap userInfo = {{QStringLiteral("command"), command}};

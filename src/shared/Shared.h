@@ -42,6 +42,9 @@ QString hotkeyDisabled(Hotkey hotkey);
 /// defaults.
 UserDefaults &store();
 
+/// The stored value of a key of the table; its default where the key is absent or holds a value of another type.
+QVariant value(const QString &key);
+
 /// Posts one command. `value` present means one entry "value", absent means no entry at all. An entry of
 /// `extra` under "command" or "value" replaces what stood there. Nothing is answered: the agent's reaction
 /// shows as changed "agent." keys, and without an agent the command is lost.

@@ -16,6 +16,8 @@ private slots:
     void theStoreIsTakenOnce();
     void aBundleWithoutAnIdentifierUsesTheSuite();
 
+    void aValueOfAnotherTypeReadsAsTheDefault();
+
     void aCommandAloneMakesExactlyOneEntry();
     void aFalseValueIsPresentAndFalse();
     void aTrueValueIsABoolean();
@@ -77,6 +79,18 @@ void TestShared::aBundleWithoutAnIdentifierUsesTheSuite()
 {
     m_platform->main.info.reset();
     QCOMPARE(&Shared::store(), &m_platform->suite(suite));
+}
+
+void TestShared::aValueOfAnotherTypeReadsAsTheDefault()
+{
+    FakeUserDefaults &stored = m_platform->suite(suite);
+    QCOMPARE(Shared::value("layouts.enabled"), QVariant(true));
+    stored.setValue("layouts.enabled", 0.0);
+    QCOMPARE(Shared::value("layouts.enabled").typeId(), int(QMetaType::Bool));
+    QVERIFY(Shared::value("layouts.enabled").toBool());
+    stored.setValue("layouts.enabled", false);
+    QVERIFY(!Shared::value("layouts.enabled").toBool());
+    QVERIFY(!Shared::value("no such key").isValid());
 }
 
 void TestShared::aCommandAloneMakesExactlyOneEntry()

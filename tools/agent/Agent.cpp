@@ -13,14 +13,14 @@ namespace {
 /// Writes a key only when it says something new: every write wakes whoever watches the store.
 void report(const QString &key, bool value)
 {
-    if (Shared::store().value(key) != QVariant(value))
+    const QVariant stored = Shared::store().value(key);
+    if (stored.typeId() != QMetaType::Bool || stored.toBool() != value)
         Shared::store().setValue(key, value);
 }
 
 void print(const QVariantMap &userInfo)
 {
-    const QByteArray line =
-        QJsonDocument(QJsonObject::fromVariantMap(userInfo)).toJson(QJsonDocument::Compact);
+    const QByteArray line = QJsonDocument(QJsonObject::fromVariantMap(userInfo)).toJson(QJsonDocument::Compact);
     std::printf("%s\n", line.constData());
     std::fflush(stdout);
 }

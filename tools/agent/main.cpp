@@ -34,20 +34,17 @@ int main(int argc, char *argv[])
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "The reference agent: prints each command it hears as a line of JSON and acts on it."));
+    parser.setApplicationDescription(
+        QStringLiteral("The reference agent: prints each command it hears as a line of JSON and acts on it."));
     parser.addHelpOption();
     parser.addOptions({
-        {QStringLiteral("headless"),
-         QStringLiteral("Open no window; a request for the permission is only printed.")},
-        {QStringLiteral("needs-approval"),
-         QStringLiteral("A new login item waits for the person's approval.")},
+        {QStringLiteral("headless"), QStringLiteral("Open no window; a request for the permission is only printed.")},
+        {QStringLiteral("needs-approval"), QStringLiteral("A new login item waits for the person's approval.")},
     });
     parser.process(application);
 
     Platform::install(makeFreedesktopPlatform());
-    LoginItem loginItem(QGuiApplication::applicationFilePath(),
-                        parser.isSet(QStringLiteral("needs-approval")));
+    LoginItem loginItem(QGuiApplication::applicationFilePath(), parser.isSet(QStringLiteral("needs-approval")));
     Agent agent(loginItem);
     SystemSettings settings;
     if (!headless)

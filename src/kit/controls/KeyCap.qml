@@ -1,0 +1,27 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Controls
+
+/// A key combination in key symbols, on a cap.
+ContinuousRectangle {
+    id: cap
+
+    property string keys
+
+    implicitWidth: Math.max(34, text.implicitWidth + 2 * 8)
+    implicitHeight: Math.max(22, text.implicitHeight)
+    radius: 6
+    color: EB.chip
+    Accessible.role: Accessible.StaticText
+    Accessible.name: keys
+
+    EBText {
+        id: text
+
+        anchors.centerIn: parent
+        text: cap.keys
+        role: "small"
+        weight: Font.DemiBold
+        Accessible.ignored: true
+    }
+}

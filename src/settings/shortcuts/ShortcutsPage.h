@@ -1,0 +1,6 @@
+#pragma once
+
+#include "EBSettingsPage.h"
+
+/// The agent's shortcuts, each of which can be switched off.
+EBSettingsPage shortcutsPage();

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "FakePlatform.h"
+#include "Shared.h"
+#include "ViewEngine.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+
+/// A settings pane in a window of its own, over a store in memory. Things are found by their accessible names.
+class PaneWindow {
+public:
+    explicit PaneWindow(const QString &url)
+        : platform(FakePlatform::install()), store(platform.suite(Shared::suiteName))
+    {
+        QAccessible::setActive(true);
+        platform.look.setReduceMotion(true);
+        m_window.resize(386, 700);
+        auto *pane = ViewEngine::make(m_engine, url);
+        pane->setParent(m_window.contentItem());
+        pane->setParentItem(m_window.contentItem());
+        m_window.show();
+    }
+
+    FakePlatform &platform;
+    FakeUserDefaults &store;
+
+    QQuickWindow &window() { return m_window; }
+
+    /// What was posted to the agent, in order.
+    const QList<FakeDistributedNotificationCenter::Post> &posts() const { return platform.notifications.posts; }
+
+    bool isShown(const QString &name) { return !named(m_window.contentItem(), name).isEmpty(); }
+
+    /// The first visible item of that name and role; null when there is none.
+    QQuickItem *control(const QString &name, QAccessible::Role role)
+    {
+        for (QQuickItem *item : named(m_window.contentItem(), name)) {
+            if (QAccessible::queryAccessibleInterface(item)->role() == role)
+                return item;
+        }
+        return nullptr;
+    }
+
+    bool isChecked(const QString &name, QAccessible::Role role = QAccessible::CheckBox)
+    {
+        QQuickItem *item = control(name, role);
+        return item && QAccessible::queryAccessibleInterface(item)->state().checked;
+    }
+
+    /// Clicks in the middle of the item, once what has just changed is laid out.
+    void click(QQuickItem *item)
+    {
+        QVERIFY(item);
+        QSignalSpy frames(&m_window, &QQuickWindow::frameSwapped);
+        m_window.update();
+        QTRY_VERIFY(!frames.isEmpty());
+        const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(&m_window, Qt::LeftButton, {}, middle.toPoint());
+    }
+
+private:
+    static QList<QQuickItem *> named(QQuickItem *item, const QString &name)
+    {
+        QList<QQuickItem *> found;
+        if (!item->isVisible())
+            return found;
+        const auto *accessible = QAccessible::queryAccessibleInterface(item);
+        if (accessible && accessible->text(QAccessible::Name) == name)
+            found.append(item);
+        for (QQuickItem *child : item->childItems())
+            found.append(named(child, name));
+        return found;
+    }
+
+    ViewEngine m_engine;
+    QQuickWindow m_window;
+};

@@ -1,0 +1,133 @@
+#include "PaneWindow.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+struct Row {
+    const char *label;
+    const char16_t *keys;
+    const char *caseName;
+};
+
+constexpr std::array rows = {
+    Row{"Close window", u"⌘W", "close"},
+    Row{"Close all windows of the app", u"⌥⌘W", "closeAll"},
+    Row{"Minimize window", u"⌘M", "minimize"},
+    Row{"Full screen / maximize window", u"⌘F", "maximize"},
+    Row{"Hide app", u"⌘H", "hide"},
+    Row{"Hide other apps", u"⌥⌘H", "hideOthers"},
+    Row{"Force-quit app", u"⌘Q", "kill"},
+};
+
+QString keyOf(const Row &row)
+{
+    return QStringLiteral("hotkey.%1.disabled").arg(QLatin1String(row.caseName));
+}
+
+}
+
+class TestShortcutsPane : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+    void init();
+    void cleanup() { m_pane.reset(); }
+
+    void withAnEmptyStoreEveryShortcutIsOn();
+    void theRowsStandInTheirOrderWithTheirKeys();
+    void switchingOneStoresItAndPostsNothing();
+    void switchingItOnAgainStoresFalse();
+    void aChangeByAnotherProcessShowsAtOnce();
+    void aValueOfAnotherTypeReadsAsOnAndStays();
+    void theNoteStandsBelow();
+
+private:
+    std::unique_ptr<PaneWindow> m_pane;
+};
+
+void TestShortcutsPane::init()
+{
+    QTest::failOnWarning(QRegularExpression(".*"));
+    m_pane = std::make_unique<PaneWindow>("qrc:/qt/qml/Corvane/Settings/Shortcuts/ShortcutsPane.qml");
+    QVERIFY(QTest::qWaitForWindowExposed(&m_pane->window()));
+}
+
+void TestShortcutsPane::withAnEmptyStoreEveryShortcutIsOn()
+{
+    for (const Row &row : rows)
+        QVERIFY2(m_pane->isChecked(row.label), row.label);
+    QVERIFY(m_pane->store.values.isEmpty());
+}
+
+void TestShortcutsPane::theRowsStandInTheirOrderWithTheirKeys()
+{
+    qreal above = -1;
+    for (const Row &row : rows) {
+        const QQuickItem *control = m_pane->control(row.label, QAccessible::CheckBox);
+        QVERIFY2(control, row.label);
+        const qreal y = control->mapToScene(QPointF()).y();
+        QVERIFY2(y > above, row.label);
+        above = y;
+        const QQuickItem *cap = control->parentItem()->childItems().constFirst();
+        QCOMPARE(QAccessible::queryAccessibleInterface(const_cast<QQuickItem *>(cap))->text(QAccessible::Name),
+                 QString::fromUtf16(row.keys));
+        const qreal gap = control->mapToScene(QPointF()).x() - cap->mapToScene(QPointF(cap->width(), 0)).x();
+        QCOMPARE(gap, 12.0);
+    }
+}
+
+void TestShortcutsPane::switchingOneStoresItAndPostsNothing()
+{
+    for (const Row &row : rows) {
+        m_pane->click(m_pane->control(row.label, QAccessible::CheckBox));
+        QCOMPARE(m_pane->store.value(keyOf(row)), QVariant(true));
+        QVERIFY2(!m_pane->isChecked(row.label), row.label);
+    }
+    QCOMPARE(m_pane->store.values.size(), int(rows.size()));
+    QVERIFY(m_pane->posts().isEmpty());
+}
+
+void TestShortcutsPane::switchingItOnAgainStoresFalse()
+{
+    m_pane->store.setValue("hotkey.closeAll.disabled", true);
+    QVERIFY(!m_pane->isChecked("Close all windows of the app"));
+    m_pane->click(m_pane->control("Close all windows of the app", QAccessible::CheckBox));
+    QCOMPARE(m_pane->store.value("hotkey.closeAll.disabled"), QVariant(false));
+    QVERIFY(m_pane->isChecked("Close all windows of the app"));
+}
+
+void TestShortcutsPane::aChangeByAnotherProcessShowsAtOnce()
+{
+    m_pane->store.setValue("hotkey.kill.disabled", true);
+    QVERIFY(!m_pane->isChecked("Force-quit app"));
+    QVERIFY(m_pane->isChecked("Hide other apps"));
+    m_pane->store.values.insert("hotkey.hide.disabled", true);
+    emit m_pane->store.changed(QString());
+    QVERIFY(!m_pane->isChecked("Hide app"));
+}
+
+void TestShortcutsPane::aValueOfAnotherTypeReadsAsOnAndStays()
+{
+    m_pane->store.setValue("hotkey.hide.disabled", "yes");
+    m_pane->store.setValue("hotkey.kill.disabled", 1.0);
+    QVERIFY(m_pane->isChecked("Hide app"));
+    QVERIFY(m_pane->isChecked("Force-quit app"));
+    QCOMPARE(m_pane->store.value("hotkey.hide.disabled"), QVariant("yes"));
+}
+
+void TestShortcutsPane::theNoteStandsBelow()
+{
+    QQuickItem *note = m_pane->control("They work only while Mission Control is open, on the window under the pointer.",
+                                       QAccessible::StaticText);
+    QVERIFY(note);
+    const QQuickItem *last = m_pane->control("Force-quit app", QAccessible::CheckBox);
+    QVERIFY(note->mapToScene(QPointF()).y() > last->mapToScene(QPointF()).y());
+}
+
+QTEST_MAIN(TestShortcutsPane)
+#include "tst_shortcutspane.moc"
