@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QStringList>
 #include <QUrl>
 
@@ -16,6 +17,9 @@ public:
     /// start was attempted, whatever came of it, and never before this call has returned.
     virtual void openApplication(const QUrl &bundleURL, const QStringList &arguments,
                                  std::function<void()> completion) = 0;
+
+    /// The icon of the installed application with that bundle identifier; a null icon when there is none.
+    virtual QIcon iconForApplication(const QString &bundleIdentifier) = 0;
 
     /// Opens the page of the desktop's settings on which login items are allowed.
     virtual void openLoginItemsSettings() = 0;

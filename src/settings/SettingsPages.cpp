@@ -1,9 +1,10 @@
 #include "SettingsPages.h"
 
 #include "GeneralPage.h"
+#include "LayoutsPage.h"
 #include "ShortcutsPage.h"
 
 QList<EBSettingsPage> SettingsPages::make()
 {
-    return {generalPage(), shortcutsPage()};
+    return {generalPage(), shortcutsPage(), layoutsPage()};
 }

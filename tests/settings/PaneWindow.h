@@ -13,16 +13,19 @@
 /// A settings pane in a window of its own, over a store in memory. Things are found by their accessible names.
 class PaneWindow {
 public:
-    explicit PaneWindow(const QString &url)
+    /// `stored` is what the store holds before the pane is made.
+    explicit PaneWindow(const QString &url, const QVariantMap &stored = {})
         : platform(FakePlatform::install()), store(platform.suite(Shared::suiteName))
     {
+        store.values = stored;
         QAccessible::setActive(true);
         platform.look.setReduceMotion(true);
-        m_window.resize(386, 700);
+        m_window.resize(386, 1000);
         auto *pane = ViewEngine::make(m_engine, url);
         pane->setParent(m_window.contentItem());
         pane->setParentItem(m_window.contentItem());
         m_window.show();
+        m_window.requestActivate();
     }
 
     FakePlatform &platform;
@@ -49,6 +52,12 @@ public:
     {
         QQuickItem *item = control(name, role);
         return item && QAccessible::queryAccessibleInterface(item)->state().checked;
+    }
+
+    bool isDisabled(const QString &name, QAccessible::Role role)
+    {
+        QQuickItem *item = control(name, role);
+        return item && !item->isEnabled();
     }
 
     /// Clicks in the middle of the item, once what has just changed is laid out.

@@ -16,6 +16,9 @@ public:
     QList<OpenedApplication> openedApplications;
     int loginItemsSettingsOpened = 0;
 
+    /// Bundle identifier to icon.
+    QMap<QString, QIcon> icons;
+
     void open(const QUrl &url) override { openedURLs.append(url); }
 
     void openApplication(const QUrl &bundleURL, const QStringList &arguments, std::function<void()> completion) override
@@ -23,6 +26,8 @@ public:
         openedApplications.append({bundleURL, arguments});
         QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(completion), Qt::QueuedConnection);
     }
+
+    QIcon iconForApplication(const QString &bundleIdentifier) override { return icons.value(bundleIdentifier); }
 
     void openLoginItemsSettings() override { ++loginItemsSettingsOpened; }
 };

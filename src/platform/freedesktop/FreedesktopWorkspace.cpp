@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -44,6 +46,28 @@ bool openAutostartPage(const QString &desktop)
     return false;
 }
 
+/// What the desktop entry of that name says its icon is; empty when there is no such entry or it names none.
+QString iconName(const QString &desktopEntry)
+{
+    // The identifier comes from a list that others write, and a path in it would lead out of the folders.
+    if (desktopEntry.isEmpty() || desktopEntry.contains(u'/'))
+        return {};
+    const QString path =
+        QStandardPaths::locate(QStandardPaths::ApplicationsLocation, desktopEntry + QStringLiteral(".desktop"));
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return {};
+    bool isInEntry = false;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        if (line.startsWith('['))
+            isInEntry = line == "[Desktop Entry]";
+        else if (isInEntry && line.startsWith("Icon="))
+            return QString::fromUtf8(line.mid(5).trimmed());
+    }
+    return {};
+}
+
 }
 
 void FreedesktopWorkspace::open(const QUrl &url)
@@ -61,6 +85,17 @@ void FreedesktopWorkspace::openApplication(const QUrl &bundleURL, const QStringL
     if (!executable.isEmpty())
         QProcess::startDetached(executable, arguments);
     QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(completion), Qt::QueuedConnection);
+}
+
+QIcon FreedesktopWorkspace::iconForApplication(const QString &bundleIdentifier)
+{
+    const auto known = m_icons.constFind(bundleIdentifier);
+    if (known != m_icons.constEnd())
+        return *known;
+    const QString name = iconName(bundleIdentifier);
+    const QIcon icon = QDir::isAbsolutePath(name) ? QIcon(name) : QIcon::fromTheme(name);
+    m_icons.insert(bundleIdentifier, icon);
+    return icon;
 }
 
 void FreedesktopWorkspace::openLoginItemsSettings()

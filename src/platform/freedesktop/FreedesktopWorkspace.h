@@ -3,6 +3,8 @@
 #include "PlistBundle.h"
 #include "Workspace.h"
 
+#include <QHash>
+
 /// Links go to the desktop's handlers, applications are bundles, and login items are the desktop's own
 /// autostart page.
 class FreedesktopWorkspace : public Workspace {
@@ -14,8 +16,10 @@ public:
     void open(const QUrl &url) override;
     void openApplication(const QUrl &bundleURL, const QStringList &arguments,
                          std::function<void()> completion) override;
+    QIcon iconForApplication(const QString &bundleIdentifier) override;
     void openLoginItemsSettings() override;
 
 private:
+    QHash<QString, QIcon> m_icons;
     const PlistBundle &m_mainBundle;
 };

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Embera.Rows
 import Corvane.Settings.Shortcuts
@@ -11,10 +12,7 @@ PaneStack {
             }
 
             ShortcutRow {
-                // A delegate cannot be bound to its file's ids before Qt 6.5; they are found all the same.
-                // qmllint disable unqualified
                 onFlipped: (index, on) => shortcuts.setOn(index, on)
-                // qmllint enable unqualified
             }
         }
     }

@@ -28,6 +28,7 @@ Pressable {
 
         FocusRing {
             control: item
+            radius: 14
         }
     }
     contentItem: Row {

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Embera.Tokens
 import Embera.Controls
@@ -73,15 +74,12 @@ Item {
                 EBSidebarItem {
                     required property string pageId
 
-                    // A delegate cannot be bound to its file's ids before Qt 6.5; they are found all the same.
-                    // qmllint disable unqualified
                     width: items.width
                     selected: sidebar.selection === pageId
                     tabStop: sidebar.pages.neighbour(sidebar.selection, 0) === pageId
                     onClicked: sidebar.picked(pageId)
                     onSelectedChanged: if (selected && list.activeFocus)
                         forceActiveFocus(Qt.TabFocusReason)
-                    // qmllint enable unqualified
                 }
             }
         }

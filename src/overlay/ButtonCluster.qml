@@ -1,0 +1,61 @@
+import QtQuick
+import Embera.Tokens
+import Corvane.Overlay
+
+/// The buttons of one window in a row, Close always among them. The others fade in and out, and whatever stands behind
+/// them makes room. Never mirrored: that is how the agent lays them over a window.
+Item {
+    id: cluster
+
+    /// A theme's raw string.
+    property string theme
+    /// Of each button, in points.
+    property real diameter: 0
+    property real spacing: 4
+    property bool showMinimize: false
+    property bool showMaximize: false
+
+    /// How much of the button is there, between 0 and 1.
+    property real minimizeShare: showMinimize ? 1 : 0
+    property real maximizeShare: showMaximize ? 1 : 0
+    /// From one button to the next.
+    readonly property real step: diameter + spacing
+
+    implicitWidth: diameter + step * (minimizeShare + maximizeShare)
+    implicitHeight: diameter
+
+    Behavior on minimizeShare {
+        NumberAnimation {
+            duration: EB.reduceMotion ? 0 : Motion.duration(0.18)
+            easing: Motion.easeOut
+        }
+    }
+    Behavior on maximizeShare {
+        NumberAnimation {
+            duration: EB.reduceMotion ? 0 : Motion.duration(0.18)
+            easing: Motion.easeOut
+        }
+    }
+
+    DemoButton {
+        kind: "close"
+        theme: cluster.theme
+        size: cluster.diameter
+    }
+    DemoButton {
+        x: cluster.step
+        kind: "minimize"
+        theme: cluster.theme
+        size: cluster.diameter
+        opacity: cluster.minimizeShare
+        visible: opacity > 0
+    }
+    DemoButton {
+        x: cluster.step * (1 + cluster.minimizeShare)
+        kind: "maximize"
+        theme: cluster.theme
+        size: cluster.diameter
+        opacity: cluster.maximizeShare
+        visible: opacity > 0
+    }
+}

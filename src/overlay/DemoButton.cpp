@@ -1,0 +1,81 @@
+#include "DemoButton.h"
+
+#include "ButtonGlyph.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+QColor faded(QColor color, float opacity)
+{
+    color.setAlphaF(color.alphaF() * opacity);
+    return color;
+}
+
+}
+
+DemoButton::DemoButton(QQuickItem *parent) : CrispItem(parent)
+{
+    setImplicitSize(m_size, m_size);
+}
+
+template <typename Value> bool DemoButton::set(Value &member, const Value &value)
+{
+    if (!assign(member, value))
+        return false;
+    emit changed();
+    return true;
+}
+
+void DemoButton::setKind(const QString &kind)
+{
+    set(m_kind, kind);
+}
+
+void DemoButton::setTheme(const QString &theme)
+{
+    set(m_theme, theme);
+}
+
+void DemoButton::setSize(qreal size)
+{
+    if (set(m_size, size))
+        setImplicitSize(m_size, m_size);
+}
+
+void DemoButton::setDim(bool dim)
+{
+    set(m_dim, dim);
+}
+
+void DemoButton::paint(QPainter *painter)
+{
+    const auto button = OverlayButtons::fromCaseName(m_kind);
+    const qreal scale = painter->device()->devicePixelRatio();
+    const qreal diameter = std::round(m_size * scale) / scale;
+    if (!button || !(diameter > 0))
+        return;
+    QRectF disc(0, 0, diameter, diameter);
+    disc.moveCenter(pixelBounds().center());
+    paintDemoButton(painter, disc, *button, Themes::fromRawValue(m_theme).value_or(Themes::fallback), m_size, m_dim);
+}
+
+void paintDemoButton(QPainter *painter, const QRectF &disc, OverlayButton kind, Theme theme, qreal size, bool dim)
+{
+    const Themes::Look look = Themes::look(theme, kind);
+    QPainterPath circle;
+    circle.addEllipse(disc);
+    painter->fillPath(circle, faded(look.fill, dim ? 0.18F : 1));
+
+    const QPen line(faded(look.glyph, dim ? 0.4F : 1), std::max(size / 15, 1.3), Qt::SolidLine, Qt::RoundCap,
+                    Qt::RoundJoin);
+    painter->strokePath(ButtonGlyph{kind}.path(disc), line);
+
+    const qreal ringWidth = dim ? 1 : look.ringWidth;
+    const qreal inset = ringWidth / 2;
+    QPainterPath ring;
+    ring.addEllipse(disc.adjusted(inset, inset, -inset, -inset));
+    painter->strokePath(ring, QPen(dim ? faded(Qt::white, 0.25F) : look.ring, ringWidth));
+}

@@ -1,0 +1,75 @@
+#include "WindowFace.h"
+
+#include "ContinuousRectangle.h"
+#include "EBKit.h"
+#include "Platform.h"
+
+#include <QPainter>
+
+#include <array>
+#include <limits>
+
+namespace {
+
+constexpr qreal pill = std::numeric_limits<qreal>::infinity();
+
+}
+
+WindowFace::WindowFace(QQuickItem *parent) : CrispItem(parent)
+{
+    connect(&Platform::current().appearance(), &Appearance::changed, this, &WindowFace::update);
+}
+
+void WindowFace::setCompact(bool compact)
+{
+    if (assign(m_compact, compact))
+        emit changed();
+}
+
+void WindowFace::setContentTop(qreal top)
+{
+    if (assign(m_contentTop, top))
+        emit changed();
+}
+
+void WindowFace::paint(QPainter *painter)
+{
+    const QRectF card = pixelBounds();
+    const qreal radius = m_compact ? 9 : 12;
+    paintContinuousRect(painter, card, radius, EBKit::surface().current());
+    paintStrip(painter, card, radius);
+    paintContent(painter, card);
+    paintContinuousRect(painter, card, radius, Qt::transparent, EBKit::lineStrong().current(), 1);
+}
+
+void WindowFace::paintStrip(QPainter *painter, const QRectF &card, qreal radius) const
+{
+    painter->save();
+    painter->setClipRect(QRectF(card.topLeft(), QSizeF(card.width(), stripHeight())));
+    paintContinuousRect(painter, card, radius, EBKit::chip().current());
+    painter->restore();
+    painter->fillRect(QRectF(card.left(), stripHeight(), card.width(), 1), EBKit::line().current());
+
+    // A search field at the end of the strip that the overlay buttons leave free.
+    const qreal height = m_compact ? 6 : 8;
+    const QSizeF field(std::round(card.width() * 0.22), height);
+    const QPointF corner(card.right() - margin() - field.width(), (stripHeight() - height) / 2);
+    paintContinuousRect(painter, QRectF(corner, field), pill, EBKit::chip().current());
+}
+
+void WindowFace::paintContent(QPainter *painter, const QRectF &card) const
+{
+    // Lines of text, as many as there is room for.
+    constexpr std::array shares = {1.0, 0.86, 0.58};
+    const qreal height = m_compact ? 4 : 5;
+    const qreal step = m_compact ? 8 : 10;
+    const qreal room = card.width() - 2 * margin();
+    qreal top = m_contentTop;
+    for (const qreal share : shares) {
+        if (top + height > card.bottom() - margin() + 3)
+            break;
+        paintContinuousRect(painter, QRectF(margin(), top, std::round(room * share), height), pill,
+                            EBKit::chip().current());
+        top += step;
+    }
+}

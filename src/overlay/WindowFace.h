@@ -1,0 +1,40 @@
+#pragma once
+
+#include "CrispItem.h"
+
+/// All there is to see of a miniature window but its texts, in one picture: the card with its title strip, and lines
+/// that stand for content. It fills the item.
+class WindowFace : public CrispItem {
+    Q_OBJECT
+    QML_ELEMENT
+    /// The form for a window among many: smaller corners and a narrower strip.
+    Q_PROPERTY(bool compact READ compact WRITE setCompact NOTIFY changed)
+    /// How far content stays away from the sides, in points.
+    Q_PROPERTY(qreal margin READ margin NOTIFY changed)
+    /// The height of the title strip in points.
+    Q_PROPERTY(qreal stripHeight READ stripHeight NOTIFY changed)
+    /// Where the lines of content begin, in points from the top.
+    Q_PROPERTY(qreal contentTop READ contentTop WRITE setContentTop NOTIFY changed)
+public:
+    explicit WindowFace(QQuickItem *parent = nullptr);
+
+    bool compact() const { return m_compact; }
+    void setCompact(bool compact);
+    qreal margin() const { return m_compact ? 10 : 12; }
+    qreal stripHeight() const { return m_compact ? 16 : 20; }
+    qreal contentTop() const { return m_contentTop; }
+    void setContentTop(qreal top);
+
+signals:
+    void changed();
+
+protected:
+    void paint(QPainter *painter) override;
+
+private:
+    void paintStrip(QPainter *painter, const QRectF &card, qreal radius) const;
+    void paintContent(QPainter *painter, const QRectF &card) const;
+
+    bool m_compact = false;
+    qreal m_contentTop = 0;
+};

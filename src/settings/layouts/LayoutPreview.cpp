@@ -1,0 +1,86 @@
+#include "LayoutPreview.h"
+
+#include "ContinuousRectangle.h"
+#include "Platform.h"
+
+#include <QIcon>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qreal margin = 3;
+constexpr qreal backgroundRadius = 5;
+constexpr qreal windowRadius = 2;
+constexpr qreal iconSize = 12;
+constexpr qreal smallestWithIcon = 16;
+
+/// A list anybody may write holds any number; beyond this no part of a window is in the picture.
+double drawable(double fraction)
+{
+    return std::clamp(fraction, -100.0, 100.0);
+}
+
+}
+
+QList<SavedLayout::Window> LayoutPreviews::shown(const SavedLayout &layout)
+{
+    QList<SavedLayout::Window> windows;
+    for (const SavedLayout::Window &window : layout.windows) {
+        if (window.display == layout.windows.constFirst().display)
+            windows.append(window);
+    }
+    return windows;
+}
+
+QRectF LayoutPreviews::shape(const UnitRect &rect, QSizeF size)
+{
+    const qreal width = size.width() - 2 * margin;
+    const qreal height = size.height() - 2 * margin;
+    return QRectF(margin + drawable(rect.x) * width, margin + drawable(rect.y) * height,
+                  std::max(1.0, drawable(rect.w) * width), std::max(1.0, drawable(rect.h) * height));
+}
+
+LayoutPreview::LayoutPreview(QQuickItem *parent) : CrispItem(parent)
+{
+    connect(this, &LayoutPreview::changed, this, &QQuickItem::update);
+}
+
+void LayoutPreview::setLayout(const QVariant &layout)
+{
+    const auto value = layout.value<SavedLayout>();
+    if (m_layout == value)
+        return;
+    m_layout = value;
+    emit changed();
+}
+
+QString LayoutPreview::label() const
+{
+    QStringList applications;
+    for (const SavedLayout::Window &window : m_layout.windows)
+        applications.append(window.app);
+    //: %1 is a number, %2 the names of the windows' applications.
+    return tr("%1 windows: %2").arg(m_layout.windows.size()).arg(applications.join(QStringLiteral(", ")));
+}
+
+void LayoutPreview::paint(QPainter *painter)
+{
+    paintContinuousRect(painter, pixelBounds(), backgroundRadius, m_color);
+    painter->setClipRect(pixelBounds());
+    for (const SavedLayout::Window &window : LayoutPreviews::shown(m_layout))
+        paintWindow(painter, window);
+}
+
+void LayoutPreview::paintWindow(QPainter *painter, const SavedLayout::Window &window) const
+{
+    const QRectF shape = LayoutPreviews::shape(window.rect, size());
+    paintContinuousRect(painter, shape, windowRadius, m_windowColor, m_borderColor, 1);
+    if (shape.width() < smallestWithIcon || shape.height() < smallestWithIcon)
+        return;
+    QRectF place(0, 0, iconSize, iconSize);
+    place.moveCenter(shape.center());
+    // Without an icon this paints nothing.
+    Platform::current().workspace().iconForApplication(window.bundleID).paint(painter, place.toRect());
+}

@@ -1,0 +1,78 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Controls
+import Embera.Rows
+import Corvane.Settings.Layouts
+
+/// One saved layout: its thumbnail, its name to type over, and the button that deletes it.
+Column {
+    id: entry
+
+    required property int index
+    required property string name
+    required property var layout
+
+    /// The person gave the layout in row `index` another name.
+    signal renamed(index: int, name: string)
+    /// The person asked for the layout in row `index` to be deleted, perhaps with the keyboard.
+    signal deleted(index: int, byKeyboard: bool)
+
+    /// Gives the delete button the focus, as the keyboard would.
+    function focusDelete() {
+        button.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    width: parent?.width ?? implicitWidth
+
+    EBRule {
+        visible: entry.index > 0
+        inset: 16
+    }
+    Item {
+        width: parent.width
+        height: preview.height + 2 * 8
+        Accessible.role: Accessible.Grouping
+        Accessible.name: entry.name
+
+        LayoutPreview {
+            id: preview
+            anchors {
+                left: parent.left
+                leftMargin: 16
+                verticalCenter: parent.verticalCenter
+            }
+            width: 72
+            height: 45
+            layout: entry.layout
+            color: EB.sunk
+            windowColor: EB.surface
+            borderColor: EB.lineStrong
+            Accessible.role: Accessible.Graphic
+            Accessible.name: label
+        }
+        LayoutNameField {
+            anchors {
+                left: preview.right
+                leftMargin: 12 - leftPadding
+                right: button.left
+                rightMargin: 12
+                verticalCenter: parent.verticalCenter
+            }
+            name: entry.name
+            label: qsTr("Name of layout %1").arg(entry.index + 1)
+            onCommitted: name => entry.renamed(entry.index, name)
+        }
+        EBIconButton {
+            id: button
+            anchors {
+                right: parent.right
+                rightMargin: 12
+                verticalCenter: parent.verticalCenter
+            }
+            glyph: "close"
+            size: 24
+            label: qsTr("Delete %1").arg(entry.name)
+            onClicked: entry.deleted(entry.index, visualFocus)
+        }
+    }
+}

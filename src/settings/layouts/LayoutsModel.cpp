@@ -1,0 +1,76 @@
+#include "LayoutsModel.h"
+
+#include "LayoutStore.h"
+#include "Shared.h"
+
+#include <algorithm>
+
+LayoutsModel::LayoutsModel(QObject *parent) : QAbstractListModel(parent), m_layouts(LayoutStore::load(Shared::store()))
+{
+}
+
+int LayoutsModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant LayoutsModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const SavedLayout &layout = m_layouts.at(index.row());
+    switch (role) {
+    case NameRole:
+        return layout.name;
+    case LayoutRole:
+        return QVariant::fromValue(layout);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> LayoutsModel::roleNames() const
+{
+    return {{NameRole, "name"}, {LayoutRole, "layout"}};
+}
+
+void LayoutsModel::rename(int row, const QString &name)
+{
+    if (isRow(row))
+        show(LayoutStore::rename(m_layouts.at(row).id, name, Shared::store()));
+}
+
+void LayoutsModel::removeLayout(int row)
+{
+    if (isRow(row))
+        show(LayoutStore::remove(m_layouts.at(row).id, Shared::store()));
+}
+
+/// Rows that stay are kept, so that the field a person has just typed into keeps the focus.
+void LayoutsModel::show(const QList<SavedLayout> &layouts)
+{
+    const auto sameId = [](const SavedLayout &a, const SavedLayout &b) { return a.id == b.id; };
+    const auto shorter = std::min(m_layouts.size(), layouts.size());
+    const auto head = std::mismatch(m_layouts.begin(), m_layouts.begin() + shorter, layouts.begin(), sameId).first
+        - m_layouts.begin();
+    const auto tail =
+        std::mismatch(m_layouts.rbegin(), m_layouts.rbegin() + (shorter - head), layouts.rbegin(), sameId).first
+        - m_layouts.rbegin();
+    const int before = count();
+
+    if (const int last = int(m_layouts.size() - tail) - 1; last >= head) {
+        beginRemoveRows({}, int(head), last);
+        m_layouts.remove(head, last - head + 1);
+        endRemoveRows();
+    }
+    if (const int last = int(layouts.size() - tail) - 1; last >= head) {
+        beginInsertRows({}, int(head), last);
+        m_layouts = layouts;
+        endInsertRows();
+    }
+    m_layouts = layouts;
+    if (!m_layouts.isEmpty())
+        emit dataChanged(index(0), index(count() - 1));
+    if (count() != before)
+        emit countChanged();
+}

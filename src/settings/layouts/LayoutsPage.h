@@ -1,0 +1,6 @@
+#pragma once
+
+#include "EBSettingsPage.h"
+
+/// Snapping and layouts, and the list of saved layouts.
+EBSettingsPage layoutsPage();

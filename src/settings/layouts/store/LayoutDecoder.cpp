@@ -1,0 +1,307 @@
+#include "LayoutCoder.h"
+
+#include <nlohmann/json.hpp>
+
+#include <QStringDecoder>
+
+#include <array>
+#include <chrono>
+#include <span>
+
+namespace {
+
+constexpr int maximumDepth = 512;
+
+/// Where the reader is. The places lie inside one another in this order.
+enum class Place { text, list, layout, windows, window, rect };
+
+enum class Field { none, ignored, id, name, windows, created, bundleID, app, title, rect, display, x, y, w, h };
+
+/// A set of fields.
+using Fields = unsigned;
+
+constexpr Fields only(Field field)
+{
+    return 1U << static_cast<unsigned>(field);
+}
+
+struct Key {
+    std::string_view text;
+    Field field;
+    bool isRequired;
+};
+
+constexpr std::array layoutKeys = {
+    Key{"created", Field::created, false},
+    Key{"id", Field::id, false},
+    Key{"name", Field::name, false},
+    Key{"windows", Field::windows, true},
+};
+constexpr std::array windowKeys = {
+    Key{"app", Field::app, true},   Key{"bundleID", Field::bundleID, true}, Key{"display", Field::display, false},
+    Key{"rect", Field::rect, true}, Key{"title", Field::title, true},
+};
+constexpr std::array rectKeys = {
+    Key{"h", Field::h, true},
+    Key{"w", Field::w, true},
+    Key{"x", Field::x, true},
+    Key{"y", Field::y, true},
+};
+
+std::span<const Key> keysOf(Place place)
+{
+    switch (place) {
+    case Place::layout:
+        return layoutKeys;
+    case Place::window:
+        return windowKeys;
+    case Place::rect:
+        return rectKeys;
+    default:
+        return {};
+    }
+}
+
+QString fromUtf8(const std::string &text)
+{
+    // A mark at the start of a name is a character of that name.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+/// The id written as 36 characters, in capitals or not.
+std::optional<QUuid> idFrom(const std::string &text)
+{
+    constexpr std::string_view zero = "00000000-0000-0000-0000-000000000000";
+    if (text == zero)
+        return QUuid();
+    const QUuid id =
+        text.size() == zero.size() ? QUuid::fromString(QLatin1StringView(text.data(), zero.size())) : QUuid();
+    return id.isNull() ? std::nullopt : std::optional(id);
+}
+
+double now()
+{
+    using namespace std::chrono;
+    constexpr sys_days referenceDate = year(2001) / January / 1;
+    return duration<double>(system_clock::now() - referenceDate).count();
+}
+
+/// Takes what the parser finds in the text. Each call answers whether a list of layouts may still come of it.
+class LayoutReader {
+public:
+    using Number = nlohmann::json::number_integer_t;
+    using Unsigned = nlohmann::json::number_unsigned_t;
+
+    QList<SavedLayout> layouts;
+
+    bool null() { return m_canBeNull; }
+    bool boolean(bool) { return m_field == Field::ignored; }
+    // The parser has no minus zero among the whole numbers, but nothing else comes as a signed zero.
+    bool number_integer(Number value) { return number(value == 0 ? -0.0 : static_cast<double>(value)); }
+    bool number_unsigned(Unsigned value) { return number(static_cast<double>(value)); }
+    bool number_float(double value, const std::string &) { return number(value); }
+    bool string(const std::string &value);
+    bool binary(const nlohmann::json::binary_t &) { return false; }
+
+    bool start_object(std::size_t);
+    bool key(const std::string &text);
+    bool end_object();
+    bool start_array(std::size_t);
+    bool end_array();
+
+    bool parse_error(std::size_t, const std::string &, const std::exception &) { return false; }
+
+private:
+    bool number(double value);
+    template <typename Value> bool take(Value &field, const Value &value);
+    bool enter(Place place);
+    bool leave();
+    void fillIn();
+
+    Place m_place = Place::text;
+    /// The field whose value comes next; `none` inside an array.
+    Field m_field = Field::none;
+    bool m_canBeNull = false;
+    /// The fields whose keys were read, and those of them that had a value.
+    Fields m_seen = 0;
+    Fields m_given = 0;
+    int m_depth = 0;
+    /// How deep inside a value that is passed over.
+    int m_ignoredDepth = 0;
+    SavedLayout m_layout;
+    SavedLayout::Window m_window;
+};
+
+template <typename Value> bool LayoutReader::take(Value &field, const Value &value)
+{
+    m_given |= only(m_field);
+    field = value;
+    return true;
+}
+
+bool LayoutReader::string(const std::string &value)
+{
+    if (m_field == Field::id) {
+        const auto id = idFrom(value);
+        return id && take(m_layout.id, *id);
+    }
+    switch (m_field) {
+    case Field::ignored:
+        return true;
+    case Field::name:
+        return take(m_layout.name, fromUtf8(value));
+    case Field::bundleID:
+        return take(m_window.bundleID, fromUtf8(value));
+    case Field::app:
+        return take(m_window.app, fromUtf8(value));
+    case Field::title:
+        return take(m_window.title, fromUtf8(value));
+    case Field::display:
+        return take(m_window.display.emplace(), fromUtf8(value));
+    default:
+        return false;
+    }
+}
+
+bool LayoutReader::number(double value)
+{
+    switch (m_field) {
+    case Field::ignored:
+        return true;
+    case Field::created:
+        return take(m_layout.created, value);
+    case Field::x:
+        return take(m_window.rect.x, value);
+    case Field::y:
+        return take(m_window.rect.y, value);
+    case Field::w:
+        return take(m_window.rect.w, value);
+    case Field::h:
+        return take(m_window.rect.h, value);
+    default:
+        return false;
+    }
+}
+
+bool LayoutReader::key(const std::string &text)
+{
+    if (m_ignoredDepth > 0)
+        return true;
+    const auto keys = keysOf(m_place);
+    const auto key = std::ranges::find(keys, std::string_view(text), &Key::text);
+    const bool isNew = key != keys.end() && (m_seen & only(key->field)) == 0;
+    m_field = isNew ? key->field : Field::ignored;
+    m_canBeNull = !isNew || !key->isRequired;
+    m_seen |= only(m_field);
+    return true;
+}
+
+/// Goes into an array or object, and back out of one with leave().
+bool LayoutReader::enter(Place place)
+{
+    m_given |= only(m_field);
+    m_place = place;
+    m_field = Field::none;
+    m_canBeNull = false;
+    for (const Key &key : keysOf(place)) {
+        m_seen &= ~only(key.field);
+        m_given &= ~only(key.field);
+    }
+    return true;
+}
+
+bool LayoutReader::leave()
+{
+    m_place = static_cast<Place>(static_cast<int>(m_place) - 1);
+    m_field = Field::none;
+    m_canBeNull = false;
+    return true;
+}
+
+bool LayoutReader::start_object(std::size_t)
+{
+    if (++m_depth > maximumDepth)
+        return false;
+    if (m_field == Field::ignored) {
+        ++m_ignoredDepth;
+        return true;
+    }
+    if (m_place == Place::list) {
+        m_layout = {};
+        return enter(Place::layout);
+    }
+    if (m_place == Place::windows) {
+        m_window = {};
+        return enter(Place::window);
+    }
+    return m_field == Field::rect && enter(Place::rect);
+}
+
+bool LayoutReader::start_array(std::size_t)
+{
+    if (++m_depth > maximumDepth)
+        return false;
+    if (m_field == Field::ignored) {
+        ++m_ignoredDepth;
+        return true;
+    }
+    if (m_place == Place::text)
+        return enter(Place::list);
+    return m_field == Field::windows && enter(Place::windows);
+}
+
+bool LayoutReader::end_object()
+{
+    --m_depth;
+    if (m_ignoredDepth > 0) {
+        --m_ignoredDepth;
+        return true;
+    }
+    for (const Key &key : keysOf(m_place)) {
+        if (key.isRequired && (m_given & only(key.field)) == 0)
+            return false;
+    }
+    if (m_place == Place::window)
+        m_layout.windows.append(std::move(m_window));
+    if (m_place == Place::layout) {
+        fillIn();
+        layouts.append(std::move(m_layout));
+    }
+    return leave();
+}
+
+bool LayoutReader::end_array()
+{
+    --m_depth;
+    if (m_ignoredDepth > 0) {
+        --m_ignoredDepth;
+        return true;
+    }
+    return leave();
+}
+
+/// Gives the layout what it came without.
+void LayoutReader::fillIn()
+{
+    if ((m_given & only(Field::id)) == 0)
+        m_layout.id = QUuid::createUuid();
+    if ((m_given & only(Field::name)) == 0)
+        m_layout.name = QStringLiteral("Layout");
+    if ((m_given & only(Field::created)) == 0)
+        m_layout.created = now();
+}
+
+}
+
+std::optional<QList<SavedLayout>> LayoutCoder::decode(const QString &text)
+{
+    // The parser takes U+0000 for the end, and a half of a surrogate pair has no UTF-8 form.
+    if (text.contains(QChar::Null) || !text.isValidUtf16())
+        return std::nullopt;
+    const QByteArray bytes = text.toUtf8();
+    LayoutReader reader;
+    if (!nlohmann::json::sax_parse(bytes.cbegin(), bytes.cend(), &reader))
+        return std::nullopt;
+    return std::move(reader.layouts);
+}

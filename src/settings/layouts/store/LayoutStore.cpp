@@ -1,0 +1,54 @@
+#include "LayoutStore.h"
+
+#include "LayoutCoder.h"
+#include "Shared.h"
+#include "UserDefaults.h"
+
+namespace {
+
+void replace(const QList<SavedLayout> &layouts, UserDefaults &store)
+{
+    if (const auto text = LayoutStore::encode(layouts))
+        store.setValue(Shared::Key::layoutsSaved, *text);
+}
+
+}
+
+QList<SavedLayout> LayoutStore::load(UserDefaults &store)
+{
+    const QVariant stored = store.value(Shared::Key::layoutsSaved);
+    if (stored.typeId() != QMetaType::QString)
+        return {};
+    const QString text = stored.toString();
+    const auto layouts = LayoutCoder::decode(text);
+    if (!layouts)
+        return {};
+    const auto normalForm = encode(*layouts);
+    if (normalForm && *normalForm != text)
+        store.setValue(Shared::Key::layoutsSaved, *normalForm);
+    return *layouts;
+}
+
+std::optional<QString> LayoutStore::encode(const QList<SavedLayout> &layouts)
+{
+    return LayoutCoder::encode(layouts);
+}
+
+QList<SavedLayout> LayoutStore::remove(const QUuid &id, UserDefaults &store)
+{
+    QList<SavedLayout> layouts = load(store);
+    layouts.removeIf([&id](const SavedLayout &layout) { return layout.id == id; });
+    replace(layouts, store);
+    return layouts;
+}
+
+QList<SavedLayout> LayoutStore::rename(const QUuid &id, const QString &name, UserDefaults &store)
+{
+    QList<SavedLayout> layouts = load(store);
+    const auto layout = std::ranges::find(layouts, id, &SavedLayout::id);
+    if (layout == layouts.end())
+        return layouts;
+    layout->name = name;
+    replace(layouts, store);
+    return layouts;
+}

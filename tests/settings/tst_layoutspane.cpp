@@ -1,0 +1,290 @@
+#include "LayoutPreview.h"
+#include "PaneWindow.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+/// Two layouts in the form in which they are stored.
+const QString twoLayouts =
+    QStringLiteral(R"([{"created":1,"id":"11111111-1111-4111-8111-111111111111","name":"Work","windows":[)"
+                   R"({"app":"Browser","bundleID":"b","rect":{"h":1,"w":0.5,"x":0,"y":0},"title":"t"},)"
+                   R"({"app":"Notes","bundleID":"n","rect":{"h":1,"w":0.5,"x":0.5,"y":0},"title":"t"}]},)"
+                   R"({"created":2,"id":"22222222-2222-4222-8222-222222222222","name":"Play","windows":[]}])");
+
+}
+
+class TestLayoutsPane : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
+    void cleanup() { m_pane.reset(); }
+
+    void anEmptyStoreShowsTheDefaults();
+    void theSwitchesShowAndStore_data();
+    void theSwitchesShowAndStore();
+    void aGapIsStoredAsANumberOfPoints();
+    void aStoredGapShowsItsSegment_data();
+    void aStoredGapShowsItsSegment();
+    void withSnappingOffTheOtherRowsAreDisabledAndKeepTheirValues();
+    void theSavedLayoutsAreListedInTheirOrder();
+    void returnStoresTheNameAsTyped();
+    void renamingKeepsTheFocus();
+    void anEmptyNameIsStored();
+    void escapeBringsTheStoredNameBack();
+    void leavingTheFieldBringsTheStoredNameBack();
+    void deletingRemovesTheLayout();
+    void deletingTheLastShowsNoneYet();
+    void deletingWithTheKeyboardGoesOnToTheNext();
+    void anUnreadableListShowsNoneYetAndStays();
+    void aLayoutSavedMeanwhileIsNotListed();
+    void theTipsStandBelowWithTheirKeys();
+    void nothingIsPosted();
+
+private:
+    void open(const QVariantMap &stored = {});
+    QString stored() const { return m_pane->store.value("layouts.saved").toString(); }
+    QStringList names();
+    void type(QQuickItem *field, const QString &text);
+
+    std::unique_ptr<PaneWindow> m_pane;
+};
+
+void TestLayoutsPane::open(const QVariantMap &stored)
+{
+    m_pane = std::make_unique<PaneWindow>("qrc:/qt/qml/Corvane/Settings/Layouts/LayoutsPane.qml", stored);
+    QVERIFY(QTest::qWaitForWindowExposed(&m_pane->window()));
+    QTRY_VERIFY(m_pane->window().isActive());
+}
+
+QStringList TestLayoutsPane::names()
+{
+    QStringList found;
+    for (int position = 1;; ++position) {
+        const QQuickItem *field =
+            m_pane->control(QStringLiteral("Name of layout %1").arg(position), QAccessible::EditableText);
+        if (!field)
+            return found;
+        found.append(field->property("text").toString());
+    }
+}
+
+void TestLayoutsPane::type(QQuickItem *field, const QString &text)
+{
+    m_pane->click(field);
+    QTest::keySequence(&m_pane->window(), QKeySequence::SelectAll);
+    QTest::keyClick(&m_pane->window(), Qt::Key_Backspace);
+    for (const QChar character : text)
+        QTest::keyClick(&m_pane->window(), character.toLatin1());
+}
+
+void TestLayoutsPane::anEmptyStoreShowsTheDefaults()
+{
+    open();
+    QVERIFY(m_pane->isChecked("Snap and arrange windows"));
+    QVERIFY(m_pane->isChecked("Layouts shelf"));
+    QVERIFY(m_pane->isChecked("None", QAccessible::RadioButton));
+    QVERIFY(m_pane->isChecked("Open apps that aren't running"));
+    QVERIFY(m_pane->isShown("None yet"));
+    QVERIFY(m_pane->isShown("In Mission Control, click Save current, or a template."));
+    QVERIFY(m_pane->store.values.isEmpty());
+}
+
+void TestLayoutsPane::theSwitchesShowAndStore_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("key");
+    QTest::newRow("snap") << "Snap and arrange windows"
+                          << "layouts.enabled";
+    QTest::newRow("shelf") << "Layouts shelf"
+                           << "layouts.shelf";
+    QTest::newRow("launch") << "Open apps that aren't running"
+                            << "layouts.launchApps";
+}
+
+void TestLayoutsPane::theSwitchesShowAndStore()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, key);
+    open();
+    m_pane->click(m_pane->control(title, QAccessible::CheckBox));
+    QCOMPARE(m_pane->store.value(key), QVariant(false));
+    QVERIFY(!m_pane->isChecked(title));
+    m_pane->store.setValue(key, true);
+    QVERIFY(m_pane->isChecked(title));
+}
+
+void TestLayoutsPane::aGapIsStoredAsANumberOfPoints()
+{
+    open();
+    m_pane->click(m_pane->control("Small", QAccessible::RadioButton));
+    QCOMPARE(m_pane->store.value("layouts.gap"), QVariant(6.0));
+    m_pane->click(m_pane->control("Large", QAccessible::RadioButton));
+    QCOMPARE(m_pane->store.value("layouts.gap"), QVariant(12.0));
+    QCOMPARE(m_pane->store.value("layouts.gap").typeId(), int(QMetaType::Double));
+}
+
+void TestLayoutsPane::aStoredGapShowsItsSegment_data()
+{
+    QTest::addColumn<double>("gap");
+    QTest::addColumn<QString>("chosen");
+    QTest::newRow("none") << 0.0 << "None";
+    QTest::newRow("small") << 6.0 << "Small";
+    QTest::newRow("large") << 12.0 << "Large";
+    QTest::newRow("another number leaves all off") << 7.0 << "";
+}
+
+void TestLayoutsPane::aStoredGapShowsItsSegment()
+{
+    QFETCH(double, gap);
+    QFETCH(QString, chosen);
+    open({{"layouts.gap", gap}});
+    for (const char *title : {"None", "Small", "Large"})
+        QCOMPARE(m_pane->isChecked(title, QAccessible::RadioButton), chosen == title);
+    QCOMPARE(m_pane->store.value("layouts.gap"), QVariant(gap));
+}
+
+void TestLayoutsPane::withSnappingOffTheOtherRowsAreDisabledAndKeepTheirValues()
+{
+    const QVariantMap before = {{"layouts.enabled", false}, {"layouts.shelf", true}, {"layouts.gap", 6.0}};
+    open(before);
+    for (const char *title : {"Layouts shelf", "Open apps that aren't running"}) {
+        QVERIFY2(m_pane->isDisabled(title, QAccessible::CheckBox), title);
+        m_pane->click(m_pane->control(title, QAccessible::CheckBox));
+    }
+    QVERIFY(m_pane->isDisabled("Large", QAccessible::RadioButton));
+    m_pane->click(m_pane->control("Large", QAccessible::RadioButton));
+    QCOMPARE(m_pane->store.values, before);
+    QVERIFY(!m_pane->isDisabled("Snap and arrange windows", QAccessible::CheckBox));
+}
+
+void TestLayoutsPane::theSavedLayoutsAreListedInTheirOrder()
+{
+    open({{"layouts.saved", twoLayouts}});
+    const QStringList expected = {"Work", "Play"};
+    QCOMPARE(names(), expected);
+    QVERIFY(!m_pane->isShown("None yet"));
+    QVERIFY(m_pane->control("2 windows: Browser, Notes", QAccessible::Graphic));
+    QVERIFY(m_pane->control("Delete Work", QAccessible::Button));
+    QCOMPARE(stored(), twoLayouts);
+}
+
+void TestLayoutsPane::returnStoresTheNameAsTyped()
+{
+    open({{"layouts.saved", twoLayouts}});
+    type(m_pane->control("Name of layout 2", QAccessible::EditableText), " Games ");
+    QCOMPARE(stored(), twoLayouts);
+    QTest::keyClick(&m_pane->window(), Qt::Key_Return);
+    QCOMPARE(stored(), QString(twoLayouts).replace("\"Play\"", "\" Games \""));
+    QVERIFY(m_pane->control("Delete  Games ", QAccessible::Button));
+}
+
+void TestLayoutsPane::renamingKeepsTheFocus()
+{
+    open({{"layouts.saved", twoLayouts}});
+    QQuickItem *field = m_pane->control("Name of layout 1", QAccessible::EditableText);
+    type(field, "Office");
+    QTest::keyClick(&m_pane->window(), Qt::Key_Return);
+    QVERIFY(field->hasActiveFocus());
+    QCOMPARE(field->property("text").toString(), "Office");
+}
+
+void TestLayoutsPane::anEmptyNameIsStored()
+{
+    open({{"layouts.saved", twoLayouts}});
+    type(m_pane->control("Name of layout 1", QAccessible::EditableText), "");
+    QTest::keyClick(&m_pane->window(), Qt::Key_Return);
+    QCOMPARE(stored(), QString(twoLayouts).replace("\"Work\"", "\"\""));
+}
+
+void TestLayoutsPane::escapeBringsTheStoredNameBack()
+{
+    open({{"layouts.saved", twoLayouts}});
+    QQuickItem *field = m_pane->control("Name of layout 1", QAccessible::EditableText);
+    type(field, "Office");
+    QTest::keyClick(&m_pane->window(), Qt::Key_Escape);
+    QCOMPARE(field->property("text").toString(), "Work");
+    QCOMPARE(stored(), twoLayouts);
+}
+
+void TestLayoutsPane::leavingTheFieldBringsTheStoredNameBack()
+{
+    open({{"layouts.saved", twoLayouts}});
+    QQuickItem *field = m_pane->control("Name of layout 1", QAccessible::EditableText);
+    type(field, "Office");
+    QTest::keyClick(&m_pane->window(), Qt::Key_Tab);
+    QVERIFY(!field->hasActiveFocus());
+    QCOMPARE(field->property("text").toString(), "Work");
+    QCOMPARE(stored(), twoLayouts);
+}
+
+void TestLayoutsPane::deletingRemovesTheLayout()
+{
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->click(m_pane->control("Delete Work", QAccessible::Button));
+    QCOMPARE(names(), QStringList{"Play"});
+    QVERIFY(!stored().contains("Work"));
+    QVERIFY(stored().contains("Play"));
+}
+
+void TestLayoutsPane::deletingTheLastShowsNoneYet()
+{
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->click(m_pane->control("Delete Work", QAccessible::Button));
+    m_pane->click(m_pane->control("Delete Play", QAccessible::Button));
+    QVERIFY(m_pane->isShown("None yet"));
+    QCOMPARE(stored(), "[]");
+}
+
+void TestLayoutsPane::deletingWithTheKeyboardGoesOnToTheNext()
+{
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->control("Delete Work", QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(&m_pane->window(), Qt::Key_Space);
+    QCOMPARE(names(), QStringList{"Play"});
+    QVERIFY(m_pane->control("Delete Play", QAccessible::Button)->hasActiveFocus());
+}
+
+void TestLayoutsPane::anUnreadableListShowsNoneYetAndStays()
+{
+    const QString broken = R"([{"name":"Work"}])";
+    open({{"layouts.saved", broken}});
+    QVERIFY(m_pane->isShown("None yet"));
+    QCOMPARE(stored(), broken);
+}
+
+void TestLayoutsPane::aLayoutSavedMeanwhileIsNotListed()
+{
+    open();
+    m_pane->store.setValue("layouts.saved", twoLayouts);
+    QVERIFY(m_pane->isShown("None yet"));
+    QVERIFY(names().isEmpty());
+}
+
+void TestLayoutsPane::theTipsStandBelowWithTheirKeys()
+{
+    open();
+    for (const char *text :
+         {"Left or right half", "Again: two thirds, then a third.", "⌘← ⌘→", "Top or bottom half",
+          "On a side: a quarter.", "⌘↑ ⌘↓", "Fill the screen", "⌘↩", "Put a saved layout back", "⌘1 … ⌘9",
+          "Point at a window first. Click a layout on the shelf to put its windows back, ⌥-click to delete it. Click "
+          "a template, then the windows that go in it, or drag a window onto a slot."})
+        QVERIFY2(m_pane->isShown(QString::fromUtf8(text)), text);
+}
+
+void TestLayoutsPane::nothingIsPosted()
+{
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->click(m_pane->control("Layouts shelf", QAccessible::CheckBox));
+    m_pane->click(m_pane->control("Large", QAccessible::RadioButton));
+    m_pane->click(m_pane->control("Delete Work", QAccessible::Button));
+    QVERIFY(m_pane->posts().isEmpty());
+}
+
+QTEST_MAIN(TestLayoutsPane)
+#include "tst_layoutspane.moc"
