@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Accessibility.h"
 #include "FakePlatform.h"
 #include "Shared.h"
 #include "ViewEngine.h"
@@ -19,6 +20,7 @@ public:
     {
         store.values = stored;
         QAccessible::setActive(true);
+        installKitAccessibility();
         platform.look.setReduceMotion(true);
         m_window.resize(386, 1000);
         auto *pane = ViewEngine::make(m_engine, url);
@@ -57,7 +59,7 @@ public:
     bool isDisabled(const QString &name, QAccessible::Role role)
     {
         QQuickItem *item = control(name, role);
-        return item && !item->isEnabled();
+        return item && QAccessible::queryAccessibleInterface(item)->state().disabled;
     }
 
     /// Clicks in the middle of the item, once what has just changed is laid out.
