@@ -14,6 +14,12 @@ Rectangle {
     EBEnvironment.ebApp: look.app
     color: EB.paper
 
+    Shortcut {
+        // The settings window brings its own.
+        enabled: !(stage.item instanceof SettingsWindowScene)
+        sequences: ["Ctrl+W", "Ctrl+Q"]
+        onActivated: Qt.quit()
+    }
     ContinuousRectangle {
         id: sidebar
 
@@ -43,12 +49,12 @@ Rectangle {
                 required property int index
                 required property var modelData
 
-                width: list.width
+                width: ListView.view?.width ?? 0
                 title: modelData.name
                 glyph: modelData.glyph
                 selected: ListView.isCurrentItem
                 tabStop: selected
-                onClicked: list.currentIndex = index
+                onClicked: ListView.view.currentIndex = index
             }
         }
     }
@@ -65,7 +71,7 @@ Rectangle {
         EBSegmented {
             anchors.verticalCenter: parent.verticalCenter
             label: qsTr("Product")
-            options: Catalogue.apps.map(app => ({value: app, title: app}))
+            options: Catalogue.apps
             selection: browser.look.app
             onSelected: app => browser.look.app = app
         }

@@ -4,6 +4,7 @@
 #include "EBKit.h"
 #include "GlyphName.h"
 #include "Platform.h"
+#include "SceneTable.h"
 
 Catalogue::Catalogue(QObject *parent) : QObject(parent)
 {
@@ -28,10 +29,20 @@ QVariantList Catalogue::tokens() const
     };
 }
 
-QStringList Catalogue::apps() const
+QVariantList Catalogue::apps() const
 {
-    QStringList names;
-    for (const EBApp app : EBApps::allCases)
-        names.append(EBApps::rawValue(app));
-    return names;
+    QVariantList apps;
+    for (const EBApp app : EBApps::allCases) {
+        apps.append(QVariantMap{{QStringLiteral("value"), EBApps::rawValue(app)},
+                                {QStringLiteral("title"), EBApps::displayName(app)}});
+    }
+    return apps;
+}
+
+QVariantList Catalogue::scenes() const
+{
+    QVariantList entries;
+    for (const SceneEntry &scene : SceneTable::all())
+        entries.append(QVariant::fromValue(scene));
+    return entries;
 }

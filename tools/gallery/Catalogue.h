@@ -1,8 +1,5 @@
 #pragma once
 
-#include "SceneTable.h"
-
-#include <QColor>
 #include <QObject>
 #include <QVariantList>
 #include <qqmlregistration.h>
@@ -16,16 +13,17 @@ class Catalogue : public QObject {
     Q_PROPERTY(QStringList glyphs READ glyphs CONSTANT)
     /// Every colour token as {name, color}, in the palette's order.
     Q_PROPERTY(QVariantList tokens READ tokens NOTIFY appearanceChanged)
-    /// The raw strings of the products.
-    Q_PROPERTY(QStringList apps READ apps CONSTANT)
-    Q_PROPERTY(QList<SceneEntry> scenes READ scenes CONSTANT)
+    /// Every product as {value, title}: its raw string and its name.
+    Q_PROPERTY(QVariantList apps READ apps CONSTANT)
+    /// The rows of the table of scenes.
+    Q_PROPERTY(QVariantList scenes READ scenes CONSTANT)
 public:
     explicit Catalogue(QObject *parent = nullptr);
 
     QStringList glyphs() const;
     QVariantList tokens() const;
-    QStringList apps() const;
-    QList<SceneEntry> scenes() const { return SceneTable::all(); }
+    QVariantList apps() const;
+    QVariantList scenes() const;
 
 signals:
     void appearanceChanged();

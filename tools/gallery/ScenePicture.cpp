@@ -4,7 +4,6 @@
 #include "EBKit.h"
 #include "FakePlatform.h"
 #include "GalleryLook.h"
-#include "PictureScreens.h"
 #include "Scene.h"
 #include "SceneTable.h"
 #include "ViewEngine.h"
@@ -28,13 +27,15 @@ ScenePicture::ScenePicture(QQmlEngine &engine, FakePlatform &platform, const Gal
     : m_engine(engine), m_look(look)
 {
     platform.look.setReduceMotion(true);
-    QGuiApplication::styleHints()->setCursorFlashTime(0);
+    QStyleHints *hints = QGuiApplication::styleHints();
+    hints->setCursorFlashTime(0);
+    // Screens that nobody sees have no pointer either, unless told.
+    hints->setUseHoverEffects(true);
 }
 
-QImage ScenePicture::draw(const SceneEntry &entry, qreal scale) const
+QImage ScenePicture::draw(const SceneEntry &entry) const
 {
     QQuickWindow window;
-    window.setScreen(PictureScreens::ofScale(scale));
     window.setColor(EBKit::paper().current());
     const std::unique_ptr<Scene> scene(ViewEngine::make<Scene>(m_engine, entry.source.toString()));
     EBEnvironment::of(scene.get())->setEbApp(m_look.app());
@@ -49,5 +50,8 @@ QImage ScenePicture::draw(const SceneEntry &entry, qreal scale) const
     window.resize(extentOf(*scene));
     scene->strikePose();
     QCoreApplication::processEvents();
-    return window.grabWindow();
+    // A pixel that the window covers only in part belongs to what lies behind it.
+    const QSizeF pixels = QSizeF(window.size()) * window.devicePixelRatio();
+    const QImage picture = window.grabWindow();
+    return picture.copy(QRect(0, 0, int(pixels.width()), int(pixels.height())) & picture.rect());
 }

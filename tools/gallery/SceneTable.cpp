@@ -5,6 +5,7 @@
 namespace {
 
 struct Row {
+    SceneKind kind;
     const char *name;
     const char *file;
     const char *glyph;
@@ -12,26 +13,28 @@ struct Row {
 
 // A new scene is a file in scenes/, a line in CMakeLists.txt and a row here.
 constexpr Row rows[] = {
-    {"glyphs", "GlyphsScene", "spark"},
-    {"palette", "PaletteScene", "eye"},
-    {"type", "TypeScene", "note"},
-    {"buttons", "ButtonsScene", "play"},
-    {"buttons-loud", "LoudButtonsScene", "speaker"},
-    {"switches", "SwitchesScene", "power"},
-    {"icon-buttons", "IconButtonsScene", "plus"},
-    {"segmented", "SegmentedScene", "sliders"},
-    {"search-field", "SearchFieldScene", "search"},
-    {"rows", "RowsScene", "levels"},
-    {"labels-and-notes", "LabelsAndNotesScene", "flag"},
-    {"group", "GroupScene", "dock"},
-    {"status-and-discs", "StatusAndDiscsScene", "check"},
-    {"window-buttons", "WindowButtonsScene", "dots"},
-    {"sidebar", "SidebarScene", "apps"},
-    {"settings-general", "SettingsGeneralScene", "gear"},
-    {"settings-general-approval", "SettingsGeneralApprovalScene", "gear"},
-    {"settings-general-trusted", "SettingsGeneralTrustedScene", "gear"},
-    {"settings-general-mirrored", "SettingsGeneralMirroredScene", "gear"},
-    {"settings-search", "SettingsSearchScene", "gear"},
+    {SceneKind::controls, "glyphs", "GlyphsScene", "spark"},
+    {SceneKind::tokens, "palette", "PaletteScene", "eye"},
+    {SceneKind::tokens, "type", "TypeScene", "note"},
+    {SceneKind::controls, "buttons", "ButtonsScene", "play"},
+    {SceneKind::controls, "buttons-loud", "LoudButtonsScene", "speaker"},
+    {SceneKind::controls, "switches", "SwitchesScene", "power"},
+    {SceneKind::controls, "icon-buttons", "IconButtonsScene", "plus"},
+    {SceneKind::controls, "segmented", "SegmentedScene", "sliders"},
+    {SceneKind::controls, "search-field", "SearchFieldScene", "search"},
+    {SceneKind::controls, "key-caps", "KeyCapsScene", "key"},
+    {SceneKind::controls, "rows", "RowsScene", "levels"},
+    {SceneKind::controls, "labels-and-notes", "LabelsAndNotesScene", "flag"},
+    {SceneKind::controls, "group", "GroupScene", "dock"},
+    {SceneKind::controls, "status-and-discs", "StatusAndDiscsScene", "check"},
+    {SceneKind::controls, "window-buttons", "WindowButtonsScene", "dots"},
+    {SceneKind::controls, "sidebar", "SidebarScene", "apps"},
+    {SceneKind::screen, "settings-general", "SettingsGeneralScene", "gear"},
+    {SceneKind::screen, "settings-general-approval", "SettingsGeneralApprovalScene", "gear"},
+    {SceneKind::screen, "settings-general-trusted", "SettingsGeneralTrustedScene", "gear"},
+    {SceneKind::screen, "settings-general-mirrored", "SettingsGeneralMirroredScene", "gear"},
+    {SceneKind::screen, "settings-shortcuts", "SettingsShortcutsScene", "cmd"},
+    {SceneKind::screen, "settings-search", "SettingsSearchScene", "search"},
 };
 
 }
@@ -42,7 +45,7 @@ const QList<SceneEntry> &SceneTable::all()
         QList<SceneEntry> list;
         for (const Row &row : rows) {
             const QUrl source(QStringLiteral("qrc:/qt/qml/Corvane/Gallery/scenes/%1.qml").arg(QLatin1String(row.file)));
-            list.append({QString::fromLatin1(row.name), source, QString::fromLatin1(row.glyph)});
+            list.append({row.kind, QString::fromLatin1(row.name), source, QString::fromLatin1(row.glyph)});
         }
         return list;
     }();

@@ -4,6 +4,9 @@
 #include <QMetaType>
 #include <QUrl>
 
+/// What a scene shows.
+enum class SceneKind { tokens, controls, screen };
+
 /// One picture of the gallery: its name on the command line, its view, and its glyph in the list.
 struct SceneEntry {
     Q_GADGET
@@ -11,6 +14,7 @@ struct SceneEntry {
     Q_PROPERTY(QUrl source MEMBER source CONSTANT)
     Q_PROPERTY(QString glyph MEMBER glyph CONSTANT)
 public:
+    SceneKind kind = SceneKind::screen;
     QString name;
     QUrl source;
     QString glyph;

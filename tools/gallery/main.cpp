@@ -4,7 +4,7 @@
 #include "GalleryOptions.h"
 #include "GalleryPlatform.h"
 #include "PictureFile.h"
-#include "PictureScreens.h"
+#include "PictureScreen.h"
 #include "ScenePicture.h"
 #include "SceneTable.h"
 #include "ViewEngine.h"
@@ -67,12 +67,12 @@ bool isMissing(const QString &font)
 
 int render(int argc, char *argv[], const GalleryOptions &options)
 {
-    const PictureScreens screens({options.scale});
+    const PictureScreen screen(options.scale);
     Gallery gallery(argc, argv, options);
     if (isMissing(options.font))
         return complain(QStringLiteral("There is no font \"%1\".").arg(options.font), misuse);
     const ScenePicture picture(gallery.engine, gallery.platform, gallery.look);
-    if (!PictureFile::write(picture.draw(*SceneTable::find(options.scene), options.scale), options.file))
+    if (!PictureFile::write(picture.draw(*SceneTable::find(options.scene)), options.file))
         return complain(QStringLiteral("\"%1\" cannot be written.").arg(options.file), failure);
     return 0;
 }
@@ -106,7 +106,7 @@ int main(int argc, char *argv[])
     if (const auto *fault = std::get_if<QString>(&parsed))
         return complain(*fault, misuse);
 
-    const auto &options = std::get<GalleryOptions>(parsed);
+    const auto &options = *std::get_if<GalleryOptions>(&parsed);
     switch (options.action) {
     case GalleryOptions::Action::list:
         return list();

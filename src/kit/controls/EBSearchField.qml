@@ -27,16 +27,21 @@ ContinuousRectangle {
     color: EB.chip
     opacity: enabled ? 1 : 0.4
 
+    // The glyph belongs to the field: a click on it goes into the text.
+    TapHandler {
+        onTapped: field.forceActiveFocus(Qt.MouseFocusReason)
+    }
     T.TextField {
         id: field
 
-        readonly property bool mirrored: effectiveHorizontalAlignment === TextInput.AlignRight
-        readonly property real leading: 10 + glyph.width + 6
-        readonly property real trailing: clearButton.visible ? clearButton.width : 10
-
-        anchors.fill: parent
-        leftPadding: mirrored ? trailing : leading
-        rightPadding: mirrored ? leading : trailing
+        anchors {
+            left: glyph.right
+            leftMargin: 6
+            right: clearButton.visible ? clearButton.left : parent.right
+            rightMargin: clearButton.visible ? 0 : 10
+            top: parent.top
+            bottom: parent.bottom
+        }
         horizontalAlignment: TextInput.AlignLeft
         verticalAlignment: TextInput.AlignVCenter
         font: EBType.font("body")
@@ -58,8 +63,6 @@ ContinuousRectangle {
         }
         EBText {
             anchors.fill: parent
-            leftPadding: field.leftPadding
-            rightPadding: field.rightPadding
             text: control.placeholder
             color: EB.inkMuted
             elide: Text.ElideRight

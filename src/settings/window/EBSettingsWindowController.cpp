@@ -15,6 +15,18 @@ namespace {
 constexpr QSize initialContent(620, 410);
 constexpr qreal noise = 0.5;
 
+/// The next height that ends on a whole pixel: at a scale of 1.5 an odd one would leave half a row unpainted.
+qreal wholePixels(qreal height, qreal scale)
+{
+    constexpr int finestFraction = 4;
+    for (int more = 0; more < finestFraction; ++more) {
+        const qreal pixels = (height + more) * scale;
+        if (qFuzzyCompare(pixels, std::round(pixels)))
+            return height + more;
+    }
+    return height;
+}
+
 }
 
 EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp app, const QString &version,
@@ -54,7 +66,7 @@ void EBSettingsWindowController::fit(QSizeF size)
     if (!(size.height() > 0))
         return;
     const qreal screenHeight = m_window->screen()->availableGeometry().height();
-    const qreal wanted = std::min(std::ceil(size.height()), screenHeight);
+    const qreal wanted = std::min(wholePixels(std::ceil(size.height()), m_window->devicePixelRatio()), screenHeight);
     const int current = m_window->targetHeight();
     if (std::abs(wanted - current) <= noise || std::abs(size.height() - current) <= noise)
         return;

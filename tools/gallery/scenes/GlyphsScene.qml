@@ -1,7 +1,4 @@
 import QtQuick
-import Embera.Tokens
-import Embera.Glyphs
-import Embera.Rows
 import Corvane.Gallery
 
 /// Every glyph in four sizes.
@@ -17,34 +14,10 @@ Sheet {
             Repeater {
                 model: Catalogue.glyphs
 
-                Column {
-                    id: cell
-
+                GlyphCell {
                     required property string modelData
 
-                    spacing: 4
-
-                    Row {
-                        spacing: 6
-
-                        Repeater {
-                            model: [12, 15, 24, 48]
-
-                            Glyph {
-                                required property real modelData
-
-                                anchors.verticalCenter: parent.verticalCenter
-                                name: cell.modelData
-                                size: modelData
-                                color: EB.ink
-                            }
-                        }
-                    }
-                    EBText {
-                        role: "caption"
-                        color: EB.inkMuted
-                        text: cell.modelData
-                    }
+                    name: modelData
                 }
             }
         }

@@ -35,9 +35,9 @@ Sheet {
                 model: Catalogue.apps
 
                 LoudPanel {
-                    required property string modelData
+                    required property var modelData
 
-                    app: modelData
+                    app: modelData.value
 
                     EBLabel {
                         text: EBEnvironment.displayName

@@ -9,9 +9,9 @@ Sheet {
         LoudPanel {
             id: panel
 
-            required property string modelData
+            required property var modelData
 
-            app: modelData
+            app: modelData.value
 
             Repeater {
                 model: ["md", "sm", "xs"]

@@ -43,7 +43,7 @@ Sheet {
 
         EBSegmented {
             label: qsTr("Gap")
-            options: [0, 4, 8, 12, 16].map(gap => ({value: gap, title: String(gap)}))
+            options: [{value: 0, title: "0"}, {value: 4, title: "4"}, {value: 8, title: "8"}, {value: 12, title: "12"}, {value: 16, title: "16"}]
             selection: 8
         }
     }

@@ -11,10 +11,10 @@ Sheet {
         Section {
             id: product
 
-            required property string modelData
+            required property var modelData
 
-            EBEnvironment.ebApp: modelData
-            title: EBEnvironment.displayName
+            EBEnvironment.ebApp: modelData.value
+            title: modelData.title
 
             Row {
                 spacing: 20

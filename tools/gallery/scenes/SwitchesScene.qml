@@ -13,10 +13,10 @@ Sheet {
         Section {
             id: product
 
-            required property string modelData
+            required property var modelData
 
-            EBEnvironment.ebApp: modelData
-            title: EBEnvironment.displayName
+            EBEnvironment.ebApp: modelData.value
+            title: modelData.title
 
             Row {
                 spacing: 16
