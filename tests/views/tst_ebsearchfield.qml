@@ -57,11 +57,11 @@ KitTestCase {
         compare(field.font.weight, Font.Normal);
         compareColor(field.color, EB.ink);
         // 10 to the glyph of 13, 6 to the text.
-        compare(field.leftPadding, 29);
-        compare(field.rightPadding, 10);
+        compare(field.x, 29);
+        compare(search.width - field.x - field.width, 10);
         search.text = "a";
         // 6 from the text to the glyph of 11, 10 to the end.
-        compare(field.rightPadding, 27);
+        compare(search.width - field.x - field.width, 27);
     }
 
     function test_placeholder_shows_while_empty() {
@@ -141,9 +141,12 @@ KitTestCase {
     function test_is_mirrored_from_right_to_left() {
         testCase.LayoutMirroring.childrenInherit = true;
         testCase.LayoutMirroring.enabled = true;
+        // Empty first: the text that stands in for the missing one keeps clear of the glyph too.
+        compare(search.width - field.x - field.width, 29);
+        compare(field.x, 10);
         search.text = "a";
-        compare(field.rightPadding, 29);
-        compare(field.leftPadding, 27);
+        compare(search.width - field.x - field.width, 29);
+        compare(field.x, 27);
         compare(clearButton.x, 0);
     }
 }
