@@ -1,5 +1,6 @@
 #include "Process.h"
 #include "Screen.h"
+#include "StoreListener.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -93,35 +94,33 @@ void measureRest(Screen &screen, const QString &floor, const QString &applicatio
     const Settled ours = rest(screen, application);
     compare("memory when settled", "MiB", least.memory, ours.memory, 1.3);
     out << "idle for 10 s         floor " << least.idle.wakeups << " wake-ups, " << least.idle.processor
-        << " ms  application " << ours.idle.wakeups << " wake-ups, " << ours.idle.processor
-        << " ms  target 0\n";
+        << " ms  application " << ours.idle.wakeups << " wake-ups, " << ours.idle.processor << " ms  target 0\n";
     out.flush();
 }
 
-/// Time from the write of another process to the pixels that show it. The write itself takes part of that
-/// time.
+/// Time from the news that another process has changed the store to the pixels that show it.
 void measureStoreChange(Screen &screen, const QString &application)
 {
     screen.waitUntilEmpty();
     const Process process(application);
     screen.waitForColor(paper, probe, seconds(20));
     std::this_thread::sleep_for(seconds(1));
+    StoreListener store;
     QList<double> times;
     for (int run = 0; run < runs; ++run) {
         screen.settle();
         const QString value = run % 2 ? QStringLiteral("false") : QStringLiteral("true");
-        const auto start = Screen::Clock::now();
-        const Process writer(QStringLiteral("/usr/bin/dconf"),
-                             {QStringLiteral("write"),
-                              QStringLiteral("/com/vexmoor/corvane/agent.accessibilityTrusted"), value});
+        const Process writer(
+            QStringLiteral("/usr/bin/dconf"),
+            {QStringLiteral("write"), QStringLiteral("/com/vexmoor/corvane/agent.accessibilityTrusted"), value});
+        const auto heard = store.waitForChange();
         const auto painted = screen.waitForPaint(seconds(5));
         if (!painted)
             qFatal("a change of the store was never painted");
-        times.append(milliseconds(*painted - start));
+        times.append(milliseconds(*painted - heard));
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
     }
-    out << QStringLiteral("store change to pixels  %1 ms, the other process's start and write included\n")
-               .arg(median(times), 0, 'f', 1);
+    out << QStringLiteral("store change to pixels  %1 ms  target 33.3\n").arg(median(times), 0, 'f', 1);
     out.flush();
 }
 

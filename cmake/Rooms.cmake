@@ -44,6 +44,7 @@ function(corvane_view_room name)
         URI ${ARG_URI}
         VERSION 1.0
         RESOURCE_PREFIX /qt/qml
+        NO_PLUGIN
         DEPENDENCIES ${modules}
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS})
@@ -53,14 +54,16 @@ function(corvane_view_room name)
     target_precompile_headers(${name} REUSE_FROM pch_quick)
 endfunction()
 
-# corvane_use_views(target room …): links rooms into a program, with the QML plugins of all the rooms they rest on.
+# corvane_use_views(target room …): links rooms into a program, with the QML modules of all the rooms they rest on. A module
+# registers itself when the program starts, as there is no plugin to be looked for, so the linker has to take it whole.
 function(corvane_use_views target)
     set(rooms ${ARGN})
     while(rooms)
         list(POP_FRONT rooms room)
         target_link_libraries(${target} PRIVATE ${room})
-        if(TARGET ${room}plugin)
-            target_link_libraries(${target} PRIVATE ${room}plugin)
+        get_property(uri GLOBAL PROPERTY CORVANE_URI_${room})
+        if(uri)
+            set_property(TARGET ${target} PROPERTY LINK_LIBRARY_OVERRIDE_${room} WHOLE_ARCHIVE)
         endif()
         get_property(depends GLOBAL PROPERTY CORVANE_DEPENDS_${room})
         list(APPEND rooms ${depends})

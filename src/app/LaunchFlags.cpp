@@ -1,25 +1,33 @@
 #include "LaunchFlags.h"
 
-#include <QCoreApplication>
-#include <QStringList>
+#include <algorithm>
+#include <span>
+#include <string_view>
 
 namespace {
 
-bool isGiven(QLatin1String flag)
+std::span<char *const> processArguments;
+
+bool isGiven(std::string_view flag)
 {
-    return QCoreApplication::arguments().contains(flag);
+    return std::find(processArguments.begin(), processArguments.end(), flag) != processArguments.end();
 }
 
+}
+
+void LaunchFlags::setArguments(int argc, char *argv[])
+{
+    processArguments = {argv, std::size_t(argc)};
 }
 
 bool LaunchFlags::onboarding()
 {
-    static const bool given = isGiven(QLatin1String("--onboarding"));
+    static const bool given = isGiven("--onboarding");
     return given;
 }
 
 bool LaunchFlags::about()
 {
-    static const bool given = isGiven(QLatin1String("--about"));
+    static const bool given = isGiven("--about");
     return given;
 }

@@ -18,8 +18,8 @@ Item {
     /// How much of the button is there, between 0 and 1.
     property real minimizeShare: showMinimize ? 1 : 0
     property real maximizeShare: showMaximize ? 1 : 0
-    /// From one button to the next.
-    readonly property real step: diameter + spacing
+    /// From one button to the next, a whole number of device pixels: the gaps between the buttons look the same.
+    readonly property real step: Math.round((diameter + spacing) * Screen.devicePixelRatio) / Screen.devicePixelRatio
 
     implicitWidth: diameter + step * (minimizeShare + maximizeShare)
     implicitHeight: diameter

@@ -13,7 +13,7 @@ WindowFace {
     /// The window's title.
     property string title
 
-    contentTop: chip.y + chip.height + (compact ? 7 : 10)
+    contentTop: chip.y + chip.height + (compact ? 6 : 7)
     LayoutMirroring.enabled: false
     LayoutMirroring.childrenInherit: true
 
@@ -21,7 +21,7 @@ WindowFace {
         id: caption
 
         x: fake.margin
-        y: fake.stripHeight + (fake.compact ? 5 : 9)
+        y: fake.stripHeight + (fake.compact ? 5 : 7)
         text: fake.app
         small: true
         Accessible.ignored: true
@@ -32,10 +32,10 @@ WindowFace {
         anchors {
             left: caption.left
             top: caption.bottom
-            topMargin: fake.compact ? 2 : 4
+            topMargin: fake.compact ? 2 : 3
         }
         width: label.width + 2 * label.x
-        height: fake.compact ? 15 : 18
+        height: fake.compact ? 15 : 17
         radius: 5
         color: EB.chip
 

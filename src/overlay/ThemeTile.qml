@@ -49,8 +49,6 @@ Pressable {
             spacing: 4
 
             ContinuousRectangle {
-                id: dot
-
                 anchors.verticalCenter: parent.verticalCenter
                 width: 5
                 height: 5
@@ -58,7 +56,7 @@ Pressable {
                 visible: tile.isChosen && !tile.compact
             }
             EBText {
-                width: Math.min(implicitWidth, tile.width - (dot.visible ? dot.width + 4 : 0))
+                width: Math.min(implicitWidth, tile.width - x)
                 text: tile.text
                 role: "caption"
                 weight: tile.isChosen ? Font.DemiBold : Font.Normal

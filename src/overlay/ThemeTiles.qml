@@ -7,11 +7,12 @@ import Corvane.Overlay
 Row {
     id: tiles
 
+    readonly property var themes: ButtonChoices.themes
     property string themeRaw
     /// For narrow places: smaller buttons, closer together, and no dot.
     property bool compact: false
     /// The place of the marked tile; -1 when no theme has that raw string.
-    readonly property int chosenIndex: ButtonChoices.themes.findIndex(theme => theme.value === themeRaw)
+    readonly property int chosenIndex: themes.findIndex(theme => theme.value === themeRaw)
 
     signal chosen(themeRaw: string)
 
@@ -19,7 +20,7 @@ Row {
     function choose(index: int) {
         const place = Math.max(0, Math.min(index, repeater.count - 1));
         if (place !== chosenIndex)
-            chosen(ButtonChoices.themes[place].value);
+            chosen(themes[place].value);
         repeater.itemAt(Math.max(0, chosenIndex)).forceActiveFocus(Qt.TabFocusReason);
     }
 
@@ -43,7 +44,7 @@ Row {
     Repeater {
         id: repeater
 
-        model: ButtonChoices.themes
+        model: tiles.themes
 
         delegate: ThemeTile {
             width: (tiles.width - (repeater.count - 1) * tiles.spacing) / repeater.count

@@ -7,11 +7,19 @@
 #include <QPainter>
 
 #include <array>
+#include <cmath>
 #include <limits>
 
 namespace {
 
 constexpr qreal pill = std::numeric_limits<qreal>::infinity();
+
+/// How much of the room a line of text takes: the last one ends a paragraph.
+qreal lineShare(int line, int count)
+{
+    constexpr std::array shares = {1.0, 0.86, 0.94};
+    return line == count - 1 ? 0.58 : shares.at(std::size_t(line) % shares.size());
+}
 
 }
 
@@ -23,13 +31,13 @@ WindowFace::WindowFace(QQuickItem *parent) : CrispItem(parent)
 void WindowFace::setCompact(bool compact)
 {
     if (assign(m_compact, compact))
-        emit changed();
+        emit compactChanged();
 }
 
 void WindowFace::setContentTop(qreal top)
 {
     if (assign(m_contentTop, top))
-        emit changed();
+        emit contentTopChanged();
 }
 
 void WindowFace::paint(QPainter *painter)
@@ -59,17 +67,13 @@ void WindowFace::paintStrip(QPainter *painter, const QRectF &card, qreal radius)
 
 void WindowFace::paintContent(QPainter *painter, const QRectF &card) const
 {
-    // Lines of text, as many as there is room for.
-    constexpr std::array shares = {1.0, 0.86, 0.58};
     const qreal height = m_compact ? 4 : 5;
-    const qreal step = m_compact ? 8 : 10;
-    const qreal room = card.width() - 2 * margin();
-    qreal top = m_contentTop;
-    for (const qreal share : shares) {
-        if (top + height > card.bottom() - margin() + 3)
-            break;
-        paintContinuousRect(painter, QRectF(margin(), top, std::round(room * share), height), pill,
+    const qreal step = m_compact ? 7 : 10;
+    const QSizeF room(card.width() - 2 * margin(), card.height() - 7 - m_contentTop);
+    const int count = int(std::floor((room.height() - height) / step)) + 1;
+    for (int line = 0; line < count; ++line) {
+        const qreal width = std::round(room.width() * lineShare(line, count));
+        paintContinuousRect(painter, QRectF(margin(), m_contentTop + line * step, width, height), pill,
                             EBKit::chip().current());
-        top += step;
     }
 }

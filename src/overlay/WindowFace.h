@@ -8,25 +8,26 @@ class WindowFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
     /// The form for a window among many: smaller corners and a narrower strip.
-    Q_PROPERTY(bool compact READ compact WRITE setCompact NOTIFY changed)
+    Q_PROPERTY(bool compact READ compact WRITE setCompact NOTIFY compactChanged)
     /// How far content stays away from the sides, in points.
-    Q_PROPERTY(qreal margin READ margin NOTIFY changed)
+    Q_PROPERTY(qreal margin READ margin NOTIFY compactChanged)
     /// The height of the title strip in points.
-    Q_PROPERTY(qreal stripHeight READ stripHeight NOTIFY changed)
+    Q_PROPERTY(qreal stripHeight READ stripHeight NOTIFY compactChanged)
     /// Where the lines of content begin, in points from the top.
-    Q_PROPERTY(qreal contentTop READ contentTop WRITE setContentTop NOTIFY changed)
+    Q_PROPERTY(qreal contentTop READ contentTop WRITE setContentTop NOTIFY contentTopChanged)
 public:
     explicit WindowFace(QQuickItem *parent = nullptr);
 
     bool compact() const { return m_compact; }
     void setCompact(bool compact);
     qreal margin() const { return m_compact ? 10 : 12; }
-    qreal stripHeight() const { return m_compact ? 16 : 20; }
+    qreal stripHeight() const { return m_compact ? 16 : 18; }
     qreal contentTop() const { return m_contentTop; }
     void setContentTop(qreal top);
 
 signals:
-    void changed();
+    void compactChanged();
+    void contentTopChanged();
 
 protected:
     void paint(QPainter *painter) override;

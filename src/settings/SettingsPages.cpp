@@ -1,10 +1,11 @@
 #include "SettingsPages.h"
 
+#include "ButtonsPage.h"
 #include "GeneralPage.h"
 #include "LayoutsPage.h"
 #include "ShortcutsPage.h"
 
 QList<EBSettingsPage> SettingsPages::make()
 {
-    return {generalPage(), shortcutsPage(), layoutsPage()};
+    return {generalPage(), buttonsPage(), shortcutsPage(), layoutsPage()};
 }

@@ -3,31 +3,7 @@
 #include "Shared.h"
 #include "UserDefaults.h"
 
-#include <cmath>
 #include <utility>
-
-namespace {
-
-/// The value as the store holds it: a Boolean, a text or a finite number; invalid for anything else.
-QVariant storable(const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-    case QMetaType::QString:
-        return value;
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Float:
-    case QMetaType::Double:
-        return std::isfinite(value.toDouble()) ? QVariant(value.toDouble()) : QVariant();
-    default:
-        return {};
-    }
-}
-
-}
 
 AppStorage::AppStorage(QObject *parent) : QObject(parent), m_store(Shared::store())
 {
@@ -56,7 +32,7 @@ QVariant AppStorage::defaultValue() const
 void AppStorage::setDefaultValue(const QVariant &value)
 {
     const QVariant before = defaultValue();
-    m_ownDefault = storable(value);
+    m_ownDefault = Shared::storable(value);
     if (before == defaultValue() && before.metaType() == defaultValue().metaType())
         return;
     emit defaultValueChanged();
@@ -69,7 +45,7 @@ void AppStorage::setValue(const QVariant &value)
         m_early = value;
         return;
     }
-    const QVariant typed = storable(value);
+    const QVariant typed = Shared::storable(value);
     if (m_key.isEmpty() || !typed.isValid() || typed.metaType() != defaultValue().metaType())
         return;
     m_store.setValue(m_key, typed);
@@ -85,8 +61,7 @@ void AppStorage::componentComplete()
 void AppStorage::reread()
 {
     const QVariant fallback = m_key.isEmpty() ? QVariant() : defaultValue();
-    const QVariant stored = storable(m_store.value(m_key));
-    const QVariant value = stored.metaType() == fallback.metaType() ? stored : fallback;
+    const QVariant value = Shared::value(m_key, fallback);
     if (m_value == value && m_value.metaType() == value.metaType())
         return;
     m_value = value;

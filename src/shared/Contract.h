@@ -36,9 +36,10 @@
     STORE_KEY(layoutsGap, "layouts.gap", 0.0, "application", "Space between arranged windows, in points.")             \
     STORE_KEY(layoutsLaunchApps, "layouts.launchApps", true, "application",                                            \
               "Restoring a saved layout opens applications that are not running.")                                     \
-    STORE_KEY(layoutsSaved, "layouts.saved", QString(), "both",                                                        \
-              "The saved layouts, as JSON text; absent: none. The agent adds layouts, the application renames "        \
-              "and deletes them, and each write replaces the whole list.")
+    STORE_KEY(                                                                                                         \
+        layoutsSaved, "layouts.saved", QString(), "both",                                                              \
+        "The saved layouts, as JSON text; absent: none. The agent adds layouts, the application renames "              \
+        "and deletes them and writes them in normal form when it reads them, and each write replaces the whole list.")
 
 /// COMMAND(identifier, name, carries a value, asks the agent to).
 #define CORVANE_COMMANDS(COMMAND)                                                                                      \

@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <cmath>
+
 namespace {
 
 UserDefaults &openStore()
@@ -31,11 +33,33 @@ UserDefaults &Shared::store()
     return *taken;
 }
 
+QVariant Shared::storable(const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::QString:
+        return value;
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+        return std::isfinite(value.toDouble()) ? QVariant(value.toDouble()) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant Shared::value(const QString &key, const QVariant &fallback)
+{
+    const QVariant stored = storable(store().value(key));
+    return stored.metaType() == fallback.metaType() ? stored : fallback;
+}
+
 QVariant Shared::value(const QString &key)
 {
-    const QVariant stored = store().value(key);
-    const QVariant fallback = Contract::defaultValue(key);
-    return stored.metaType() == fallback.metaType() ? stored : fallback;
+    return value(key, Contract::defaultValue(key));
 }
 
 void Shared::send(const QString &command, std::optional<bool> value, const QMap<QString, QString> &extra)

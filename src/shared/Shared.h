@@ -42,7 +42,13 @@ QString hotkeyDisabled(Hotkey hotkey);
 /// defaults.
 UserDefaults &store();
 
-/// The stored value of a key of the table; its default where the key is absent or holds a value of another type.
+/// A value as the store holds it: a Boolean, a text or a finite number; invalid for anything else.
+QVariant storable(const QVariant &value);
+
+/// The stored value of a key; `fallback` where the key is absent, not finite or of another type than `fallback`.
+QVariant value(const QString &key, const QVariant &fallback);
+
+/// The same with the default of the table.
 QVariant value(const QString &key);
 
 /// Posts one command. `value` present means one entry "value", absent means no entry at all. An entry of

@@ -10,6 +10,10 @@ class TestAgentBundle : public QObject {
 private slots:
     void init();
     void theAgentIsTheApplicationAroundThisOne();
+    void theAgentIsFoundInAnyFolder_data();
+    void theAgentIsFoundInAnyFolder();
+    void exactlyThreeFoldersAreStepped_data();
+    void exactlyThreeFoldersAreStepped();
     void outsideOfAHelpersFolderThereIsNoAgent_data();
     void outsideOfAHelpersFolderThereIsNoAgent();
     void anAgentWithoutAFolderIsNone();
@@ -40,6 +44,48 @@ void TestAgentBundle::theAgentIsTheApplicationAroundThisOne()
     QVERIFY(agent);
     QCOMPARE(agent->bundleURL(), QUrl::fromLocalFile("/apps/Corvane.app"));
     putIn("/apps/Corvane.app/Contents/Helpers/Corvane Settings.app");
+    QVERIFY(AgentBundle::bundle());
+}
+
+void TestAgentBundle::theAgentIsFoundInAnyFolder_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("space") << "/my apps/Corvane.app";
+    QTest::newRow("number sign") << "/apps #1/Corvane.app";
+    QTest::newRow("question mark") << "/apps?/Corvane?.app";
+    QTest::newRow("percent sign") << "/100%20/Corvane%.app";
+    QTest::newRow("letters of other alphabets") << QStringLiteral("/Приложения/Corvane.app");
+}
+
+void TestAgentBundle::theAgentIsFoundInAnyFolder()
+{
+    QFETCH(QString, folder);
+    m_platform->bundles[0].url = QUrl::fromLocalFile(folder);
+    putIn(folder + "/Contents/Helpers/Corvane Settings.app");
+    const auto agent = AgentBundle::bundle();
+    QVERIFY(agent);
+    QCOMPARE(agent->bundleURL().toLocalFile(), folder);
+}
+
+void TestAgentBundle::exactlyThreeFoldersAreStepped_data()
+{
+    QTest::addColumn<QString>("own");
+    QTest::addColumn<QString>("agent");
+    QTest::newRow("a folder deeper") << "/apps/Corvane.app/Contents/Helpers/Tools/Corvane Settings.app"
+                                     << "/apps/Corvane.app/Contents";
+    QTest::newRow("a helper of a helper")
+        << "/apps/Corvane.app/Contents/Helpers/Tool.app/Contents/Helpers/Corvane Settings.app"
+        << "/apps/Corvane.app/Contents/Helpers/Tool.app";
+}
+
+void TestAgentBundle::exactlyThreeFoldersAreStepped()
+{
+    QFETCH(QString, own);
+    QFETCH(QString, agent);
+    putIn(own);
+    // The application at the very outside is not the one around this one.
+    QVERIFY(!AgentBundle::bundle());
+    m_platform->bundles[0].url = QUrl::fromLocalFile(agent);
     QVERIFY(AgentBundle::bundle());
 }
 

@@ -1,6 +1,8 @@
-#include "EBSettingsWindowController.h"
+#include "EBKitFonts.h"
 #include "FakePlatform.h"
+#include "NamedItems.h"
 #include "SettingsAppDelegate.h"
+#include "SettingsModel.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -16,10 +18,16 @@ private slots:
     void init();
     void cleanup() { qunsetenv("CV_TAB"); }
     void withoutFlagsTheSettingsWindowOpens();
+    void theTabVariableNamesTheFirstPage_data();
+    void theTabVariableNamesTheFirstPage();
+    void theWindowShowsTheShortVersionAlone();
     void closingTheLastWindowEndsTheProcess();
     void theGuideIsThisApplicationStartedAgain();
 
 private:
+    /// The one window there is.
+    static QQuickWindow *window();
+
     FakePlatform *m_platform = nullptr;
 };
 
@@ -29,19 +37,72 @@ void TestAppDelegate::init()
     QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support propagateSizeHints)"));
     m_platform = &FakePlatform::install();
     m_platform->main.url = QUrl::fromLocalFile("/apps/Corvane Settings.app");
+    for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
+        const QString file = face + ".ttf";
+        m_platform->main.resources.insert(file, QUrl::fromLocalFile(FONTS_FOLDER + file));
+    }
+}
+
+QQuickWindow *TestAppDelegate::window()
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return windows.size() == 1 ? qobject_cast<QQuickWindow *>(windows.constFirst()) : nullptr;
 }
 
 void TestAppDelegate::withoutFlagsTheSettingsWindowOpens()
 {
-    QTest::ignoreMessage(QtWarningMsg, "Embera: font InstrumentSans-SemiBold.ttf is missing from the bundle");
-    QTest::ignoreMessage(QtWarningMsg, "Embera: font GeistMono-Medium.ttf is missing from the bundle");
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    QCOMPARE(windows.size(), 1);
-    QCOMPARE(windows.constFirst()->title(), "Corvane Settings");
-    QVERIFY(windows.constFirst()->isVisible());
-    windows.constFirst()->hide();
+    QVERIFY(window());
+    QCOMPARE(window()->title(), "Corvane Settings");
+    QVERIFY(window()->isVisible());
+}
+
+void TestAppDelegate::theTabVariableNamesTheFirstPage_data()
+{
+    QTest::addColumn<QByteArray>("tab");
+    QTest::addColumn<QString>("selection");
+    QTest::addColumn<QString>("heading");
+    QTest::newRow("absent") << QByteArray() << "general"
+                            << "General";
+    QTest::newRow("general") << QByteArray("general") << "general"
+                             << "General";
+    QTest::newRow("buttons") << QByteArray("buttons") << "buttons"
+                             << "Buttons";
+    QTest::newRow("shortcuts") << QByteArray("shortcuts") << "shortcuts"
+                               << "Shortcuts";
+    QTest::newRow("layouts") << QByteArray("layouts") << "layouts"
+                             << "Layouts";
+    QTest::newRow("capital letter") << QByteArray("Shortcuts") << "general"
+                                    << "General";
+    QTest::newRow("with space") << QByteArray("shortcuts ") << "general"
+                                << "General";
+}
+
+void TestAppDelegate::theTabVariableNamesTheFirstPage()
+{
+    QFETCH(QByteArray, tab);
+    QFETCH(QString, selection);
+    QFETCH(QString, heading);
+    if (!tab.isNull())
+        qputenv("CV_TAB", tab);
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    QVERIFY(window());
+    const QQuickItem *root = window()->contentItem()->childItems().constFirst();
+    const auto *model = root->property("model").value<EBSettingsWindowController::Model *>();
+    QVERIFY(model);
+    QCOMPARE(model->selection(), selection);
+    QVERIFY(NamedItems::first(window()->contentItem(), heading, QAccessible::Heading));
+}
+
+void TestAppDelegate::theWindowShowsTheShortVersionAlone()
+{
+    m_platform->main.info = QVariantMap{{"CFBundleShortVersionString", "1.4"}, {"CFBundleVersion", "212"}};
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    QVERIFY(window());
+    QVERIFY(NamedItems::first(window()->contentItem(), "Corvane\nVersion 1.4", QAccessible::StaticText));
 }
 
 void TestAppDelegate::closingTheLastWindowEndsTheProcess()

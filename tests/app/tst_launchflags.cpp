@@ -44,6 +44,7 @@ void TestLaunchFlags::flagsAreWholeWords()
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
+    LaunchFlags::setArguments(argc, argv);
     if (argc > 1 && qstrcmp(argv[1], "print-flags") == 0) {
         std::printf("%s %s\n", LaunchFlags::onboarding() ? "onboarding" : "-", LaunchFlags::about() ? "about" : "-");
         return 0;

@@ -79,8 +79,8 @@ void TestAccessibility::noTwoControlsShareAName()
     store().write(u"agent.launchAtLoginNeedsApproval"_s, true);
     QVERIFY(open());
     FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
-    const QList<Accessible> controls
-        = showing([](const Accessible &element) { return element.has(ATSPI_STATE_FOCUSABLE); });
+    const QList<Accessible> controls =
+        showing([](const Accessible &element) { return element.has(ATSPI_STATE_FOCUSABLE); });
     QStringList names;
     for (const Accessible &control : controls)
         names.append(control.name());

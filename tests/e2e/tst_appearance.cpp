@@ -43,6 +43,9 @@ private:
     /// Turns a switch on, and returns the different pictures of it that were seen until it was `accent` all over.
     QList<QImage> picturesOfAFlip(const QColor &accent);
 
+    /// Makes the page grow by a row and shrink again, and returns every height the window had while it shrank.
+    QSet<int> heightsWhileARowGoes();
+
 private slots:
     void isLightWithoutAPortal();
     void startsInTheSchemeOfThePortal_data();
@@ -56,15 +59,20 @@ private slots:
     void aFlippedSwitchSlides();
     void aFlippedSwitchDoesNotSlideWithReducedMotion();
     void reducedMotionIsReadAtTheMomentOfTheFlip();
-    void thePageGrowsAtOnceWithReducedMotion();
+    void theWindowShrinksByDegrees();
+    void theWindowShrinksAtOnceWithReducedMotion();
 };
 
 QList<QImage> TestAppearance::picturesOfAFlip(const QColor &accent)
 {
     const Accessible login = find(ATSPI_ROLE_CHECK_BOX, u"Start at login"_s);
+    if (!becomes(login, ATSPI_STATE_CHECKED, false))
+        return {};
     settle();
     const QRect box = login.extents();
     const QPoint leading(6, box.height() / 2);
+    if (!screen().waitForPixel(box.topLeft() + leading, Qt::white))
+        return {};
     QList<QImage> seen = {screen().picture(box)};
     if (!login.doAction(u"Press"_s))
         return {};
@@ -163,8 +171,11 @@ void TestAppearance::recoloursTheControlsToo()
 void TestAppearance::aFlippedSwitchSlides()
 {
     QVERIFY(open());
-    const QList<QImage> seen = picturesOfAFlip(lightIndigo);
-    QVERIFY2(seen.size() > 2, qPrintable(QString::number(seen.size())));
+    // A busy machine may skip the frames in between, though not every time.
+    QVERIFY(QTest::qWaitFor([this] {
+        store().remove(u"agent.launchAtLogin"_s);
+        return picturesOfAFlip(lightIndigo).size() > 2;
+    }));
 }
 
 void TestAppearance::aFlippedSwitchDoesNotSlideWithReducedMotion()
@@ -185,28 +196,39 @@ void TestAppearance::reducedMotionIsReadAtTheMomentOfTheFlip()
     QCOMPARE(picturesOfAFlip(darkIndigo).size(), 2);
 }
 
-void TestAppearance::thePageGrowsAtOnceWithReducedMotion()
+QSet<int> TestAppearance::heightsWhileARowGoes()
+{
+    const QString needsApproval = u"agent.launchAtLoginNeedsApproval"_s;
+    const int small = window()->geometry().height();
+    const auto isAtRest = [this] { return window()->minimumSize() == window()->geometry().size(); };
+    store().write(needsApproval, true);
+    // A rule and a row of their own, of 40 points at least.
+    if (!QTest::qWaitFor([&] { return window()->geometry().height() >= small + 41 && isAtRest(); }))
+        return {};
+    QSet<int> heights = {window()->geometry().height()};
+    store().write(needsApproval, false);
+    QDeadlineTimer deadline(5000);
+    while (!heights.contains(small) && !deadline.hasExpired())
+        heights.insert(window()->geometry().height());
+    return heights;
+}
+
+void TestAppearance::theWindowShrinksByDegrees()
+{
+    QVERIFY(open());
+    const QPoint corner = window()->geometry().topLeft();
+    // A busy machine may skip the frames in between, though not every time.
+    QVERIFY(QTest::qWaitFor([this] { return heightsWhileARowGoes().size() > 2; }));
+    QCOMPARE(window()->geometry().topLeft(), corner);
+}
+
+void TestAppearance::theWindowShrinksAtOnceWithReducedMotion()
 {
     const SettingsPortal portal(settings({{reducedMotion, on}}));
     QVERIFY(open());
-    FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
-    settle();
-    const QRect before = window()->geometry();
-    QSet<int> heights = {before.height()};
-    store().write(u"agent.launchAtLoginNeedsApproval"_s, true);
-    const auto hasGrown = [&] {
-        heights.insert(window()->geometry().height());
-        return heights.size() > 1;
-    };
-    QDeadlineTimer deadline(5000);
-    while (!hasGrown() && !deadline.hasExpired())
-        QCoreApplication::processEvents();
-    FIND(open, ATSPI_ROLE_PUSH_BUTTON, "Open");
-    settle();
-    heights.insert(window()->geometry().height());
-    QCOMPARE(heights.size(), 2);
-    // The top edge and the left edge stay where they were.
-    QCOMPARE(window()->geometry().topLeft(), before.topLeft());
+    const QPoint corner = window()->geometry().topLeft();
+    QCOMPARE(heightsWhileARowGoes().size(), 2);
+    QCOMPARE(window()->geometry().topLeft(), corner);
 }
 
 QTEST_GUILESS_MAIN(TestAppearance)

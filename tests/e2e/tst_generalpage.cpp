@@ -1,5 +1,6 @@
 #include "EndToEndTest.h"
 #include "Processes.h"
+#include "Service.h"
 
 #include <X11/keysym.h>
 
@@ -38,6 +39,9 @@ private slots:
 
     void flippingShowInTheMenuBarStoresTheInverseAndThenTellsTheAgentOnce_data();
     void flippingShowInTheMenuBarStoresTheInverseAndThenTellsTheAgentOnce();
+
+    void theAgentIsNotToldBeforeTheStoreIsWritten_data();
+    void theAgentIsNotToldBeforeTheStoreIsWritten();
 
     void aPendingApprovalShowsTheLoginItemsRow();
     void theLoginItemsButtonStoresAndPostsNothing();
@@ -83,10 +87,9 @@ void TestGeneralPage::showsWhatTheStoreHoldsWhenItOpens_data()
     QTest::addColumn<bool>("showsIcon");
     QTest::newRow("nothing") << QVariantMap() << false << true;
     QTest::newRow("started at login") << QVariantMap{{launchAtLogin, true}} << true << true;
-    QTest::newRow("waiting for approval") << QVariantMap{{launchAtLogin, false}, {needsApproval, true}} << true
-                                          << true;
-    QTest::newRow("registered and waiting") << QVariantMap{{launchAtLogin, true}, {needsApproval, true}} << true
-                                            << true;
+    QTest::newRow("waiting for approval") << QVariantMap{{launchAtLogin, false}, {needsApproval, true}} << true << true;
+    QTest::newRow("registered and waiting")
+        << QVariantMap{{launchAtLogin, true}, {needsApproval, true}} << true << true;
     QTest::newRow("icon hidden") << QVariantMap{{iconHidden, true}} << false << false;
     QTest::newRow("icon not hidden") << QVariantMap{{iconHidden, false}} << false << true;
 }
@@ -215,6 +218,34 @@ void TestGeneralPage::flippingShowInTheMenuBarStoresTheInverseAndThenTellsTheAge
         QCOMPARE(heard.extras, QVariantMap());
         QCOMPARE(heard.stored, (QVariantMap{{iconHidden, hidden}}));
     }
+}
+
+void TestGeneralPage::theAgentIsNotToldBeforeTheStoreIsWritten_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QVariantMap>("stored");
+    QTest::newRow("start at login") << u"Start at login"_s
+                                    << QVariantMap{{launchAtLogin, true}, {needsApproval, false}};
+    QTest::newRow("menu bar") << u"Show in the menu bar"_s << QVariantMap{{iconHidden, true}};
+}
+
+void TestGeneralPage::theAgentIsNotToldBeforeTheStoreIsWritten()
+{
+    constexpr int longEnough = 500; // milliseconds; a command that is posted too early arrives within a few
+    QFETCH(QString, name);
+    QFETCH(QVariantMap, stored);
+    QVERIFY(open());
+    const Accessible control = find(ATSPI_ROLE_CHECK_BOX, name);
+    QVERIFY(control);
+    settle();
+
+    Service settings(u"ca.desrt.dconf"_s);
+    QVERIFY(settings.hold());
+    pointer().click(control.extents().center());
+    QVERIFY(!commands().waitForCount(1, longEnough));
+    QVERIFY(settings.release());
+    QVERIFY(commands().waitForCount(1));
+    QCOMPARE(commands().heard().constFirst().stored, stored);
 }
 
 void TestGeneralPage::aPendingApprovalShowsTheLoginItemsRow()

@@ -12,8 +12,8 @@ private:
     /// Opens the window and waits until it has the keyboard.
     bool openWithKeyboard();
 
-    /// The names of the elements that take the focus now, and could be reached.
-    QStringList focusable() const;
+    /// The names of the elements that the Tab key has to reach.
+    QStringList tabStops() const;
     QString focused() const;
 
     /// Presses the key until an element has the focus that had it before, and returns the names in the order in which
@@ -23,6 +23,8 @@ private:
 
     QImage around(const Accessible &control) const;
 
+    static QStringList pagesIn(const Accessible &sidebar);
+
 private slots:
     void tabReachesEveryControlAndComesRound();
     void shiftTabGoesTheOtherWayRound();
@@ -30,7 +32,6 @@ private slots:
 
     void keysActOnTheFocusedControl_data();
     void keysActOnTheFocusedControl();
-    void aHeldKeyActsOnce();
 
     void theFocusedControlShowsARing_data();
     void theFocusedControlShowsARing();
@@ -39,6 +40,7 @@ private slots:
     void controlFGoesToTheSearchField();
     void escapeEmptiesTheSearchField();
     void searchingFiltersTheSidebarOnly();
+    void arrowsChooseAmongThePages();
 };
 
 bool TestKeyboard::openWithKeyboard()
@@ -46,13 +48,15 @@ bool TestKeyboard::openWithKeyboard()
     return open() && QTest::qWaitFor([this] { return window()->hasInputFocus(); });
 }
 
-QStringList TestKeyboard::focusable() const
+QStringList TestKeyboard::tabStops() const
 {
-    const auto canBeReached = [](const Accessible &element) {
-        return element.has(ATSPI_STATE_SHOWING) && element.has(ATSPI_STATE_FOCUSABLE);
+    // Of the pages only the chosen one is a stop: the arrow keys go on from there.
+    const auto isStop = [](const Accessible &element) {
+        const bool isOtherPage = element.role() == ATSPI_ROLE_LIST_ITEM && !element.has(ATSPI_STATE_SELECTED);
+        return element.has(ATSPI_STATE_SHOWING) && element.has(ATSPI_STATE_FOCUSABLE) && !isOtherPage;
     };
     QStringList names;
-    const QList<Accessible> elements = application().findAll(canBeReached);
+    const QList<Accessible> elements = application().findAll(isStop);
     for (const Accessible &element : elements)
         names.append(element.name());
     return names;
@@ -63,8 +67,9 @@ QString TestKeyboard::focused() const
     const auto hasFocus = [](const Accessible &element) {
         return element.has(ATSPI_STATE_FOCUSED) && element.role() != ATSPI_ROLE_FRAME;
     };
+    // What the focused element stands in may say that it has the focus too.
     const QList<Accessible> elements = application().findAll(hasFocus);
-    return elements.isEmpty() ? QString() : elements.constFirst().name();
+    return elements.isEmpty() ? QString() : elements.constLast().name();
 }
 
 QStringList TestKeyboard::round(const QList<xcb_keysym_t> &modifiers)
@@ -85,7 +90,7 @@ QStringList TestKeyboard::round(const QList<xcb_keysym_t> &modifiers)
 
 bool TestKeyboard::focusByTab(const QString &name)
 {
-    const qsizetype most = focusable().size();
+    const qsizetype most = tabStops().size();
     for (qsizetype step = 0; step <= most && focused() != name; ++step) {
         const QString before = focused();
         keyboard().press(XK_Tab);
@@ -101,11 +106,20 @@ QImage TestKeyboard::around(const Accessible &control) const
     return screen().picture(control.extents().adjusted(-ringReach, -ringReach, ringReach, ringReach));
 }
 
+QStringList TestKeyboard::pagesIn(const Accessible &sidebar)
+{
+    QStringList names;
+    const QList<Accessible> entries = sidebar.children();
+    for (const Accessible &entry : entries)
+        names.append(entry.name());
+    return names;
+}
+
 void TestKeyboard::tabReachesEveryControlAndComesRound()
 {
     QVERIFY(openWithKeyboard());
     FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
-    QStringList expected = focusable();
+    QStringList expected = tabStops();
     for (const char *name : {"Search", "General", "Start at login", "Show in the menu bar", "Open Settings",
                              "Show Guide", "Close", "Minimize"})
         QVERIFY2(expected.contains(QLatin1String(name)), name);
@@ -153,8 +167,7 @@ void TestKeyboard::keysActOnTheFocusedControl_data()
     QTest::newRow("return on a switch") << u"Start at login"_s << xcb_keysym_t(XK_Return) << u"setLaunchAtLogin"_s;
     QTest::newRow("space on a button") << u"Open Settings"_s << xcb_keysym_t(XK_space) << u"requestAccessibility"_s;
     QTest::newRow("return on a button") << u"Open Settings"_s << xcb_keysym_t(XK_Return) << u"requestAccessibility"_s;
-    QTest::newRow("enter on a button") << u"Open Settings"_s << xcb_keysym_t(XK_KP_Enter)
-                                       << u"requestAccessibility"_s;
+    QTest::newRow("enter on a button") << u"Open Settings"_s << xcb_keysym_t(XK_KP_Enter) << u"requestAccessibility"_s;
 }
 
 void TestKeyboard::keysActOnTheFocusedControl()
@@ -172,17 +185,6 @@ void TestKeyboard::keysActOnTheFocusedControl()
     QCOMPARE(commands().heard().constFirst().command, command);
 }
 
-void TestKeyboard::aHeldKeyActsOnce()
-{
-    QVERIFY(openWithKeyboard());
-    FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
-    QVERIFY(focusByTab(u"Open Settings"_s));
-    keyboard().hold(XK_Return, 5);
-    QVERIFY(commands().waitForCount(1));
-    settle();
-    QCOMPARE(commands().heard().size(), 1);
-}
-
 void TestKeyboard::theFocusedControlShowsARing_data()
 {
     QTest::addColumn<QString>("name");
@@ -195,9 +197,8 @@ void TestKeyboard::theFocusedControlShowsARing()
     QFETCH(QString, name);
     QVERIFY(openWithKeyboard());
     FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
-    const QList<Accessible> found = application().findAll([&](const Accessible &element) {
-        return element.name() == name && element.has(ATSPI_STATE_FOCUSABLE);
-    });
+    const QList<Accessible> found = application().findAll(
+        [&](const Accessible &element) { return element.name() == name && element.has(ATSPI_STATE_FOCUSABLE); });
     QVERIFY(!found.isEmpty());
     const Accessible &control = found.constFirst();
     QVERIFY(focused() != name);
@@ -253,13 +254,7 @@ void TestKeyboard::searchingFiltersTheSidebarOnly()
     QVERIFY(openWithKeyboard());
     FIND(search, ATSPI_ROLE_TEXT, "Search");
     FIND(list, ATSPI_ROLE_LIST, "Pages");
-    const auto pages = [&] {
-        QStringList names;
-        const QList<Accessible> entries = list.children();
-        for (const Accessible &entry : entries)
-            names.append(entry.name());
-        return names;
-    };
+    const auto pages = [&] { return pagesIn(list); };
     const QStringList all = pages();
     keyboard().press(XK_f, {XK_Control_L});
     QVERIFY(becomes(search, ATSPI_STATE_FOCUSED));
@@ -274,6 +269,38 @@ void TestKeyboard::searchingFiltersTheSidebarOnly()
     pointer().click(clear.extents().center());
     QTRY_COMPARE(pages(), all);
     QCOMPARE(search.text(), QString());
+}
+
+void TestKeyboard::arrowsChooseAmongThePages()
+{
+    QVERIFY(openWithKeyboard());
+    FIND(list, ATSPI_ROLE_LIST, "Pages");
+    const QStringList pages = pagesIn(list);
+    const auto selected = [&] {
+        QStringList names;
+        const QList<Accessible> entries = list.children();
+        for (const Accessible &entry : entries) {
+            if (entry.has(ATSPI_STATE_SELECTED))
+                names.append(entry.name());
+        }
+        return names;
+    };
+    QVERIFY(focusByTab(pages.constFirst()));
+    for (qsizetype page = 1; page < pages.size(); ++page) {
+        keyboard().press(XK_Down);
+        QTRY_COMPARE(selected(), QStringList(pages.at(page)));
+        QTRY_COMPARE(focused(), pages.at(page));
+    }
+    keyboard().press(XK_Down);
+    settle();
+    QCOMPARE(selected(), QStringList(pages.constLast()));
+    for (qsizetype page = pages.size() - 2; page >= 0; --page) {
+        keyboard().press(XK_Up);
+        QTRY_COMPARE(selected(), QStringList(pages.at(page)));
+    }
+    keyboard().press(XK_Up);
+    settle();
+    QCOMPARE(selected(), QStringList(pages.constFirst()));
 }
 
 QTEST_GUILESS_MAIN(TestKeyboard)

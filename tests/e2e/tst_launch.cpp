@@ -2,6 +2,7 @@
 #include "BusDaemon.h"
 #include "EndToEndTest.h"
 #include "RootListener.h"
+#include "Service.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -18,15 +19,25 @@ private:
     /// Waits for the page with that number and title: the line above its heading, and its entry as the selected one.
     bool showsPage(int number, const QString &title);
 
-    /// Starts the program on a bus that cannot store anything, and flips a switch there and back. Without a session
-    /// there is no accessibility bus either, so the switch is looked up in an ordinary run first, and then watched.
-    void togglesInMemory(const QByteArray &busAddress);
+    /// Where the switch "Show in the menu bar" is. Without a session bus there is no accessibility bus to ask, so it
+    /// is looked up in an ordinary run, which is over afterwards.
+    QRect findSwitch();
+
+    /// Flips that switch off and on again by the pointer, and sees it happen.
+    bool flips(const QRect &track) const;
+
+    static QHash<QString, QString> onBus(const QByteArray &address)
+    {
+        return {{QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromUtf8(address)}};
+    }
 
 private slots:
     void opensTheSettingsWindow();
     void isInTheMiddleOfTheScreenAndStaysThere();
     void isAsHighAsItsContentFromTheFirstFrame();
     void cannotBeResized();
+    void isAsLargeAsTheScaleAsksFor_data();
+    void isAsLargeAsTheScaleAsksFor();
     void takesTheKeyboardFocus();
 
     void unknownArgumentsOpenTheSettingsWindow_data();
@@ -41,7 +52,8 @@ private slots:
 
     void startsWithoutASessionBus_data();
     void startsWithoutASessionBus();
-    void startsWithoutASettingsService();
+    void outlivesItsSessionBus_data();
+    void outlivesItsSessionBus();
     void startsWithADamagedStore();
     void valuesOfOtherTypesReadAsDefaultsAndStay();
 
@@ -59,26 +71,29 @@ bool TestLaunch::showsPage(int number, const QString &title)
     return shows(u"Settings · %1"_s.arg(number, 2, 10, QChar(u'0'))) && !application().findAll(isSelected).isEmpty();
 }
 
-void TestLaunch::togglesInMemory(const QByteArray &busAddress)
+QRect TestLaunch::findSwitch()
 {
-    QVERIFY(open());
-    FIND(icon, ATSPI_ROLE_CHECK_BOX, "Show in the menu bar");
+    if (!open())
+        return {};
+    const Accessible icon = find(ATSPI_ROLE_CHECK_BOX, u"Show in the menu bar"_s);
     settle();
     const QRect track = icon.extents();
-    const QPoint leading(track.left() + 6, track.center().y());
     window()->close();
-    QVERIFY(program().waitForExit());
+    return program().waitForExit() ? track : QRect();
+}
 
-    QVERIFY(launch({.environment = {{u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(busAddress)}}}));
-    const QColor on(0x5A, 0x5C, 0xF2);
+bool TestLaunch::flips(const QRect &track) const
+{
+    const QPoint leading(track.left() + 6, track.center().y());
+    const QColor accent(0x5A, 0x5C, 0xF2);
     const QColor knob(Qt::white);
-    QVERIFY(screen().waitForPixel(leading, on));
+    if (!screen().waitForPixel(leading, accent))
+        return false;
     pointer().click(track.center());
-    QVERIFY(screen().waitForPixel(leading, knob));
+    if (!screen().waitForPixel(leading, knob))
+        return false;
     pointer().click(track.center());
-    QVERIFY(screen().waitForPixel(leading, on));
-    QCOMPARE(store().readAll(), QVariantMap());
-    QCOMPARE(commands().heard().size(), 0);
+    return screen().waitForPixel(leading, accent);
 }
 
 void TestLaunch::opensTheSettingsWindow()
@@ -123,6 +138,27 @@ void TestLaunch::cannotBeResized()
     QTRY_COMPARE(*window()->maximumSize(), window()->geometry().size());
 }
 
+void TestLaunch::isAsLargeAsTheScaleAsksFor_data()
+{
+    QTest::addColumn<QString>("scale");
+    QTest::addColumn<int>("width");
+    QTest::newRow("1.5") << u"1.5"_s << 930;
+    QTest::newRow("2") << u"2"_s << 1240;
+}
+
+void TestLaunch::isAsLargeAsTheScaleAsksFor()
+{
+    QFETCH(QString, scale);
+    QFETCH(int, width);
+    QVERIFY(open({.environment = {{u"QT_SCALE_FACTOR"_s, scale}}}));
+    FIND(last, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
+    settle();
+    const QRect frame = window()->geometry();
+    QCOMPARE(frame.width(), width);
+    QVERIFY(QRect({}, desktop().x().size()).contains(frame));
+    QCOMPARE(screen().pixel(frame.topLeft() + QPoint(3, 3)), QColor(0xF7, 0xF6, 0xF2));
+}
+
 void TestLaunch::takesTheKeyboardFocus()
 {
     QVERIFY(open());
@@ -155,7 +191,8 @@ void TestLaunch::theTabVariableNamesTheFirstPage_data()
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("title");
     QTest::newRow("general") << u"general"_s << 1 << u"General"_s;
-    QTest::newRow("capital letter") << u"Layouts"_s << 1 << u"General"_s;
+    for (const char *name : {"Buttons", "Shortcuts", "Layouts"})
+        QTest::newRow(name) << QString::fromLatin1(name) << 1 << u"General"_s;
     QTest::newRow("a title") << u"General"_s << 1 << u"General"_s;
     QTest::newRow("unknown") << u"nowhere"_s << 1 << u"General"_s;
     QTest::newRow("empty") << u""_s << 1 << u"General"_s;
@@ -178,13 +215,10 @@ void TestLaunch::closingTheWindowEndsTheProcess_data()
     QTest::newRow("close button") << Close([](TestLaunch &test) {
         test.pointer().click(test.find(ATSPI_ROLE_PUSH_BUTTON, u"Close"_s).extents().center());
     });
-    QTest::newRow("action of the close button") << Close([](TestLaunch &test) {
-        test.find(ATSPI_ROLE_PUSH_BUTTON, u"Close"_s).doAction(u"Press"_s);
-    });
-    QTest::newRow("Ctrl+W") << Close(
-        [](TestLaunch &test) { test.keyboard().press(XK_w, {XK_Control_L}); });
-    QTest::newRow("Ctrl+Q") << Close(
-        [](TestLaunch &test) { test.keyboard().press(XK_q, {XK_Control_L}); });
+    QTest::newRow("action of the close button")
+        << Close([](TestLaunch &test) { test.find(ATSPI_ROLE_PUSH_BUTTON, u"Close"_s).doAction(u"Press"_s); });
+    QTest::newRow("Ctrl+W") << Close([](TestLaunch &test) { test.keyboard().press(XK_w, {XK_Control_L}); });
+    QTest::newRow("Ctrl+Q") << Close([](TestLaunch &test) { test.keyboard().press(XK_q, {XK_Control_L}); });
 }
 
 void TestLaunch::closingTheWindowEndsTheProcess()
@@ -228,19 +262,40 @@ void TestLaunch::startsWithoutASessionBus_data()
 void TestLaunch::startsWithoutASessionBus()
 {
     QFETCH(QByteArray, address);
-    togglesInMemory(address);
+    const QRect track = findSwitch();
+    QVERIFY(!track.isEmpty());
+    QVERIFY(launch({.environment = onBus(address)}));
+    QVERIFY(flips(track));
+    QCOMPARE(store().readAll(), QVariantMap());
+    QCOMPARE(commands().heard().size(), 0);
 }
 
-void TestLaunch::startsWithoutASettingsService()
+void TestLaunch::outlivesItsSessionBus_data()
 {
-    const BusDaemon bare(QStringList{});
-    QVERIFY(!bare.address().isEmpty());
-    togglesInMemory(bare.address());
+    QTest::addColumn<QStringList>("services");
+    QTest::newRow("with a settings service") << QStringList{u"ca.desrt.dconf"_s};
+    QTest::newRow("without a settings service") << QStringList();
+}
+
+void TestLaunch::outlivesItsSessionBus()
+{
+    QFETCH(QStringList, services);
+    const QRect track = findSwitch();
+    QVERIFY(!track.isEmpty());
+    auto bus = std::make_unique<BusDaemon>(services);
+    QVERIFY(!bus->address().isEmpty());
+    QVERIFY(launch({.environment = onBus(bus->address())}));
+    QVERIFY(flips(track));
+    bus.reset();
+    QVERIFY(flips(track));
+    QVERIFY(flips(track));
 }
 
 void TestLaunch::startsWithADamagedStore()
 {
     store().write(u"menuBarIconHidden"_s, true);
+    // The service keeps what it has read; the next one reads the database anew.
+    QVERIFY(Service(u"ca.desrt.dconf"_s).end());
     const QString database = desktop().session().configFolder() + u"/dconf/user"_s;
     QFile damaged(database + u".new"_s);
     QVERIFY(damaged.open(QFile::WriteOnly));
@@ -313,7 +368,8 @@ void TestLaunch::startsWithoutItsInfoDictionary()
     QVERIFY(open({.executable = bundle.executable()}));
     QVERIFY(showsPage(1, u"General"_s));
     const auto namesAVersion = [](const Accessible &element) {
-        return element.name().contains(QRegularExpression(u"version\\s*\\d"_s, QRegularExpression::CaseInsensitiveOption));
+        return element.name().contains(
+            QRegularExpression(u"version\\s*\\d"_s, QRegularExpression::CaseInsensitiveOption));
     };
     QVERIFY(application().findAll(namesAVersion).isEmpty());
 }

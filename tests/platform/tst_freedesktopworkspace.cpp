@@ -6,6 +6,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+namespace {
+
+constexpr QRgb iconColor = qRgb(0, 128, 255);
+
+bool isTheIcon(const QIcon &icon)
+{
+    return !icon.isNull() && icon.pixmap(48, 48).toImage().pixel(24, 24) == iconColor;
+}
+
+}
+
 class FreedesktopWorkspaceTest : public QObject {
     Q_OBJECT
 private slots:
@@ -20,6 +31,15 @@ private slots:
     void theAutostartPageIsThatOfTheDesktop();
     void anUnknownDesktopOrAMissingProgramOpensNothing();
 
+    void anApplicationsIconIsTheOneItsDesktopEntryNames();
+    void anIconOfTheThemeIsFoundByItsName();
+    void onlyTheGroupOfTheEntryItselfCounts_data();
+    void onlyTheGroupOfTheEntryItselfCounts();
+    void anApplicationWithoutAnIconHasNone_data();
+    void anApplicationWithoutAnIconHasNone();
+    void anIdentifierThatIsNoFileNameHasNoIcon_data();
+    void anIdentifierThatIsNoFileNameHasNoIcon();
+
 public slots:
     void openedLink(const QUrl &url) { m_links.append(url); }
 
@@ -27,6 +47,8 @@ private:
     void writeScript(const QString &path) const;
     QString makeBundle() const;
     QStringList started() const;
+    void write(const QString &path, const QString &text) const;
+    QString makeIcon(const QString &path) const;
 
     std::optional<QTemporaryDir> m_folder;
     std::optional<PlistBundle> m_mainBundle;
@@ -40,6 +62,7 @@ void FreedesktopWorkspaceTest::init()
     m_folder.emplace();
     qputenv("STARTED", m_folder->filePath(QStringLiteral("started")).toLocal8Bit());
     qputenv("PATH", m_folder->filePath(QStringLiteral("bin")).toLocal8Bit());
+    qputenv("XDG_DATA_HOME", m_folder->filePath(QStringLiteral("data")).toLocal8Bit());
     writeScript(QStringLiteral("outside/main"));
     m_mainBundle = PlistBundle::around(m_folder->filePath(QStringLiteral("outside/main")));
     m_workspace.emplace(*m_mainBundle);
@@ -72,6 +95,24 @@ QStringList FreedesktopWorkspaceTest::started() const
     if (!file.open(QFile::ReadOnly))
         return {};
     return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void FreedesktopWorkspaceTest::write(const QString &path, const QString &text) const
+{
+    const QString fileName = m_folder->filePath(path);
+    QVERIFY(QDir().mkpath(QFileInfo(fileName).path()));
+    QFile file(fileName);
+    QVERIFY(file.open(QFile::WriteOnly) && file.write(text.toUtf8()) > 0);
+}
+
+// An icon of one colour, by which it is known again.
+QString FreedesktopWorkspaceTest::makeIcon(const QString &path) const
+{
+    const QString fileName = m_folder->filePath(path);
+    QDir().mkpath(QFileInfo(fileName).path());
+    QImage picture(48, 48, QImage::Format_RGB32);
+    picture.fill(iconColor);
+    return picture.save(fileName) ? fileName : QString();
 }
 
 void FreedesktopWorkspaceTest::anApplicationIsStartedWithItsArguments()
@@ -172,6 +213,101 @@ void FreedesktopWorkspaceTest::anUnknownDesktopOrAMissingProgramOpensNothing()
     m_workspace->openLoginItemsSettings();
     QTRY_VERIFY(!started().isEmpty());
     QCOMPARE(started().size(), 1);
+}
+
+void FreedesktopWorkspaceTest::anApplicationsIconIsTheOneItsDesktopEntryNames()
+{
+    const QString icon = makeIcon(QStringLiteral("icons/an icon.png"));
+    write(QStringLiteral("data/applications/org.example.Editor.desktop"),
+          QStringLiteral("[Desktop Entry]\nType=Application\nName=Editor\nIcon=%1\n").arg(icon));
+    QVERIFY(isTheIcon(m_workspace->iconForApplication(QStringLiteral("org.example.Editor"))));
+    QVERIFY(m_workspace->iconForApplication(QStringLiteral("org.example.editor")).isNull());
+    QVERIFY(m_workspace->iconForApplication(QStringLiteral("org.example")).isNull());
+    // Asked again it answers the same.
+    QVERIFY(isTheIcon(m_workspace->iconForApplication(QStringLiteral("org.example.Editor"))));
+}
+
+void FreedesktopWorkspaceTest::anIconOfTheThemeIsFoundByItsName()
+{
+    write(QStringLiteral("themes/drawn/index.theme"),
+          QStringLiteral("[Icon Theme]\nName=drawn\nDirectories=48x48\n[48x48]\nSize=48\nType=Fixed\n"));
+    QVERIFY(!makeIcon(QStringLiteral("themes/drawn/48x48/corvane-test-viewer.png")).isEmpty());
+    QIcon::setThemeSearchPaths({m_folder->filePath(QStringLiteral("themes"))});
+    QIcon::setThemeName(QStringLiteral("drawn"));
+    write(QStringLiteral("data/applications/viewer.desktop"),
+          QStringLiteral("[Desktop Entry]\nIcon=corvane-test-viewer\n"));
+    write(QStringLiteral("data/applications/other.desktop"),
+          QStringLiteral("[Desktop Entry]\nIcon=corvane-test-nothing\n"));
+    QVERIFY(isTheIcon(m_workspace->iconForApplication(QStringLiteral("viewer"))));
+    QVERIFY(m_workspace->iconForApplication(QStringLiteral("other")).isNull());
+}
+
+void FreedesktopWorkspaceTest::onlyTheGroupOfTheEntryItselfCounts_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<bool>("hasIcon");
+    const QString entry = QStringLiteral("[Desktop Entry]\nName=One\n");
+    const QString action = QStringLiteral("[Desktop Action new]\nName=New\n");
+    const QString icon = QStringLiteral("Icon=%1\n");
+    const QString otherIcon = QStringLiteral("Icon=/nonexistent/other.png\n");
+    QTest::newRow("of an action before it") << QString(action + otherIcon + entry + icon) << true;
+    QTest::newRow("of an action after it") << QString(entry + icon + action + otherIcon) << true;
+    QTest::newRow("of an action alone") << QString(entry + action + icon) << false;
+    QTest::newRow("before any group") << QString(icon + entry) << false;
+    QTest::newRow("of a group of a similar name") << QString(u"[Desktop Entry 2]\n" + icon) << false;
+    QTest::newRow("commented out") << QString(entry + u'#' + icon) << false;
+    QTest::newRow("of a language") << QString(entry + u"Icon[de]=/nonexistent/de.png\n" + icon) << true;
+    QTest::newRow("in another case") << QString(entry + u"icon=%1\n") << false;
+    QTest::newRow("with space around it") << QString(entry + u"Icon = %1 \n") << true;
+}
+
+void FreedesktopWorkspaceTest::onlyTheGroupOfTheEntryItselfCounts()
+{
+    QFETCH(QString, entry);
+    QFETCH(bool, hasIcon);
+    write(QStringLiteral("data/applications/app.desktop"), entry.arg(makeIcon(QStringLiteral("icon.png"))));
+    const QIcon icon = m_workspace->iconForApplication(QStringLiteral("app"));
+    QCOMPARE(isTheIcon(icon), hasIcon);
+    QCOMPARE(icon.isNull(), !hasIcon);
+}
+
+void FreedesktopWorkspaceTest::anApplicationWithoutAnIconHasNone_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("not installed") << QString();
+    QTest::newRow("names none") << QStringLiteral("[Desktop Entry]\nName=One\n");
+    QTest::newRow("names nothing") << QStringLiteral("[Desktop Entry]\nIcon=\n");
+    QTest::newRow("a theme does not have it") << QStringLiteral("[Desktop Entry]\nIcon=corvane-test-missing\n");
+    QTest::newRow("the file is missing") << QStringLiteral("[Desktop Entry]\nIcon=/nonexistent/icon.png\n");
+    QTest::newRow("the file is no picture") << QStringLiteral("[Desktop Entry]\nIcon=/etc/passwd\n");
+    QTest::newRow("no desktop entry") << QStringLiteral("\x01\x02\n=\n[\n");
+}
+
+void FreedesktopWorkspaceTest::anApplicationWithoutAnIconHasNone()
+{
+    QFETCH(QString, entry);
+    if (!entry.isEmpty())
+        write(QStringLiteral("data/applications/app.desktop"), entry);
+    QVERIFY(m_workspace->iconForApplication(QStringLiteral("app")).isNull());
+}
+
+void FreedesktopWorkspaceTest::anIdentifierThatIsNoFileNameHasNoIcon_data()
+{
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("empty") << QString() << QStringLiteral("applications/.desktop");
+    QTest::newRow("a folder below") << QStringLiteral("sub/app") << QStringLiteral("applications/sub/app.desktop");
+    QTest::newRow("a folder above") << QStringLiteral("../app") << QStringLiteral("app.desktop");
+}
+
+void FreedesktopWorkspaceTest::anIdentifierThatIsNoFileNameHasNoIcon()
+{
+    QFETCH(QString, identifier);
+    QFETCH(QString, entry);
+    QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("data/applications"))));
+    write(QString(u"data/" + entry),
+          QStringLiteral("[Desktop Entry]\nIcon=%1\n").arg(makeIcon(QStringLiteral("icon.png"))));
+    QVERIFY(m_workspace->iconForApplication(identifier).isNull());
 }
 
 QTEST_MAIN(FreedesktopWorkspaceTest)

@@ -2,11 +2,10 @@
 
 #include "Accessibility.h"
 #include "FakePlatform.h"
+#include "NamedItems.h"
 #include "Shared.h"
 #include "ViewEngine.h"
 
-#include <QAccessible>
-#include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -38,16 +37,12 @@ public:
     /// What was posted to the agent, in order.
     const QList<FakeDistributedNotificationCenter::Post> &posts() const { return platform.notifications.posts; }
 
-    bool isShown(const QString &name) { return !named(m_window.contentItem(), name).isEmpty(); }
+    bool isShown(const QString &name) { return !NamedItems::all(m_window.contentItem(), name).isEmpty(); }
 
     /// The first visible item of that name and role; null when there is none.
     QQuickItem *control(const QString &name, QAccessible::Role role)
     {
-        for (QQuickItem *item : named(m_window.contentItem(), name)) {
-            if (QAccessible::queryAccessibleInterface(item)->role() == role)
-                return item;
-        }
-        return nullptr;
+        return NamedItems::first(m_window.contentItem(), name, role);
     }
 
     bool isChecked(const QString &name, QAccessible::Role role = QAccessible::CheckBox)
@@ -74,19 +69,6 @@ public:
     }
 
 private:
-    static QList<QQuickItem *> named(QQuickItem *item, const QString &name)
-    {
-        QList<QQuickItem *> found;
-        if (!item->isVisible())
-            return found;
-        const auto *accessible = QAccessible::queryAccessibleInterface(item);
-        if (accessible && accessible->text(QAccessible::Name) == name)
-            found.append(item);
-        for (QQuickItem *child : item->childItems())
-            found.append(named(child, name));
-        return found;
-    }
-
     ViewEngine m_engine;
     QQuickWindow m_window;
 };

@@ -270,8 +270,9 @@ void TestLayoutsPane::theTipsStandBelowWithTheirKeys()
 {
     open();
     for (const char *text :
-         {"Left or right half", "Again: two thirds, then a third.", "⌘← ⌘→", "Top or bottom half",
-          "On a side: a quarter.", "⌘↑ ⌘↓", "Fill the screen", "⌘↩", "Put a saved layout back", "⌘1 … ⌘9",
+         {"Left or right half", "Again: two thirds, then a third.", "Command Left Command Right", "Top or bottom half",
+          "On a side: a quarter.", "Command Up Command Down", "Fill the screen", "Command Return",
+          "Put a saved layout back", "Command 1 to Command 9",
           "Point at a window first. Click a layout on the shelf to put its windows back, ⌥-click to delete it. Click "
           "a template, then the windows that go in it, or drag a window onto a slot."})
         QVERIFY2(m_pane->isShown(QString::fromUtf8(text)), text);

@@ -1,31 +1,10 @@
+#include "SettingsPages.h"
 #include "SidebarModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
-
-namespace {
-
-EBSettingsPage page(const char *id, const QStringList &keywords)
-{
-    QString title = QString::fromLatin1(id);
-    title[0] = title[0].toUpper();
-    return {QString::fromLatin1(id), title, GlyphName::gear, keywords, QUrl()};
-}
-
-/// The four pages and their keywords as the product lists them.
-QList<EBSettingsPage> fourPages()
-{
-    return {
-        page("general", {"login", "startup", "menu bar", "icon", "accessibility", "permission", "guide"}),
-        page("buttons", {"look", "theme", "colour", "color", "size", "minimize", "full screen", "maximize"}),
-        page("shortcuts", {"keyboard", "hotkey", "close", "hide", "quit", "minimize"}),
-        page("layouts", {"snap", "arrange", "tile", "window", "layout", "shelf", "gap"}),
-    };
-}
-
-}
 
 class TestPageSearch : public QObject {
     Q_OBJECT
@@ -66,21 +45,21 @@ void TestPageSearch::findsPages()
     QFETCH(QString, search);
     QFETCH(QStringList, found);
     QStringList ids;
-    for (const EBSettingsPage &match : pagesMatching(fourPages(), search))
+    for (const EBSettingsPage &match : pagesMatching(SettingsPages::make(), search))
         ids.append(match.id);
     QCOMPARE(ids, found);
 }
 
 void TestPageSearch::theModelListsWhatTheSearchFinds()
 {
-    SidebarModel model(fourPages());
+    SidebarModel model(SettingsPages::make());
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QCOMPARE(model.rowCount(), 4);
     model.setSearch("min");
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.data(model.index(0), SidebarModel::IdRole).toString(), "buttons");
     QCOMPARE(model.data(model.index(0), SidebarModel::TitleRole).toString(), "Buttons");
-    QCOMPARE(model.data(model.index(0), SidebarModel::GlyphRole).toString(), "gear");
+    QCOMPARE(model.data(model.index(0), SidebarModel::GlyphRole).toString(), "wins");
     QCOMPARE(model.data(model.index(1), SidebarModel::IdRole).toString(), "shortcuts");
     model.setSearch("");
     QCOMPARE(model.rowCount(), 4);
@@ -88,7 +67,7 @@ void TestPageSearch::theModelListsWhatTheSearchFinds()
 
 void TestPageSearch::aSearchThatFindsTheSameMovesNothing()
 {
-    SidebarModel model(fourPages());
+    SidebarModel model(SettingsPages::make());
     model.setSearch("wind");
     QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     model.setSearch("windo");
@@ -99,7 +78,7 @@ void TestPageSearch::aSearchThatFindsTheSameMovesNothing()
 
 void TestPageSearch::neighboursStopAtTheEnds()
 {
-    const SidebarModel model(fourPages());
+    const SidebarModel model(SettingsPages::make());
     QCOMPARE(model.neighbour("general", 1), "buttons");
     QCOMPARE(model.neighbour("general", -1), "general");
     QCOMPARE(model.neighbour("layouts", 1), "layouts");
@@ -108,7 +87,7 @@ void TestPageSearch::neighboursStopAtTheEnds()
 
 void TestPageSearch::aPageThatIsNotListedStandsAboveTheFirst()
 {
-    SidebarModel model(fourPages());
+    SidebarModel model(SettingsPages::make());
     model.setSearch("min");
     QCOMPARE(model.neighbour("general", 1), "buttons");
     QCOMPARE(model.neighbour("general", 0), "buttons");
@@ -117,7 +96,7 @@ void TestPageSearch::aPageThatIsNotListedStandsAboveTheFirst()
 
 void TestPageSearch::anEmptyListKeepsTheSelection()
 {
-    SidebarModel model(fourPages());
+    SidebarModel model(SettingsPages::make());
     model.setSearch("zebra");
     QCOMPARE(model.neighbour("general", 1), "general");
 }

@@ -27,6 +27,8 @@ private slots:
     void aReportWithoutHeightChangesNothing();
     void aChangeOfHalfAPointOrLessChangesNothing_data();
     void aChangeOfHalfAPointOrLessChangesNothing();
+    void aChangeOfMoreThanHalfAPointCounts_data();
+    void aChangeOfMoreThanHalfAPointCounts();
     void aPartOfAPointIsRoundedUp();
     void theReportedWidthDoesNotCount();
     void aLaterFitIsAnimatedAndKeepsTheTopLeftCorner();
@@ -82,7 +84,6 @@ void TestSettingsWindow::theWindowIsOfFixedWidthWithItsTitleAndButtons()
     QCOMPARE(window().maximumSize(), window().size());
     QVERIFY(window().flags() & Qt::FramelessWindowHint);
     QVERIFY(window().miniaturizeButtonEnabled());
-    QVERIFY(!window().zoomButtonEnabled());
     QVERIFY(!window().isVisible());
 }
 
@@ -138,6 +139,24 @@ void TestSettingsWindow::aChangeOfHalfAPointOrLessChangesNothing()
     QCOMPARE(window().geometry(), before);
 }
 
+void TestSettingsWindow::aChangeOfMoreThanHalfAPointCounts_data()
+{
+    QTest::addColumn<qreal>("change");
+    QTest::addColumn<int>("height");
+    QTest::newRow("0.6 more") << 0.6 << 401;
+    QTest::newRow("1 more") << 1.0 << 401;
+    QTest::newRow("1 less") << -1.0 << 399;
+    QTest::newRow("1.4 less") << -1.4 << 399;
+}
+
+void TestSettingsWindow::aChangeOfMoreThanHalfAPointCounts()
+{
+    QFETCH(qreal, change);
+    m_controller->fit(QSizeF(620, 400));
+    m_controller->fit(QSizeF(620, 400 + change));
+    QTEST(window().height(), "height");
+}
+
 void TestSettingsWindow::aPartOfAPointIsRoundedUp()
 {
     m_controller->fit(QSizeF(620, 444.6));
@@ -188,8 +207,10 @@ void TestSettingsWindow::aNewHeightDuringTheAnimationWins()
 
 void TestSettingsWindow::theWindowIsNeverHigherThanTheScreen()
 {
+    const QPoint before = window().position();
     m_controller->fit(QSizeF(620, 100000));
-    QCOMPARE(window().height(), window().screen()->availableGeometry().height());
+    QCOMPARE(window().position(), before);
+    QCOMPARE(window().geometry().bottom(), window().screen()->availableGeometry().bottom());
 }
 
 void TestSettingsWindow::theBackgroundFollowsTheAppearance()

@@ -49,6 +49,16 @@ void Agent::perform(const QVariantMap &userInfo)
 void Agent::reportLoginItem()
 {
     const LoginItem::State state = m_loginItem.state();
-    report(Shared::Key::agentLaunchAtLogin, state == LoginItem::State::Enabled);
-    report(Shared::Key::agentLaunchAtLoginNeedsApproval, state == LoginItem::State::NeedsApproval);
+    const auto reportEnabled = [&] { report(Shared::Key::agentLaunchAtLogin, state == LoginItem::State::Enabled); };
+    const auto reportWaiting = [&] {
+        report(Shared::Key::agentLaunchAtLoginNeedsApproval, state == LoginItem::State::NeedsApproval);
+    };
+    // What becomes true goes first: with both false in between, the switch would show off for a moment.
+    if (state == LoginItem::State::NeedsApproval) {
+        reportWaiting();
+        reportEnabled();
+    } else {
+        reportEnabled();
+        reportWaiting();
+    }
 }

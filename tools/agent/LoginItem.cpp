@@ -20,9 +20,13 @@ QString quoted(QString argument)
     return QStringLiteral("\"%1\"").arg(argument.replace(u'%', QStringLiteral("%%")));
 }
 
-bool isYes(const QByteArray &line, const char *key)
+/// Whether a line of a desktop entry keeps it from being started.
+bool isOff(const QByteArray &line)
 {
-    return line.startsWith(key) && line.mid(qstrlen(key)).trimmed() == "=true";
+    const auto equals = line.indexOf('=');
+    const QByteArray key = line.left(equals).trimmed();
+    const QByteArray value = line.mid(equals + 1).trimmed();
+    return (key == "Hidden" && value == "true") || (key == "X-GNOME-Autostart-enabled" && value == "false");
 }
 
 }
@@ -45,7 +49,7 @@ LoginItem::State LoginItem::state() const
     if (!entry.open(QIODevice::ReadOnly))
         return State::NotRegistered;
     while (!entry.atEnd()) {
-        if (isYes(entry.readLine().trimmed(), "Hidden"))
+        if (isOff(entry.readLine()))
             return State::NeedsApproval;
     }
     return State::Enabled;

@@ -1,9 +1,11 @@
 #include "Agent.h"
 #include "FreedesktopPlatform.h"
 #include "Platform.h"
+#include "Shared.h"
 #include "SystemSettings.h"
 
 #include <QCommandLineParser>
+#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QQuickWindow>
 
@@ -43,6 +45,10 @@ int main(int argc, char *argv[])
     });
     parser.process(application);
 
+    // One agent a session: a second one would do everything twice.
+    QDBusConnection session = QDBusConnection::sessionBus();
+    if (session.isConnected() && !session.registerService(Shared::suiteName))
+        return 0;
     Platform::install(makeFreedesktopPlatform());
     LoginItem loginItem(QGuiApplication::applicationFilePath(), parser.isSet(QStringLiteral("needs-approval")));
     Agent agent(loginItem);

@@ -1,6 +1,10 @@
 #include "Accessibility.h"
 
+#include "Platform.h"
+
 #include <QAccessible>
+#include <QAccessibleObject>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QQuickItem>
 
@@ -148,8 +152,20 @@ private:
 /// Set while Qt is asked for its own interface of an item.
 bool askingQt = false;
 
+/// The application by the name people know: Qt's own answer is the identifier, which is also the window class.
+class NamedApplication : public QAccessibleApplication {
+public:
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString name = Platform::current().mainBundle().string(QStringLiteral("CFBundleName"));
+        return kind == QAccessible::Name && !name.isEmpty() ? name : QAccessibleApplication::text(kind);
+    }
+};
+
 QAccessibleInterface *mend(const QString &className, QObject *object)
 {
+    if (object == qApp)
+        return new NamedApplication;
     // Qt's factory answers at this class; the classes below it belong to whoever installed a factory for
     // them.
     if (askingQt || className != QLatin1String("QQuickItem"))

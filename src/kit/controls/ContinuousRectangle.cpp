@@ -48,6 +48,11 @@ void paintContinuousRect(QPainter *painter, const QRectF &bounds, qreal radius, 
     if (stroke.alpha() == 0 || !(strokeWidth > 0))
         return;
     const qreal inset = strokeWidth / 2;
+    if (std::min(bounds.width(), bounds.height()) <= strokeWidth) {
+        // Nothing but border.
+        painter->fillPath(continuousRect(bounds, radius), stroke);
+        return;
+    }
     const QPen pen(stroke, strokeWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
     painter->strokePath(continuousRect(bounds.adjusted(inset, inset, -inset, -inset), radius - inset), pen);
 }

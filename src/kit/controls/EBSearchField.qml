@@ -92,7 +92,11 @@ ContinuousRectangle {
         height: parent.height
         text: qsTr("Clear search")
         visible: field.length > 0
-        onClicked: field.clear()
+        // The button goes with the text, and the focus goes back to typing.
+        onClicked: {
+            field.clear();
+            field.forceActiveFocus(Qt.OtherFocusReason);
+        }
 
         contentItem: Item {
             Glyph {

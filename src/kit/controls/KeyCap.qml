@@ -2,7 +2,7 @@ import QtQuick
 import Embera.Tokens
 import Embera.Controls
 
-/// A key combination in key symbols, on a cap.
+/// A key combination in key symbols, on a cap; it is read out in words.
 ContinuousRectangle {
     id: cap
 
@@ -13,7 +13,7 @@ ContinuousRectangle {
     radius: 6
     color: EB.chip
     Accessible.role: Accessible.StaticText
-    Accessible.name: keys
+    Accessible.name: KeySymbols.spoken(keys)
 
     EBText {
         id: text

@@ -4,6 +4,8 @@ import Embera.Controls
 
 /// A card around rows and the rules between them.
 ContinuousRectangle {
+    id: card
+
     default property alias content: rows.data
 
     implicitWidth: rows.implicitWidth
@@ -11,12 +13,17 @@ ContinuousRectangle {
     width: parent?.width ?? implicitWidth
     radius: 16
     color: EB.surface
-    strokeColor: EB.line
-    strokeWidth: 1
 
     Column {
         id: rows
 
         width: parent.width
+    }
+    // Over the content, so that nothing in it hides the edge.
+    ContinuousRectangle {
+        anchors.fill: parent
+        radius: card.radius
+        strokeColor: EB.line
+        strokeWidth: 1
     }
 }

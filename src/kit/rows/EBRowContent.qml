@@ -14,7 +14,7 @@ Item {
     property real minHeight: 0
     default property alias trailing: trailingRow.data
     /// Everything in the row's width that is not text.
-    readonly property real edges: 2 * 16 + (disc.visible ? disc.width + 12 : 0)
+    readonly property real edges: 2 * 16 + (glyph !== "" ? disc.width + 12 : 0)
         + (trailingRow.width > 0 ? trailingRow.width + 12 : 0)
 
     implicitWidth: edges + Math.max(titleText.implicitWidth, detailText.implicitWidth)

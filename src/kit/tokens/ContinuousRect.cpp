@@ -83,9 +83,8 @@ QPainterPath continuousRect(const QRectF &rect, qreal radius)
     };
     const QPointF right(cornerRadius, 0);
     const QPointF down(0, cornerRadius);
-    const std::array vertices = {
-        Vertex{rect.topRight(), -right, down}, Vertex{rect.bottomRight(), -down, -right},
-        Vertex{rect.bottomLeft(), right, -down}, Vertex{rect.topLeft(), down, right}};
+    const std::array vertices = {Vertex{rect.topRight(), -right, down}, Vertex{rect.bottomRight(), -down, -right},
+                                 Vertex{rect.bottomLeft(), right, -down}, Vertex{rect.topLeft(), down, right}};
     for (const Vertex &vertex : vertices) {
         const auto in = [&](QPointF p) { return vertex.at + p.x() * vertex.back + p.y() * vertex.onward; };
         const auto out = [&](QPointF p) { return vertex.at + p.y() * vertex.back + p.x() * vertex.onward; };

@@ -1,27 +1,13 @@
 #include "EBKitColor.h"
 
 #include "Platform.h"
+#include "Whitespace.h"
 
 namespace {
 
 QColor srgb(EBQuad quad)
 {
     return QColor::fromRgbF(quad.red, quad.green, quad.blue, quad.alpha);
-}
-
-/// Space separators and the tab; line ends are not trimmed.
-bool isWhitespace(QChar character)
-{
-    return character == u'\t' || character.category() == QChar::Separator_Space;
-}
-
-QStringView trimmed(QStringView text)
-{
-    while (!text.isEmpty() && isWhitespace(text.front()))
-        text = text.sliced(1);
-    while (!text.isEmpty() && isWhitespace(text.back()))
-        text.chop(1);
-    return text;
 }
 
 int digit(QChar character)
@@ -67,7 +53,7 @@ EBKitColor eb(EBQuad light, EBQuad dark)
 
 std::optional<QColor> hex(QStringView text)
 {
-    text = trimmed(text);
+    text = trimmedWhitespace(text);
     if (text.startsWith(u'#'))
         text = text.sliced(1);
     if (text.size() != 6)

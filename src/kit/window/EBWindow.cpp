@@ -1,6 +1,7 @@
 #include "EBWindow.h"
 
 #include "EBKit.h"
+#include "Motion.h"
 #include "Platform.h"
 #include "ViewEngine.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 /// How far down the strip reaches that moves the window, in points.
 constexpr int titleBarHeight = 28;
-constexpr int resizeDuration = 200; // milliseconds
+constexpr qreal resizeDuration = 0.2; // seconds
 
 }
 
@@ -21,7 +22,6 @@ EBWindow::EBWindow(QSize contentSize, Style style) : m_style(style)
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     resize(contentSize);
     fixSize();
-    m_resize.setDuration(resizeDuration);
     m_resize.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&m_resize, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &height) { resize(width(), height.toInt()); });
@@ -75,6 +75,7 @@ void EBWindow::setHeight(int height, bool animate)
     if (animate) {
         m_resize.setStartValue(this->height());
         m_resize.setEndValue(height);
+        m_resize.setDuration(Motion::duration(resizeDuration));
         m_resize.start();
         return;
     }

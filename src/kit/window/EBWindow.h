@@ -5,17 +5,16 @@
 #include <qqmlregistration.h>
 
 /// A window of the kit: frameless, of fixed size, with a transparent title bar over its content. The kit
-/// draws the close, miniaturise and zoom buttons at the top and moves the window by its title-bar strip.
+/// draws the close, miniaturise and zoom buttons at the top (zoom always disabled) and moves the window by its
+/// title-bar strip.
 class EBWindow : public QQuickWindow {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A window is made in C++, where its owner is")
     Q_PROPERTY(bool miniaturizeButtonEnabled READ miniaturizeButtonEnabled CONSTANT)
-    Q_PROPERTY(bool zoomButtonEnabled READ zoomButtonEnabled CONSTANT)
 public:
     struct Style {
         bool miniaturizeButtonEnabled = false;
-        bool zoomButtonEnabled = false;
         /// Any place that takes no clicks of its own moves the window, not only the title-bar strip.
         bool movableByWindowBackground = false;
     };
@@ -38,7 +37,6 @@ public:
     int targetHeight() const;
 
     bool miniaturizeButtonEnabled() const { return m_style.miniaturizeButtonEnabled; }
-    bool zoomButtonEnabled() const { return m_style.zoomButtonEnabled; }
 
     /// Shows the window in front of the others with the keyboard focus.
     void makeKeyAndOrderFront();

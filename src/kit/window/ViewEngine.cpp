@@ -11,6 +11,11 @@ ViewEngine::ViewEngine()
     connect(this, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
 }
 
+void ViewEngine::prefetch(const QUrl &url)
+{
+    new QQmlComponent(this, url, QQmlComponent::Asynchronous, this);
+}
+
 QQuickItem *ViewEngine::makeItem(QQmlEngine &engine, const QString &url, const QVariantMap &properties,
                                  const QMetaObject &type)
 {

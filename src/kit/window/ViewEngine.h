@@ -12,6 +12,9 @@ class ViewEngine : public QQmlEngine {
 public:
     ViewEngine();
 
+    /// Begins to load a view on the engine's own thread. Making it later waits only for what is then left to do.
+    void prefetch(const QUrl &url);
+
     /// A new view, which the caller owns. A view that cannot be made is a programming error and ends the
     /// process.
     template <typename View = QQuickItem>

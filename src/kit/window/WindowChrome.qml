@@ -8,6 +8,8 @@ Item {
     required property EBWindow window
 
     anchors.fill: parent
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     z: 1
 
     Shortcut {
@@ -41,7 +43,7 @@ Item {
         WindowButton {
             text: qsTr("Zoom")
             glyph: "plus"
-            enabled: chrome.window.zoomButtonEnabled
+            enabled: false
         }
     }
 }

@@ -15,6 +15,13 @@ T.TextField {
     /// The person pressed Return.
     signal committed(name: string)
 
+    /// A long name is read from its beginning.
+    function showName() {
+        text = name;
+        if (!activeFocus)
+            cursorPosition = 0;
+    }
+
     implicitHeight: 24
     leftPadding: 6
     rightPadding: 6
@@ -24,12 +31,14 @@ T.TextField {
     selectionColor: EBEnvironment.accent
     selectedTextColor: EBEnvironment.onAccent
     selectByMouse: true
-    text: name
     Accessible.name: label
     onAccepted: committed(text)
-    onActiveFocusChanged: if (!activeFocus)
-        text = Qt.binding(() => name)
-    Keys.onEscapePressed: text = Qt.binding(() => name)
+    onNameChanged: showName()
+    // A window that another one covers keeps what was typed.
+    onActiveFocusChanged: if (!activeFocus && Window.active)
+        showName()
+    Keys.onEscapePressed: showName()
+    Component.onCompleted: showName()
 
     background: ContinuousRectangle {
         radius: 6

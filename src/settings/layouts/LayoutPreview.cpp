@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -20,6 +21,14 @@ constexpr qreal smallestWithIcon = 16;
 double drawable(double fraction)
 {
     return std::clamp(fraction, -100.0, 100.0);
+}
+
+/// The rectangle with its edges on whole device pixels, so that a border of one point is not smeared over two.
+QRectF onPixels(const QPainter *painter, const QRectF &rect)
+{
+    const qreal scale = painter->device()->devicePixelRatio();
+    const auto snap = [scale](qreal edge) { return std::round(edge * scale) / scale; };
+    return QRectF(QPointF(snap(rect.left()), snap(rect.top())), QPointF(snap(rect.right()), snap(rect.bottom())));
 }
 
 }
@@ -75,12 +84,13 @@ void LayoutPreview::paint(QPainter *painter)
 
 void LayoutPreview::paintWindow(QPainter *painter, const SavedLayout::Window &window) const
 {
-    const QRectF shape = LayoutPreviews::shape(window.rect, size());
+    const QRectF shape = onPixels(painter, LayoutPreviews::shape(window.rect, size()));
     paintContinuousRect(painter, shape, windowRadius, m_windowColor, m_borderColor, 1);
     if (shape.width() < smallestWithIcon || shape.height() < smallestWithIcon)
         return;
     QRectF place(0, 0, iconSize, iconSize);
     place.moveCenter(shape.center());
+    place = onPixels(painter, place);
     // Without an icon this paints nothing.
     Platform::current().workspace().iconForApplication(window.bundleID).paint(painter, place.toRect());
 }

@@ -11,11 +11,13 @@ Column {
     required property int index
     required property string name
     required property var layout
+    /// An empty name says nothing, so the place in the list stands in for it.
+    readonly property string spokenName: name || qsTr("layout %1").arg(index + 1)
 
     /// The person gave the layout in row `index` another name.
     signal renamed(index: int, name: string)
-    /// The person asked for the layout in row `index` to be deleted, perhaps with the keyboard.
-    signal deleted(index: int, byKeyboard: bool)
+    /// The person asked for the layout in row `index` to be deleted, perhaps with the focus on the button.
+    signal deleted(index: int, hadFocus: bool)
 
     /// Gives the delete button the focus, as the keyboard would.
     function focusDelete() {
@@ -32,7 +34,7 @@ Column {
         width: parent.width
         height: preview.height + 2 * 8
         Accessible.role: Accessible.Grouping
-        Accessible.name: entry.name
+        Accessible.name: entry.spokenName
 
         LayoutPreview {
             id: preview
@@ -42,7 +44,8 @@ Column {
                 verticalCenter: parent.verticalCenter
             }
             width: 72
-            height: 45
+            // Inside the margins 66 x 36 are left, so that halves and thirds end on whole points.
+            height: 42
             layout: entry.layout
             color: EB.sunk
             windowColor: EB.surface
@@ -71,8 +74,8 @@ Column {
             }
             glyph: "close"
             size: 24
-            label: qsTr("Delete %1").arg(entry.name)
-            onClicked: entry.deleted(entry.index, visualFocus)
+            label: qsTr("Delete %1").arg(entry.spokenName)
+            onClicked: entry.deleted(entry.index, activeFocus)
         }
     }
 }

@@ -23,19 +23,19 @@ PaneStack {
     ]
 
     AppStorage {
-        id: enabled
+        id: storedEnabled
         key: Key.layoutsEnabled
     }
     AppStorage {
-        id: shelf
+        id: storedShelf
         key: Key.layoutsShelf
     }
     AppStorage {
-        id: gap
+        id: storedGap
         key: Key.layoutsGap
     }
     AppStorage {
-        id: launchApps
+        id: storedLaunchApps
         key: Key.layoutsLaunchApps
     }
 
@@ -43,43 +43,43 @@ PaneStack {
         EBSwitchRow {
             title: qsTr("Snap and arrange windows")
             detail: qsTr("In Mission Control: snap the window under the pointer, compose layouts and put them back.")
-            isOn: enabled.value
-            onFlipped: isOn => enabled.value = isOn
+            isOn: storedEnabled.value
+            onFlipped: isOn => storedEnabled.value = isOn
         }
         EBRule {
             inset: 16
         }
         EBSwitchRow {
-            enabled: enabled.value
+            enabled: storedEnabled.value
             title: qsTr("Layouts shelf")
             detail: qsTr("A Layouts handle at the bottom of Mission Control. Point at it to open your layouts and templates.")
-            isOn: shelf.value
-            onFlipped: isOn => shelf.value = isOn
+            isOn: storedShelf.value
+            onFlipped: isOn => storedShelf.value = isOn
         }
         EBRule {
             inset: 16
         }
         EBRow {
-            enabled: enabled.value
+            enabled: storedEnabled.value
             title: qsTr("Gaps")
             detail: qsTr("Space between arranged windows.")
 
             EBSegmented {
                 label: qsTr("Gaps")
                 options: pane.gaps
-                selection: gap.value
-                onSelected: value => gap.value = value
+                selection: storedGap.value
+                onSelected: value => storedGap.value = value
             }
         }
         EBRule {
             inset: 16
         }
         EBSwitchRow {
-            enabled: enabled.value
+            enabled: storedEnabled.value
             title: qsTr("Open apps that aren't running")
             detail: qsTr("When a saved layout is put back.")
-            isOn: launchApps.value
-            onFlipped: isOn => launchApps.value = isOn
+            isOn: storedLaunchApps.value
+            onFlipped: isOn => storedLaunchApps.value = isOn
         }
     }
     GroupLabel {

@@ -7,11 +7,14 @@ import Corvane.Settings.Layouts
 EBGroup {
     id: group
 
-    /// After a deletion the focus goes to the button that has moved into the place of the one pressed.
-    function deleteRow(row: int, byKeyboard: bool) {
+    /// After a deletion the focus goes to the button that has moved into the place of the one pressed, and from the last
+    /// one back to what stands above the list.
+    function deleteRow(row: int, hadFocus: bool) {
+        const above = rows.itemAt(0).nextItemInFocusChain(false);
         layouts.removeLayout(row);
-        if (byKeyboard && layouts.count > 0)
-            (rows.itemAt(Math.min(row, layouts.count - 1)) as LayoutRow).focusDelete();
+        const next = rows.itemAt(Math.min(row, layouts.count - 1)) as LayoutRow;
+        if (hadFocus)
+            next ? next.focusDelete() : above.forceActiveFocus(Qt.BacktabFocusReason);
     }
 
     EBRow {
@@ -27,7 +30,7 @@ EBGroup {
 
         LayoutRow {
             onRenamed: (index, name) => layouts.rename(index, name)
-            onDeleted: (index, byKeyboard) => group.deleteRow(index, byKeyboard)
+            onDeleted: (index, hadFocus) => group.deleteRow(index, hadFocus)
         }
     }
 }

@@ -1,21 +1,10 @@
 #include "EBSettingsPage.h"
 
+#include "Whitespace.h"
+
 #include <algorithm>
 
 namespace {
-
-/// Spaces and tabs; a line end is part of what was typed.
-bool isWhitespace(QChar character)
-{
-    return character == u'\t' || character.category() == QChar::Separator_Space;
-}
-
-QString queryOf(const QString &search)
-{
-    const auto first = std::find_if_not(search.begin(), search.end(), isWhitespace);
-    const auto last = std::find_if_not(search.rbegin(), std::reverse_iterator(first), isWhitespace).base();
-    return QString(first, last - first).toLower();
-}
 
 bool matches(const EBSettingsPage &page, const QString &query)
 {
@@ -27,7 +16,7 @@ bool matches(const EBSettingsPage &page, const QString &query)
 
 QList<EBSettingsPage> pagesMatching(const QList<EBSettingsPage> &pages, const QString &search)
 {
-    const QString query = queryOf(search);
+    const QString query = trimmedWhitespace(search).toString().toLower();
     if (query.isEmpty())
         return pages;
     QList<EBSettingsPage> shown;

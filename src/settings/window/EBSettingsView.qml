@@ -8,6 +8,8 @@ FocusScope {
     required property string version
     required property SidebarModel pages
     required property SettingsModel model
+    /// How high the window can become.
+    required property real roomHeight
 
     implicitWidth: 620
     implicitHeight: Math.max(sidebar.implicitHeight + 2 * 8, page.implicitHeight)
@@ -40,5 +42,6 @@ FocusScope {
             bottom: parent.bottom
         }
         model: view.model
+        roomHeight: view.roomHeight
     }
 }

@@ -7,7 +7,9 @@
 #include <memory>
 #include <optional>
 
+class MeasuredItem;
 class QQmlEngine;
+class ViewEngine;
 
 /// The settings window: of fixed width, as high as the page it shows.
 class EBSettingsWindowController : public QObject {
@@ -21,17 +23,23 @@ public:
                                const QList<EBSettingsPage> &pages, const std::optional<QString> &initial);
     ~EBSettingsWindowController() override;
 
+    /// Begins to load what a window on these pages starts with, while the caller makes ready the rest.
+    static void prefetch(ViewEngine &engine, const QList<EBSettingsPage> &pages, const std::optional<QString> &initial);
+
     void showWindow();
     EBWindow *window() const { return m_window.get(); }
     Model *model() const { return m_model; }
 
-    /// Resizes the window to a measured content: always 620 points wide, as high as reported, at most as high
-    /// as the screen, its top left corner kept. A height of 0 or less, or within half a point of the
-    /// window's, changes nothing.
+    /// Resizes the window to a measured content: always 620 points wide, as high as reported, at most down to the lower
+    /// edge of the screen, its top left corner kept. A height of 0 or less, or within half a point of the window's,
+    /// changes nothing.
     void fit(QSizeF size);
 
 private:
+    qreal room() const;
+
     Model *m_model;
     std::unique_ptr<EBWindow> m_window;
+    MeasuredItem *m_root = nullptr;
     bool m_sized = false;
 };

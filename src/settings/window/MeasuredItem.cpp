@@ -26,3 +26,11 @@ void MeasuredItem::setContentSize(QSizeF size)
     polish();
     emit contentSizeChanged();
 }
+
+void MeasuredItem::setRoomHeight(qreal height)
+{
+    if (m_roomHeight == height)
+        return;
+    m_roomHeight = height;
+    emit roomHeightChanged();
+}

@@ -3,23 +3,31 @@
 #include <QQuickItem>
 #include <qqmlregistration.h>
 
+#include <limits>
+
 /// A root view that tells how large its content wants to be. Whoever sizes the window listens.
 class MeasuredItem : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     /// Points.
     Q_PROPERTY(QSizeF contentSize READ contentSize WRITE setContentSize NOTIFY contentSizeChanged)
+    /// How high the window can become where it stands, in points. Content beyond it must scroll.
+    Q_PROPERTY(qreal roomHeight READ roomHeight WRITE setRoomHeight NOTIFY roomHeightChanged)
 public:
     using QQuickItem::QQuickItem;
 
     QSizeF contentSize() const { return m_contentSize; }
     void setContentSize(QSizeF size);
 
+    qreal roomHeight() const { return m_roomHeight; }
+    void setRoomHeight(qreal height);
+
     /// Lays everything out now instead of at the next frame, so that `contentSize` is true.
     void settle();
 
 signals:
     void contentSizeChanged();
+    void roomHeightChanged();
     /// The size has changed. Said once a frame, however often the layout moved in between.
     void measured(QSizeF size);
 
@@ -28,4 +36,5 @@ protected:
 
 private:
     QSizeF m_contentSize;
+    qreal m_roomHeight = std::numeric_limits<qreal>::infinity();
 };

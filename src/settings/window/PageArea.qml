@@ -4,52 +4,101 @@ import Embera.Tokens
 import Embera.Rows
 import Corvane.Settings.Window
 
-/// The heading and the content of the selected page. A page taller than the window scrolls, and follows the focus.
+/// The heading and the content of the selected page. A page for which the window has no room scrolls: by the wheel, the
+/// bar, a finger and the keyboard, never by dragging with the mouse. It follows the focus.
 Flickable {
     id: area
 
     required property SettingsModel model
+    /// How high the window can become.
+    required property real roomHeight
+    readonly property bool scrolls: implicitHeight > Math.ceil(roomHeight)
     readonly property Item focusItem: Window.activeFocusItem
 
+    function scrollTo(y: real) {
+        contentY = Math.max(0, Math.min(y, contentHeight - height));
+    }
+    /// Scrolls as little as it takes to show what lies between the two heights.
     function reveal(top: real, bottom: real) {
-        contentY = Math.max(Math.min(contentY, top), bottom - height);
+        scrollTo(Math.max(Math.min(contentY, top), bottom - height));
     }
 
     implicitHeight: page.y + page.implicitHeight + 16
     contentHeight: implicitHeight
-    interactive: contentHeight > height
-    boundsBehavior: Flickable.StopAtBounds
-    clip: interactive
-    onFocusItemChanged: if (interactive && loader.activeFocus)
+    interactive: false
+    clip: scrolls
+    onFocusItemChanged: if (scrolls && pane.activeFocus)
         reveal(focusItem.mapToItem(contentItem, 0, -18).y, focusItem.mapToItem(contentItem, 0, focusItem.height + 18).y)
 
     T.ScrollBar.vertical: T.ScrollBar {
         width: 10
         padding: 2
-        visible: area.interactive
+        visible: area.scrolls
+        interactive: true
         contentItem: Rectangle {
             radius: width / 2
             color: EB.lineStrong
         }
     }
+    Connections {
+        target: area.model
+
+        function onSelectionChanged() {
+            area.contentY = 0;
+        }
+    }
+    Shortcut {
+        enabled: area.scrolls
+        sequences: ["PgDown"]
+        onActivated: area.scrollTo(area.contentY + area.height - 60)
+    }
+    Shortcut {
+        enabled: area.scrolls
+        sequences: ["PgUp"]
+        onActivated: area.scrollTo(area.contentY - area.height + 60)
+    }
+    WheelHandler {
+        enabled: area.scrolls
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        // A notch of a wheel is 120 units, and scrolls 60 points.
+        onWheel: event => area.scrollTo(area.contentY - (event.pixelDelta.y || event.angleDelta.y / 2))
+    }
+    DragHandler {
+        property real start: 0
+
+        enabled: area.scrolls
+        acceptedDevices: PointerDevice.TouchScreen
+        target: null
+        onActiveChanged: start = area.contentY
+        onActiveTranslationChanged: area.scrollTo(start - activeTranslation.y)
+    }
 
     Column {
         id: page
-        x: 16
-        y: 18
-        width: area.width - 16 - 24
+        anchors {
+            left: parent.left
+            right: parent.right
+            top: parent.top
+            leftMargin: 16
+            rightMargin: 24
+            topMargin: 18
+        }
 
         EBLabel {
+            width: parent.width
             //: The line above a page's heading; %1 is the page's number.
             text: qsTr("Settings · %1").arg(String(area.model.number).padStart(2, "0"))
         }
         EBText {
+            width: parent.width
+            horizontalAlignment: Text.AlignLeft
             role: "title"
             text: area.model.title
             Accessible.role: Accessible.Heading
+            Accessible.name: text
         }
         FocusScope {
-            id: loader
+            id: pane
             width: parent.width
             implicitHeight: content.implicitHeight
 

@@ -12,6 +12,8 @@ MeasuredItem {
     required property SettingsModel model
 
     EBEnvironment.ebApp: app
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
     contentSize: Qt.size(view.implicitWidth, view.implicitHeight)
 
     EBSettingsView {
@@ -20,5 +22,6 @@ MeasuredItem {
         version: root.version
         pages: root.pages
         model: root.model
+        roomHeight: root.roomHeight
     }
 }

@@ -53,8 +53,8 @@ QString SidebarModel::neighbour(const QString &id, int step) const
 {
     if (m_shown.isEmpty())
         return id;
-    const auto found = std::find_if(m_shown.begin(), m_shown.end(),
-                                    [&](const EBSettingsPage &page) { return page.id == id; });
+    const auto found =
+        std::find_if(m_shown.begin(), m_shown.end(), [&](const EBSettingsPage &page) { return page.id == id; });
     const auto from = found == m_shown.end() ? -1 : found - m_shown.begin();
     return m_shown.at(std::clamp<qsizetype>(from + step, 0, m_shown.size() - 1)).id;
 }

@@ -56,8 +56,7 @@ Accessible Accessible::application(qint64 processId)
     const int count = atspi_accessible_get_child_count(root, Failure());
     for (int i = 0; i < count; ++i) {
         Accessible candidate(atspi_accessible_get_child_at_index(root, i, Failure()));
-        if (!candidate.m_object
-            || atspi_accessible_get_process_id(candidate.m_object.get(), Failure()) != processId)
+        if (!candidate.m_object || atspi_accessible_get_process_id(candidate.m_object.get(), Failure()) != processId)
             continue;
         atspi_accessible_set_cache_mask(candidate.m_object.get(), ATSPI_CACHE_NONE);
         return candidate;

@@ -8,7 +8,8 @@
 
 namespace {
 
-constexpr const char *configuration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+constexpr const char *configuration =
+    R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
@@ -47,8 +48,8 @@ bool BusDaemon::writeConfiguration(const QStringList &services) const
     bool complete = QDir().mkpath(folder);
     for (const QString &service : services) {
         const QString name = service + QStringLiteral(".service");
-        const QString installed = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
-                                                         QStringLiteral("dbus-1/services/") + name);
+        const QString installed =
+            QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("dbus-1/services/") + name);
         complete = complete && QFile::link(installed, folder + u'/' + name);
     }
     QFile file(m_folder.filePath(QStringLiteral("bus.conf")));

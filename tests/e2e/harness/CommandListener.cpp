@@ -9,8 +9,7 @@ const QString connectionName = QStringLiteral("command listener");
 }
 
 CommandListener::CommandListener(const Store &store)
-    : m_store(store),
-      m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName))
+    : m_store(store), m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName))
 {
     m_bus.connect(QString(), QStringLiteral("/com/vexmoor/corvane"), QStringLiteral("com.vexmoor.corvane"),
                   QStringLiteral("command"), QStringLiteral("a{sv}"), this, SLOT(receive(QVariantMap)));
@@ -32,9 +31,8 @@ void CommandListener::settle(qint64 processId)
     const QStringList names = m_bus.interface()->registeredServiceNames();
     for (const QString &name : names) {
         if (name.startsWith(u':') && m_bus.interface()->servicePid(name) == processId) {
-            m_bus.call(QDBusMessage::createMethodCall(name, QStringLiteral("/"),
-                                                      QStringLiteral("org.freedesktop.DBus.Peer"),
-                                                      QStringLiteral("Ping")));
+            m_bus.call(QDBusMessage::createMethodCall(
+                name, QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping")));
         }
     }
     QCoreApplication::processEvents();

@@ -4,14 +4,25 @@
 
 #include "Processes.h"
 
-
 namespace {
 
 /// Whatever of the machine's own desktop would change how a program looks or behaves.
 constexpr auto foreign = {
-    "AT_SPI_BUS_ADDRESS", "CV_STEP", "CV_TAB", "DCONF_PROFILE", "DESKTOP_SESSION",
-    "QSG_RHI_BACKEND", "QT_ENABLE_HIGHDPI_SCALING", "QT_FONT_DPI", "QT_LOGGING_RULES", "QT_MESSAGE_PATTERN",
-    "QT_QPA_PLATFORMTHEME", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "WAYLAND_DISPLAY",
+    "AT_SPI_BUS_ADDRESS",
+    "CV_STEP",
+    "CV_TAB",
+    "DCONF_PROFILE",
+    "DESKTOP_SESSION",
+    "QSG_RHI_BACKEND",
+    "QT_ENABLE_HIGHDPI_SCALING",
+    "QT_FONT_DPI",
+    "QT_LOGGING_RULES",
+    "QT_MESSAGE_PATTERN",
+    "QT_QPA_PLATFORMTHEME",
+    "QT_QUICK_BACKEND",
+    "QT_SCALE_FACTOR",
+    "QT_SCREEN_SCALE_FACTORS",
+    "WAYLAND_DISPLAY",
     "XDG_SESSION_TYPE",
 };
 
@@ -26,8 +37,7 @@ void surviveTheBus()
 
 }
 
-Desktop::Desktop() :
-    m_x(m_display.name())
+Desktop::Desktop() : m_x(m_display.name())
 {
     Processes::adoptOrphans();
     for (const char *name : foreign)

@@ -20,11 +20,7 @@ bool isShown(const Accessible &root, const QString &text)
 }
 
 EndToEndTest::Session::Session(std::unique_ptr<Desktop> of)
-    : desktop(std::move(of)),
-      commands(store),
-      screen(desktop->x()),
-      pointer(desktop->x()),
-      keyboard(desktop->x())
+    : desktop(std::move(of)), commands(store), screen(desktop->x()), pointer(desktop->x()), keyboard(desktop->x())
 {
 }
 

@@ -18,8 +18,8 @@
 
 /// Defines `variable` as the element with that role and name, and fails the test when it does not appear in
 /// time.
-#define FIND(variable, role, name)                                                                           \
-    const Accessible variable = find(role, QStringLiteral(name));                                            \
+#define FIND(variable, role, name)                                                                                     \
+    const Accessible variable = find(role, QStringLiteral(name));                                                      \
     QVERIFY2(variable, "no " #role " \"" name "\"")
 
 /// What every test of the running program has: a desktop session for all its functions, and for each function

@@ -39,16 +39,6 @@ void Keyboard::press(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers) con
     m_x.synchronise();
 }
 
-void Keyboard::hold(xcb_keysym_t key, int repeats) const
-{
-    Q_ASSERT_X(m_keys.contains(key), "Keyboard", "the keyboard lacks this key");
-    // A press of a key that is down already is what a repetition looks like.
-    for (int i = 0; i <= repeats; ++i)
-        send(true, m_keys[key].code);
-    send(false, m_keys[key].code);
-    m_x.synchronise();
-}
-
 void Keyboard::type(const QString &text) const
 {
     // The key symbols of Latin-1 characters are their code points.
@@ -58,6 +48,5 @@ void Keyboard::type(const QString &text) const
 
 void Keyboard::send(bool down, xcb_keycode_t code) const
 {
-    xcb_test_fake_input(m_x, down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0,
-                        0);
+    xcb_test_fake_input(m_x, down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
 }

@@ -17,9 +17,6 @@ public:
     /// mistake in the test.
     void press(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers = {}) const;
 
-    /// Holds `key` down until it has repeated itself `repeats` times, and lets go.
-    void hold(xcb_keysym_t key, int repeats) const;
-
     /// Types a text of Latin letters, digits, signs and spaces.
     void type(const QString &text) const;
 

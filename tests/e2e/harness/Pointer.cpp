@@ -6,8 +6,7 @@
 
 void Pointer::move(QPoint to) const
 {
-    xcb_test_fake_input(m_x, XCB_MOTION_NOTIFY, false, XCB_CURRENT_TIME, m_x.root(), qint16(to.x()),
-                        qint16(to.y()), 0);
+    xcb_test_fake_input(m_x, XCB_MOTION_NOTIFY, false, XCB_CURRENT_TIME, m_x.root(), qint16(to.x()), qint16(to.y()), 0);
     m_x.synchronise();
 }
 
@@ -40,7 +39,7 @@ void Pointer::drag(QPoint from, QPoint to) const
 
 void Pointer::button(bool down) const
 {
-    xcb_test_fake_input(m_x, down ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1,
-                        XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    xcb_test_fake_input(m_x, down ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1, XCB_CURRENT_TIME,
+                        XCB_NONE, 0, 0, 0);
     m_x.synchronise();
 }

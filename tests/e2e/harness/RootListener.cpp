@@ -4,8 +4,7 @@
 
 #include <QTest>
 
-RootListener::RootListener(const QByteArray &display) :
-    m_x(display)
+RootListener::RootListener(const QByteArray &display) : m_x(display)
 {
     // Some requests are sent under the one name and some under the other.
     const quint32 mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;

@@ -49,10 +49,7 @@ void put(DConfClient *client, const QByteArray &path, GVariant *value)
 
 }
 
-Store::Store() :
-    m_client(dconf_client_new(), g_object_unref)
-{
-}
+Store::Store() : m_client(dconf_client_new(), g_object_unref) { }
 
 QVariant Store::read(const QString &key) const
 {

@@ -22,8 +22,7 @@ QList<TopLevel> TopLevel::ofProcess(const XConnection &x, qint64 processId)
 
 QRect TopLevel::geometry() const
 {
-    const XReply<xcb_get_geometry_reply_t> reply(
-        xcb_get_geometry_reply(*m_x, xcb_get_geometry(*m_x, m_id), nullptr));
+    const XReply<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(*m_x, xcb_get_geometry(*m_x, m_id), nullptr));
     return reply ? QRect(reply->x, reply->y, reply->width, reply->height) : QRect();
 }
 

@@ -9,9 +9,8 @@ VirtualDisplay::VirtualDisplay(QSize size)
     const QString screen = QStringLiteral("%1x%2x24").arg(size.width()).arg(size.height());
     // The server picks a free number itself and writes it once it listens.
     m_server.start(QStringLiteral("Xvfb"),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), screen, QStringLiteral("-nolisten"), QStringLiteral("tcp"),
-                    QStringLiteral("-noreset")});
+                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+                    screen, QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
     if (const QByteArray number = ChildProcess::firstLine(m_server); !number.isEmpty())
         m_name = ":" + number;
 }

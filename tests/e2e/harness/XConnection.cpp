@@ -34,8 +34,7 @@ QByteArray XConnection::property(xcb_window_t window, xcb_atom_t name) const
     const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, request, nullptr));
     if (!reply)
         return {};
-    return {static_cast<const char *>(xcb_get_property_value(reply.get())),
-            xcb_get_property_value_length(reply.get())};
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get())};
 }
 
 quint32 XConnection::number(xcb_window_t window, xcb_atom_t name) const
@@ -50,6 +49,5 @@ quint32 XConnection::number(xcb_window_t window, xcb_atom_t name) const
 void XConnection::synchronise() const
 {
     const auto request = xcb_get_input_focus(m_connection);
-    const XReply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(m_connection, request, nullptr));
+    const XReply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(m_connection, request, nullptr));
 }

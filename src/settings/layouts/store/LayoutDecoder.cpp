@@ -4,9 +4,12 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <span>
+#include <string_view>
+#include <utility>
 
 namespace {
 
@@ -95,7 +98,8 @@ public:
 
     QList<SavedLayout> layouts;
 
-    bool null() { return m_canBeNull; }
+    /// The same as no value at all, which a required field does not get away with at the end of its object.
+    bool null() { return m_field != Field::none; }
     bool boolean(bool) { return m_field == Field::ignored; }
     // The parser has no minus zero among the whole numbers, but nothing else comes as a signed zero.
     bool number_integer(Number value) { return number(value == 0 ? -0.0 : static_cast<double>(value)); }
@@ -116,13 +120,13 @@ private:
     bool number(double value);
     template <typename Value> bool take(Value &field, const Value &value);
     bool enter(Place place);
+    bool goTo(Place place);
     bool leave();
     void fillIn();
 
     Place m_place = Place::text;
     /// The field whose value comes next; `none` inside an array.
     Field m_field = Field::none;
-    bool m_canBeNull = false;
     /// The fields whose keys were read, and those of them that had a value.
     Fields m_seen = 0;
     Fields m_given = 0;
@@ -192,31 +196,30 @@ bool LayoutReader::key(const std::string &text)
     const auto key = std::ranges::find(keys, std::string_view(text), &Key::text);
     const bool isNew = key != keys.end() && (m_seen & only(key->field)) == 0;
     m_field = isNew ? key->field : Field::ignored;
-    m_canBeNull = !isNew || !key->isRequired;
     m_seen |= only(m_field);
     return true;
 }
 
-/// Goes into an array or object, and back out of one with leave().
+bool LayoutReader::goTo(Place place)
+{
+    m_place = place;
+    m_field = Field::none;
+    return true;
+}
+
 bool LayoutReader::enter(Place place)
 {
     m_given |= only(m_field);
-    m_place = place;
-    m_field = Field::none;
-    m_canBeNull = false;
     for (const Key &key : keysOf(place)) {
         m_seen &= ~only(key.field);
         m_given &= ~only(key.field);
     }
-    return true;
+    return goTo(place);
 }
 
 bool LayoutReader::leave()
 {
-    m_place = static_cast<Place>(static_cast<int>(m_place) - 1);
-    m_field = Field::none;
-    m_canBeNull = false;
-    return true;
+    return goTo(static_cast<Place>(static_cast<int>(m_place) - 1));
 }
 
 bool LayoutReader::start_object(std::size_t)
@@ -227,14 +230,10 @@ bool LayoutReader::start_object(std::size_t)
         ++m_ignoredDepth;
         return true;
     }
-    if (m_place == Place::list) {
-        m_layout = {};
+    if (m_place == Place::list)
         return enter(Place::layout);
-    }
-    if (m_place == Place::windows) {
-        m_window = {};
+    if (m_place == Place::windows)
         return enter(Place::window);
-    }
     return m_field == Field::rect && enter(Place::rect);
 }
 
@@ -263,10 +262,10 @@ bool LayoutReader::end_object()
             return false;
     }
     if (m_place == Place::window)
-        m_layout.windows.append(std::move(m_window));
+        m_layout.windows.append(std::exchange(m_window, {}));
     if (m_place == Place::layout) {
         fillIn();
-        layouts.append(std::move(m_layout));
+        layouts.append(std::exchange(m_layout, {}));
     }
     return leave();
 }

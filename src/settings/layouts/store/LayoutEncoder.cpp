@@ -1,5 +1,6 @@
 #include "LayoutCoder.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 

@@ -4,6 +4,8 @@
 #include "Shared.h"
 #include "UserDefaults.h"
 
+#include <algorithm>
+
 namespace {
 
 void replace(const QList<SavedLayout> &layouts, UserDefaults &store)

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <future>
+
+/// What a start can get done while the program still connects to the display.
+namespace HeadStart {
+
+/// Reads the desktop's font configuration and loads the libraries behind the modules that every view imports, on
+/// a thread of its own. Nothing may ask for a font before the result is there.
+[[nodiscard]] std::future<void> begin();
+
+}

@@ -1,0 +1,52 @@
+#include <glib.h>
+
+#include "DesktopEntry.h"
+
+#include <memory>
+
+namespace {
+
+using KeyFile = std::unique_ptr<GKeyFile, decltype(&g_key_file_unref)>;
+
+/// The file read; null when it is no desktop entry.
+KeyFile read(const QString &path)
+{
+    KeyFile file(g_key_file_new(), g_key_file_unref);
+    const bool isRead = g_key_file_load_from_file(file.get(), path.toLocal8Bit().constData(), G_KEY_FILE_NONE, nullptr);
+    if (!isRead || !g_key_file_has_group(file.get(), G_KEY_FILE_DESKTOP_GROUP))
+        file.reset();
+    return file;
+}
+
+}
+
+DesktopEntry::DesktopEntry(const QString &path) : m_path(path), m_isValid(read(path) != nullptr) { }
+
+QString DesktopEntry::text(const QString &key) const
+{
+    const KeyFile file = read(m_path);
+    if (!file)
+        return {};
+    char *found = g_key_file_get_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key.toUtf8().constData(), nullptr);
+    const QString text = QString::fromUtf8(found);
+    g_free(found);
+    return text;
+}
+
+QStringList DesktopEntry::command() const
+{
+    char **words = nullptr;
+    if (!g_shell_parse_argv(text(QStringLiteral("Exec")).toUtf8().constData(), nullptr, &words, nullptr))
+        return {};
+    QStringList command;
+    for (char **word = words; *word; ++word)
+        command.append(QString::fromUtf8(*word).replace(QStringLiteral("%%"), QStringLiteral("%")));
+    g_strfreev(words);
+    return command;
+}
+
+bool DesktopEntry::isHidden() const
+{
+    const KeyFile file = read(m_path);
+    return file && g_key_file_get_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP, "Hidden", nullptr);
+}

@@ -1,0 +1,391 @@
+#include "FakeUserDefaults.h"
+#include "LayoutStore.h"
+#include "Sample.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <functional>
+
+namespace {
+
+const QString key = QStringLiteral("layouts.saved");
+
+/// A suite that counts what is written to it, and in which an agent may write between a read and the next write.
+class WatchedStore : public FakeUserDefaults {
+public:
+    int writes = 0;
+    std::function<void()> afterRead;
+
+    explicit WatchedStore(const QVariant &saved = {})
+    {
+        if (saved.isValid())
+            values.insert(key, saved);
+    }
+
+    QString saved() const { return values.value(key).toString(); }
+
+    QVariant value(const QString &name) const override
+    {
+        QVariant value = FakeUserDefaults::value(name);
+        if (afterRead)
+            afterRead();
+        return value;
+    }
+
+    void setValue(const QString &name, const QVariant &value) override
+    {
+        ++writes;
+        FakeUserDefaults::setValue(name, value);
+    }
+};
+
+SavedLayout named(const QUuid &id, const QString &name)
+{
+    SavedLayout layout = Sample::layout();
+    layout.id = id;
+    layout.name = name;
+    return layout;
+}
+
+const SavedLayout a = named(Sample::id, QStringLiteral("a"));
+const SavedLayout b = named(Sample::otherId, QStringLiteral("b"));
+const SavedLayout c = named(Sample::id, QStringLiteral("c"));
+
+QString textOf(const QList<SavedLayout> &layouts)
+{
+    return LayoutStore::encode(layouts).value();
+}
+
+/// Values no list of layouts can be read from.
+void unreadableValues()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::newRow("empty text") << QVariant(QString());
+    QTest::newRow("malformed") << QVariant(QStringLiteral("[{\"windows\":[]}"));
+    QTest::newRow("no list") << QVariant(QStringLiteral("{}"));
+    QTest::newRow("no windows") << QVariant(QStringLiteral(R"([ {"name":"Work"} ])"));
+    QTest::newRow("a window without its fields") << QVariant(QStringLiteral(R"([{"windows":[{}]}])"));
+    QTest::newRow("a rectangle without x") << QVariant(QString(Sample::text).remove(QStringLiteral(R"("x":0,)")));
+    QTest::newRow("wrong type") << QVariant(QStringLiteral(R"([{"name":7,"windows":[]}])"));
+    QTest::newRow("huge number") << QVariant(QStringLiteral(R"([{"created":1e999,"windows":[]}])"));
+    QTest::newRow("half a surrogate pair") << QVariant(QStringLiteral(R"([{"name":"\ud800","windows":[]}])"));
+    QTest::newRow("nesting bomb") << QVariant(QString(100'000, u'['));
+}
+
+}
+
+class LayoutStoreTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+
+    void anAbsentValueIsAnEmptyListAndNothingIsWritten();
+    void anotherTypeIsAnEmptyListAndNothingIsWritten_data();
+    void anotherTypeIsAnEmptyListAndNothingIsWritten();
+    void anEmptyListIsNotRewritten();
+    void aListInItsOneFormIsNotRewritten();
+    void anyOtherFormIsRewrittenOnce_data();
+    void anyOtherFormIsRewrittenOnce();
+    void aLayoutWithoutIdNameAndDateGetsThemForGood();
+    void anUnreadableListStaysAsItWas_data() { unreadableValues(); }
+    void anUnreadableListStaysAsItWas();
+    void encodeGivesTheStoredText();
+
+    void removingDeletesEveryLayoutOfThatId();
+    void removingKeepsTheOrder();
+    void removingAnUnknownIdStillWrites();
+    void removingTheLastLayoutStoresAnEmptyList();
+    void removingFromAnAbsentValueStoresAnEmptyList();
+    void removingFromAnUnreadableListStoresAnEmptyOne_data() { unreadableValues(); }
+    void removingFromAnUnreadableListStoresAnEmptyOne();
+
+    void renamingChangesOnlyTheFirstLayoutOfThatId();
+    void aNameIsStoredAsGiven_data();
+    void aNameIsStoredAsGiven();
+    void renamingAnUnknownIdWritesNothing();
+    void renamingInAnUnreadableListWritesNothing_data() { unreadableValues(); }
+    void renamingInAnUnreadableListWritesNothing();
+    void aNameWithoutATextIsNotStored();
+
+    void renamingAndRemovingSettleWhatTheAgentLeftOut();
+    void renamingOverwritesWhatTheAgentAddedMeanwhile();
+    void removingOverwritesWhatTheAgentAddedMeanwhile();
+    void theAgentOverwritesARename();
+    void tenThousandLayoutsWithAMegabyteOfNameAreRenamedAndRemoved();
+    void noOtherKeyIsTouched();
+};
+
+void LayoutStoreTest::anAbsentValueIsAnEmptyListAndNothingIsWritten()
+{
+    WatchedStore store;
+    QVERIFY(LayoutStore::load(store).isEmpty());
+    QCOMPARE(store.writes, 0);
+    QVERIFY(store.values.isEmpty());
+}
+
+void LayoutStoreTest::anotherTypeIsAnEmptyListAndNothingIsWritten_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::newRow("Boolean") << QVariant(true);
+    QTest::newRow("number") << QVariant(1.0);
+    QTest::newRow("binary data") << QVariant(Sample::text.toUtf8());
+    QTest::newRow("list") << QVariant(QStringList{Sample::text});
+}
+
+void LayoutStoreTest::anotherTypeIsAnEmptyListAndNothingIsWritten()
+{
+    QFETCH(QVariant, stored);
+    WatchedStore store(stored);
+    QVERIFY(LayoutStore::load(store).isEmpty());
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(store.values.value(key), stored);
+}
+
+void LayoutStoreTest::anEmptyListIsNotRewritten()
+{
+    WatchedStore store(QStringLiteral("[]"));
+    QVERIFY(LayoutStore::load(store).isEmpty());
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(store.saved(), QStringLiteral("[]"));
+}
+
+void LayoutStoreTest::aListInItsOneFormIsNotRewritten()
+{
+    WatchedStore store(Sample::text);
+    QCOMPARE(LayoutStore::load(store), QList{Sample::layout()});
+    QCOMPARE(store.writes, 0);
+}
+
+void LayoutStoreTest::anyOtherFormIsRewrittenOnce_data()
+{
+    QTest::addColumn<QString>("stored");
+    const auto changed = [](const char *from, const char *to) {
+        return QString(Sample::text).replace(QLatin1StringView(from), QLatin1StringView(to));
+    };
+    QTest::newRow("white space") << u' ' + Sample::text;
+    QTest::newRow("byte-order mark") << QChar(QChar::ByteOrderMark) + Sample::text;
+    QTest::newRow("small letters in the id") << changed("3F2504E0-4F89", "3f2504e0-4f89");
+    QTest::newRow("unknown key") << changed("[{", "[{\"colour\":\"red\",");
+    QTest::newRow("unsorted keys") << changed(R"("h":0.75,"w":0.5)", R"("w":0.5,"h":0.75)");
+    QTest::newRow("whole number with a fraction") << changed(R"("x":0,)", R"("x":0.0,)");
+    QTest::newRow("long number") << changed("0.75", "0.7500");
+    QTest::newRow("escaped letter") << changed("Work", R"(W\u006frk)");
+    QTest::newRow("key twice") << changed(R"("name":"Work")", R"("name":"Work","name":"Play")");
+}
+
+void LayoutStoreTest::anyOtherFormIsRewrittenOnce()
+{
+    QFETCH(QString, stored);
+    QVERIFY(stored != Sample::text);
+    WatchedStore store(stored);
+    QCOMPARE(LayoutStore::load(store), QList{Sample::layout()});
+    QCOMPARE(store.writes, 1);
+    QCOMPARE(store.values.value(key).typeId(), int(QMetaType::QString));
+    QCOMPARE(store.saved(), Sample::text);
+    QCOMPARE(LayoutStore::load(store), QList{Sample::layout()});
+    QCOMPARE(store.writes, 1);
+}
+
+void LayoutStoreTest::aLayoutWithoutIdNameAndDateGetsThemForGood()
+{
+    WatchedStore store(QStringLiteral(R"([{"windows":[]},{"windows":[],"name":null}])"));
+    const QList<SavedLayout> first = LayoutStore::load(store);
+    QCOMPARE(first.size(), 2);
+    QCOMPARE(first.constFirst().name, QStringLiteral("Layout"));
+    QCOMPARE(store.writes, 1);
+    QCOMPARE(store.saved(), textOf(first));
+    QCOMPARE(LayoutStore::load(store), first);
+    QCOMPARE(LayoutStore::load(store), first);
+    QCOMPARE(store.writes, 1);
+}
+
+void LayoutStoreTest::anUnreadableListStaysAsItWas()
+{
+    QFETCH(QVariant, stored);
+    WatchedStore store(stored);
+    QVERIFY(LayoutStore::load(store).isEmpty());
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(store.values.value(key), stored);
+}
+
+void LayoutStoreTest::encodeGivesTheStoredText()
+{
+    QCOMPARE(LayoutStore::encode({Sample::layout()}), std::optional(Sample::text));
+    SavedLayout endless = Sample::layout();
+    endless.created = qInf();
+    QVERIFY(!LayoutStore::encode({endless}));
+}
+
+void LayoutStoreTest::removingDeletesEveryLayoutOfThatId()
+{
+    WatchedStore store(textOf({a, b, c}));
+    QCOMPARE(LayoutStore::remove(Sample::id, store), QList{b});
+    QCOMPARE(store.saved(), textOf({b}));
+    QCOMPARE(store.writes, 1);
+}
+
+void LayoutStoreTest::removingKeepsTheOrder()
+{
+    const SavedLayout d = named(QUuid::createUuid(), QStringLiteral("d"));
+    WatchedStore store(textOf({d, b, a, d}));
+    QCOMPARE(LayoutStore::remove(Sample::otherId, store), (QList{d, a, d}));
+    QCOMPARE(store.saved(), textOf({d, a, d}));
+}
+
+void LayoutStoreTest::removingAnUnknownIdStillWrites()
+{
+    WatchedStore store(textOf({a}));
+    QCOMPARE(LayoutStore::remove(Sample::otherId, store), QList{a});
+    QCOMPARE(store.writes, 1);
+    QCOMPARE(store.saved(), textOf({a}));
+}
+
+void LayoutStoreTest::removingTheLastLayoutStoresAnEmptyList()
+{
+    WatchedStore store(textOf({a}));
+    QVERIFY(LayoutStore::remove(Sample::id, store).isEmpty());
+    QCOMPARE(store.saved(), QStringLiteral("[]"));
+}
+
+void LayoutStoreTest::removingFromAnAbsentValueStoresAnEmptyList()
+{
+    WatchedStore store;
+    QVERIFY(LayoutStore::remove(Sample::id, store).isEmpty());
+    QCOMPARE(store.saved(), QStringLiteral("[]"));
+}
+
+void LayoutStoreTest::removingFromAnUnreadableListStoresAnEmptyOne()
+{
+    QFETCH(QVariant, stored);
+    WatchedStore store(stored);
+    QVERIFY(LayoutStore::remove(Sample::id, store).isEmpty());
+    QCOMPARE(store.saved(), QStringLiteral("[]"));
+}
+
+void LayoutStoreTest::renamingChangesOnlyTheFirstLayoutOfThatId()
+{
+    WatchedStore store(textOf({b, a, c}));
+    const QList<SavedLayout> expected = {b, named(Sample::id, QStringLiteral("new")), c};
+    QCOMPARE(LayoutStore::rename(Sample::id, QStringLiteral("new"), store), expected);
+    QCOMPARE(store.saved(), textOf(expected));
+    QCOMPARE(store.writes, 1);
+}
+
+void LayoutStoreTest::aNameIsStoredAsGiven_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("spaces") << QStringLiteral("  two  words \t");
+    QTest::newRow("line ends") << QStringLiteral("a\nb\r\n");
+    QTest::newRow("JSON") << QStringLiteral(R"("},{"windows":[])");
+    QTest::newRow("NUL") << QStringLiteral("a") + QChar(u'\0') + u'b';
+    QTest::newRow("other scripts") << QStringLiteral("\ufeffé e\u0301 🦊 / \\ \u2028");
+}
+
+void LayoutStoreTest::aNameIsStoredAsGiven()
+{
+    QFETCH(QString, name);
+    WatchedStore store(textOf({a}));
+    QCOMPARE(LayoutStore::rename(Sample::id, name, store), QList{named(Sample::id, name)});
+    QCOMPARE(store.writes, 1);
+    QCOMPARE(LayoutStore::load(store), QList{named(Sample::id, name)});
+    QCOMPARE(store.writes, 1);
+}
+
+void LayoutStoreTest::renamingAnUnknownIdWritesNothing()
+{
+    WatchedStore store(textOf({a}));
+    QCOMPARE(LayoutStore::rename(Sample::otherId, QStringLiteral("new"), store), QList{a});
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(store.saved(), textOf({a}));
+    WatchedStore empty;
+    QVERIFY(LayoutStore::rename(Sample::otherId, QStringLiteral("new"), empty).isEmpty());
+    QCOMPARE(empty.writes, 0);
+}
+
+void LayoutStoreTest::renamingInAnUnreadableListWritesNothing()
+{
+    QFETCH(QVariant, stored);
+    WatchedStore store(stored);
+    QVERIFY(LayoutStore::rename(Sample::id, QStringLiteral("new"), store).isEmpty());
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(store.values.value(key), stored);
+}
+
+void LayoutStoreTest::aNameWithoutATextIsNotStored()
+{
+    WatchedStore store(textOf({a}));
+    const QString half = QStringLiteral("a") + QChar(u'\xd800');
+    QCOMPARE(LayoutStore::rename(Sample::id, half, store), QList{named(Sample::id, half)});
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(LayoutStore::load(store), QList{a});
+}
+
+void LayoutStoreTest::renamingAndRemovingSettleWhatTheAgentLeftOut()
+{
+    const QString unsettled = QStringLiteral(R"([{"windows":[]}])");
+    WatchedStore store(unsettled);
+    const QList<SavedLayout> renamed = LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
+    QCOMPARE(renamed.size(), 1);
+    QCOMPARE(store.saved(), textOf(renamed));
+    store.values.insert(key, unsettled);
+    const QList<SavedLayout> left = LayoutStore::remove(Sample::id, store);
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(store.saved(), textOf(left));
+    QCOMPARE(LayoutStore::load(store), left);
+}
+
+void LayoutStoreTest::renamingOverwritesWhatTheAgentAddedMeanwhile()
+{
+    WatchedStore store(textOf({a}));
+    store.afterRead = [&store] { store.values.insert(key, textOf({a, b})); };
+    const QList<SavedLayout> expected = {named(Sample::id, QStringLiteral("new"))};
+    QCOMPARE(LayoutStore::rename(Sample::id, QStringLiteral("new"), store), expected);
+    QCOMPARE(store.saved(), textOf(expected));
+}
+
+void LayoutStoreTest::removingOverwritesWhatTheAgentAddedMeanwhile()
+{
+    WatchedStore store(textOf({a}));
+    store.afterRead = [&store] { store.values.insert(key, textOf({a, b})); };
+    QVERIFY(LayoutStore::remove(Sample::id, store).isEmpty());
+    QCOMPARE(store.saved(), QStringLiteral("[]"));
+}
+
+void LayoutStoreTest::theAgentOverwritesARename()
+{
+    WatchedStore store(textOf({a}));
+    LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
+    store.values.insert(key, textOf({a, b}));
+    QCOMPARE(LayoutStore::load(store), (QList{a, b}));
+    QCOMPARE(LayoutStore::rename(Sample::otherId, QStringLiteral("new"), store),
+             (QList{a, named(Sample::otherId, QStringLiteral("new"))}));
+}
+
+void LayoutStoreTest::tenThousandLayoutsWithAMegabyteOfNameAreRenamedAndRemoved()
+{
+    QList<SavedLayout> layouts(9'999, a);
+    layouts.append(b);
+    WatchedStore store(textOf(layouts));
+    const QString name(1'000'000, u'é');
+    layouts.last().name = name;
+    QCOMPARE(LayoutStore::rename(Sample::otherId, name, store), layouts);
+    QCOMPARE(LayoutStore::load(store), layouts);
+    QCOMPARE(LayoutStore::remove(Sample::id, store), QList{layouts.constLast()});
+    QCOMPARE(store.saved(), textOf({layouts.constLast()}));
+}
+
+void LayoutStoreTest::noOtherKeyIsTouched()
+{
+    WatchedStore store(QString(u' ' + textOf({a})));
+    store.values.insert(QStringLiteral("layouts.gap"), 6.0);
+    LayoutStore::load(store);
+    LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
+    LayoutStore::remove(Sample::id, store);
+    QCOMPARE(store.values, (QVariantMap{{key, QStringLiteral("[]")}, {QStringLiteral("layouts.gap"), 6.0}}));
+}
+
+QTEST_GUILESS_MAIN(LayoutStoreTest)
+#include "tst_layoutstore.moc"

@@ -1,0 +1,370 @@
+#include "ContinuousRectangle.h"
+#include "DemoButton.h"
+#include "EBEnvironment.h"
+#include "EBKit.h"
+#include "OverlayView.h"
+
+#include <QFont>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+/// Who shows the tiles: notes what is chosen and, if told, hands it back as a page does.
+class Caller : public QObject {
+    Q_OBJECT
+public:
+    QStringList chosen;
+    QQuickItem *tiles = nullptr;
+    bool follows = false;
+
+public slots:
+    void take(const QString &themeRaw)
+    {
+        chosen.append(themeRaw);
+        if (follows)
+            tiles->setProperty("themeRaw", themeRaw);
+    }
+};
+
+class ThemeTilesTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { m_view.reset(); }
+    void tilesShareTheWidth_data();
+    void tilesShareTheWidth();
+    void everyTileShowsItsThreeButtonsOnAStrip_data();
+    void everyTileShowsItsThreeButtonsOnAStrip();
+    void theChosenTileHasARingADotAndAStrongTitle();
+    void inTheCompactFormTheChosenTileHasNoDot();
+    void theDotHasTheColorOfTheProduct();
+    void anUnknownThemeMarksNoTile();
+    void aClickAnywhereOnATileChoosesItsTheme();
+    void choosingTheMarkedTileSaysSoToo();
+    void arrowKeysMoveTheChoiceAndStopAtTheEnds();
+    void arrowKeysFollowTheLayoutDirection();
+    void spaceAndReturnChooseTheFocusedTile();
+    void tabStopsOnceAtTheMarkedTile();
+    void withoutAMarkedTileTabStopsAtTheFirst();
+    void theFocusOfTheKeyboardShowsAsARing();
+    void everyTileIsOneButtonThatCanBeSelected();
+    void theDefaultActionChooses();
+
+private:
+    void show(const QVariantMap &properties = {}, qreal width = 354);
+    /// The tiles in order.
+    QList<QQuickItem *> tiles() const;
+    QQuickItem *tile(int place) const { return tiles().at(place); }
+    /// The strip behind the buttons of a tile.
+    ContinuousRectangle *strip(int place);
+    /// The dots there are to see.
+    QList<ContinuousRectangle *> dots();
+    void click(QQuickItem *item, QPointF at);
+    void key(Qt::Key key) { QTest::keyClick(&m_view->window(), key); }
+    int focused() const { return int(tiles().indexOf(m_view->window().activeFocusItem())); }
+
+    std::unique_ptr<OverlayView> m_view;
+    std::unique_ptr<Caller> m_caller;
+};
+
+void ThemeTilesTest::initTestCase()
+{
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QAccessible::setActive(true);
+}
+
+void ThemeTilesTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(".*"));
+    m_caller = std::make_unique<Caller>();
+}
+
+void ThemeTilesTest::show(const QVariantMap &properties, qreal width)
+{
+    m_view.reset();
+    QVariantMap shown = {{"themeRaw", "classic"}};
+    shown.insert(properties);
+    m_view = std::make_unique<OverlayView>("ThemeTiles", shown, width);
+    m_caller->tiles = &m_view->root();
+    connect(&m_view->root(), SIGNAL(chosen(QString)), m_caller.get(), SLOT(take(QString)));
+}
+
+QList<QQuickItem *> ThemeTilesTest::tiles() const
+{
+    QList<QQuickItem *> found;
+    for (QQuickItem *child : m_view->root().childItems()) {
+        if (child->property("isChosen").isValid())
+            found.append(child);
+    }
+    return found;
+}
+
+ContinuousRectangle *ThemeTilesTest::strip(int place)
+{
+    for (auto *shape : m_view->all<ContinuousRectangle>()) {
+        if (shape->radius() == 10 && tile(place)->isAncestorOf(shape))
+            return shape;
+    }
+    return nullptr;
+}
+
+QList<ContinuousRectangle *> ThemeTilesTest::dots()
+{
+    QList<ContinuousRectangle *> found;
+    for (auto *shape : m_view->all<ContinuousRectangle>()) {
+        if (shape->width() == 5)
+            found.append(shape);
+    }
+    return found;
+}
+
+void ThemeTilesTest::click(QQuickItem *item, QPointF at)
+{
+    QTest::mouseClick(&m_view->window(), Qt::LeftButton, {}, item->mapToScene(at).toPoint());
+}
+
+void ThemeTilesTest::tilesShareTheWidth_data()
+{
+    QTest::addColumn<bool>("compact");
+    QTest::addColumn<qreal>("spacing");
+    QTest::newRow("full") << false << 8.0;
+    QTest::newRow("compact") << true << 6.0;
+}
+
+void ThemeTilesTest::tilesShareTheWidth()
+{
+    QFETCH(const bool, compact);
+    QFETCH(const qreal, spacing);
+    show({{"compact", compact}});
+    QCOMPARE(tiles().size(), 5);
+    const qreal width = (354 - 4 * spacing) / 5;
+    for (int place = 0; place < 5; ++place) {
+        QVERIFY(std::abs(tile(place)->width() - width) < 1e-6);
+        QVERIFY(std::abs(tile(place)->x() - place * (width + spacing)) < 1e-6);
+    }
+}
+
+void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip_data()
+{
+    QTest::addColumn<bool>("compact");
+    QTest::addColumn<qreal>("diameter");
+    QTest::newRow("full") << false << 14.0;
+    QTest::newRow("compact") << true << 12.0;
+}
+
+void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
+{
+    QFETCH(const bool, compact);
+    QFETCH(const qreal, diameter);
+    show({{"compact", compact}});
+    const QStringList themes = {"classic", "soft", "graphite", "mono", "outline"};
+    const QStringList titles = {"Classic", "Soft", "Graphite", "Mono", "No color"};
+    for (int place = 0; place < 5; ++place) {
+        QVERIFY(strip(place));
+        const QRectF ground = m_view->rectOf(strip(place));
+        QCOMPARE(ground.width(), tile(place)->width());
+        QCOMPARE(ground.height(), 34.0);
+        QCOMPARE(strip(place)->color(), EBKit::chip().current());
+
+        QList<DemoButton *> buttons;
+        for (DemoButton *button : m_view->all<DemoButton>()) {
+            if (tile(place)->isAncestorOf(button))
+                buttons.append(button);
+        }
+        QCOMPARE(buttons.size(), 3);
+        const QStringList kinds = {buttons.at(0)->kind(), buttons.at(1)->kind(), buttons.at(2)->kind()};
+        QCOMPARE(kinds, QStringList({"close", "minimize", "maximize"}));
+        for (int button = 0; button < 3; ++button) {
+            QCOMPARE(buttons.at(button)->size(), diameter);
+            QCOMPARE(buttons.at(button)->theme(), themes.at(place));
+            QVERIFY(!buttons.at(button)->dim());
+            QCOMPARE(buttons.at(button)->x() - buttons.at(0)->x(), button * (diameter + 3));
+        }
+        const QPointF middle = m_view->rectOf(buttons.at(1)).center() - ground.center();
+        QVERIFY(std::abs(middle.x()) <= 0.5 && std::abs(middle.y()) <= 0.5);
+
+        QQuickItem *title = m_view->textItem(titles.at(place));
+        QVERIFY(title && tile(place)->isAncestorOf(title));
+        QCOMPARE(m_view->rectOf(title).top(), ground.bottom() + 6);
+        QCOMPARE(title->property("font").value<QFont>().pixelSize(), 11);
+        QCOMPARE(title->property("lineCount").toInt(), 1);
+    }
+}
+
+void ThemeTilesTest::theChosenTileHasARingADotAndAStrongTitle()
+{
+    show({{"themeRaw", "soft"}});
+    for (int place = 0; place < 5; ++place) {
+        const bool chosen = place == 1;
+        QCOMPARE(strip(place)->strokeWidth(), chosen ? 1.5 : 0.0);
+        QCOMPARE(tile(place)->property("isChosen").toBool(), chosen);
+    }
+    QCOMPARE(strip(1)->strokeColor(), EBKit::ink().current());
+    QVERIFY(isNear(m_view->pixel(strip(1), {30, 0}), EBKit::ink().current()));
+    QVERIFY(isNear(m_view->pixel(strip(0), {30, 0}), over(EBKit::chip().current(), EBKit::paper().current())));
+
+    QQuickItem *title = m_view->textItem("Soft");
+    QCOMPARE(title->property("font").value<QFont>().weight(), QFont::DemiBold);
+    QVERIFY(isNear(title->property("color").value<QColor>(), EBKit::ink().current()));
+    QQuickItem *other = m_view->textItem("Mono");
+    QCOMPARE(other->property("font").value<QFont>().weight(), QFont::Normal);
+    QVERIFY(isNear(other->property("color").value<QColor>(), EBKit::inkMuted().current()));
+
+    QCOMPARE(dots().size(), 1);
+    const QRectF dot = m_view->rectOf(dots().constFirst());
+    QCOMPARE(dot.size(), QSizeF(5, 5));
+    QVERIFY(std::abs(m_view->rectOf(title).left() - dot.right() - 4) < 1e-6);
+
+    m_view->root().setProperty("themeRaw", "mono");
+    QCOMPARE(strip(1)->strokeWidth(), 0.0);
+    QCOMPARE(strip(3)->strokeWidth(), 1.5);
+}
+
+void ThemeTilesTest::inTheCompactFormTheChosenTileHasNoDot()
+{
+    show({{"compact", true}});
+    QVERIFY(dots().isEmpty());
+    QCOMPARE(strip(0)->strokeWidth(), 1.5);
+    QCOMPARE(m_view->textItem("Classic")->property("font").value<QFont>().weight(), QFont::DemiBold);
+}
+
+void ThemeTilesTest::theDotHasTheColorOfTheProduct()
+{
+    show();
+    QCOMPARE(dots().constFirst()->color(), EBKit::indigo().current());
+    EBEnvironment::of(&m_view->root())->setEbApp(EBApp::quiller);
+    QCOMPARE(dots().constFirst()->color(), EBKit::coral().current());
+    EBEnvironment::of(&m_view->root())->setEbApp(EBApp::parcelo);
+    QCOMPARE(dots().constFirst()->color(), EBKit::teal().current());
+}
+
+void ThemeTilesTest::anUnknownThemeMarksNoTile()
+{
+    show({{"themeRaw", "neon"}});
+    for (QQuickItem *found : tiles())
+        QVERIFY(!found->property("isChosen").toBool());
+    QVERIFY(dots().isEmpty());
+}
+
+void ThemeTilesTest::aClickAnywhereOnATileChoosesItsTheme()
+{
+    show();
+    const QStringList themes = {"classic", "soft", "graphite", "mono", "outline"};
+    for (int place = 4; place >= 0; --place) {
+        const QSizeF size = tile(place)->size();
+        click(tile(place), {1, 1});
+        click(tile(place), {size.width() - 2, size.height() - 2});
+        QCOMPARE(m_caller->chosen, QStringList({themes.at(place), themes.at(place)}));
+        m_caller->chosen.clear();
+    }
+    // It shows what its caller says, and the caller has said nothing.
+    QVERIFY(tile(0)->property("isChosen").toBool());
+}
+
+void ThemeTilesTest::choosingTheMarkedTileSaysSoToo()
+{
+    show();
+    click(tile(0), {20, 20});
+    QCOMPARE(m_caller->chosen, QStringList("classic"));
+}
+
+void ThemeTilesTest::arrowKeysMoveTheChoiceAndStopAtTheEnds()
+{
+    show({{"themeRaw", "mono"}});
+    m_caller->follows = true;
+    tile(3)->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Right);
+    QCOMPARE(focused(), 4);
+    key(Qt::Key_Right);
+    key(Qt::Key_Left);
+    key(Qt::Key_Up);
+    key(Qt::Key_Down);
+    key(Qt::Key_Home);
+    key(Qt::Key_Left);
+    QCOMPARE(focused(), 0);
+    key(Qt::Key_End);
+    QCOMPARE(m_caller->chosen, QStringList({"outline", "mono", "graphite", "mono", "classic", "outline"}));
+    QCOMPARE(focused(), 4);
+}
+
+void ThemeTilesTest::arrowKeysFollowTheLayoutDirection()
+{
+    show({{"themeRaw", "graphite"}});
+    m_caller->follows = true;
+    m_view->mirror();
+    m_view->picture();
+    QVERIFY(tile(0)->x() > tile(4)->x());
+    tile(2)->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Right);
+    QCOMPARE(m_caller->chosen, QStringList("soft"));
+}
+
+void ThemeTilesTest::spaceAndReturnChooseTheFocusedTile()
+{
+    show({{"themeRaw", "neon"}});
+    tile(0)->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    key(Qt::Key_Return);
+    key(Qt::Key_Enter);
+    QCOMPARE(m_caller->chosen, QStringList({"classic", "classic", "classic"}));
+}
+
+void ThemeTilesTest::tabStopsOnceAtTheMarkedTile()
+{
+    show({{"themeRaw", "mono"}});
+    int stops = 0;
+    for (QQuickItem *found : tiles())
+        stops += found->activeFocusOnTab() ? 1 : 0;
+    QCOMPARE(stops, 1);
+    key(Qt::Key_Tab);
+    QCOMPARE(focused(), 3);
+    m_view->root().setProperty("themeRaw", "soft");
+    QCOMPARE(focused(), 3);
+}
+
+void ThemeTilesTest::withoutAMarkedTileTabStopsAtTheFirst()
+{
+    show({{"themeRaw", "neon"}});
+    key(Qt::Key_Tab);
+    QCOMPARE(focused(), 0);
+}
+
+void ThemeTilesTest::theFocusOfTheKeyboardShowsAsARing()
+{
+    show();
+    const QPointF above(30, -3);
+    QVERIFY(isNear(m_view->pixel(strip(0), above), EBKit::paper().current()));
+    key(Qt::Key_Tab);
+    QVERIFY(isNear(m_view->pixel(strip(0), above), EBKit::indigo().current()));
+    click(tile(1), {20, 20});
+    QCOMPARE(focused(), 1);
+    QVERIFY(isNear(m_view->pixel(strip(1), above), EBKit::paper().current()));
+}
+
+void ThemeTilesTest::everyTileIsOneButtonThatCanBeSelected()
+{
+    show({{"themeRaw", "graphite"}});
+    const QStringList names = {"Classic look", "Soft look", "Graphite look", "Mono look", "No color look"};
+    for (int place = 0; place < 5; ++place) {
+        const auto *element = QAccessible::queryAccessibleInterface(tile(place));
+        QVERIFY(element);
+        QCOMPARE(element->text(QAccessible::Name), names.at(place));
+        QCOMPARE(element->role(), QAccessible::Button);
+        QVERIFY(element->state().selectable);
+        QCOMPARE(bool(element->state().selected), place == 2);
+        QCOMPARE(element->childCount(), 0);
+    }
+}
+
+void ThemeTilesTest::theDefaultActionChooses()
+{
+    show();
+    auto *element = QAccessible::queryAccessibleInterface(tile(4));
+    QVERIFY(element->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    element->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(m_caller->chosen, QStringList("outline"));
+}
+
+QTEST_MAIN(ThemeTilesTest)
+#include "tst_themetiles.moc"
