@@ -27,8 +27,10 @@ QString DesktopEntry::text(const QString &key) const
     const KeyFile file = read(m_path);
     if (!file)
         return {};
-    char *found = g_key_file_get_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key.toUtf8().constData(), nullptr);
-    const QString text = QString::fromUtf8(found);
+    GError *error = nullptr;
+    char *found = g_key_file_get_string(file.get(), G_KEY_FILE_DESKTOP_GROUP, key.toUtf8().constData(), &error);
+    const QString text = error ? QString() : QString::fromUtf8(found);
+    g_clear_error(&error);
     g_free(found);
     return text;
 }

@@ -3,6 +3,7 @@
 #include "EBEnvironment.h"
 #include "EBKit.h"
 
+#include <QCoreApplication>
 #include <QQmlProperty>
 #include <QTest>
 
@@ -78,6 +79,7 @@ void AnimationClock::start()
 void AnimationClock::advance(int milliseconds)
 {
     // What has just been started joins in a few events later.
+    QCoreApplication::processEvents();
     QTRY_VERIFY(isRunning());
     m_elapsed += milliseconds;
     advanceAnimation();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Accessibility.h"
+#include "EBKitColor.h"
 #include "EBKitFonts.h"
 #include "EBSettingsWindowController.h"
 #include "FakePlatform.h"
@@ -67,6 +68,13 @@ public:
 
     /// Where the letters of a text item are in the window, in points.
     static QRectF letters(const QQuickItem *text) { return text->mapRectToScene(text->boundingRect()); }
+
+    /// The colour an item is set to, in the form in which messages show it.
+    static QString color(const QQuickItem *item)
+    {
+        return item->property("color").value<QColor>().name(QColor::HexArgb);
+    }
+    static QString color(const EBKitColor &token) { return token.current().name(QColor::HexArgb); }
 
     /// The first item of a class in `item`, itself included; null when there is none.
     static QQuickItem *inside(QQuickItem *item, const char *className)

@@ -56,8 +56,10 @@ private slots:
     void theWindowIsAsHighAsTheScreenAndShowsTheTopOfThePage();
     void theWheelScrolls();
     void theWheelStopsAtBothEnds();
-    void theKeysScroll();
+    void thePageKeysScroll();
+    void theHomeAndEndKeysGoToTheEnds();
     void theFocusIsFollowed();
+    void losingTheFocusMovesNothing();
     void anotherPageBeginsAtItsTop();
     void aPageThatFitsDoesNotScroll();
 };
@@ -99,7 +101,7 @@ void TestTallPage::theWheelStopsAtBothEnds()
     QVERIFY(qAbs(settings.window().height() - 16 - last.bottom()) <= 1);
 }
 
-void TestTallPage::theKeysScroll()
+void TestTallPage::thePageKeysScroll()
 {
     TallWindow settings;
     QTest::keyClick(&settings.window(), Qt::Key_PageDown);
@@ -111,6 +113,11 @@ void TestTallPage::theKeysScroll()
     QTRY_COMPARE(settings.position(), qMin(2 * page, settings.end()));
     QTest::keyClick(&settings.window(), Qt::Key_PageUp);
     QTRY_VERIFY(settings.position() < 2 * page);
+}
+
+void TestTallPage::theHomeAndEndKeysGoToTheEnds()
+{
+    TallWindow settings;
     QTest::keyClick(&settings.window(), Qt::Key_End);
     QTRY_COMPARE(settings.position(), settings.end());
     QTest::keyClick(&settings.window(), Qt::Key_Home);
@@ -130,6 +137,20 @@ void TestTallPage::theFocusIsFollowed()
     QTest::keyClick(&settings.window(), Qt::Key_Backtab, Qt::ShiftModifier);
     QVERIFY(first->hasActiveFocus());
     QTRY_VERIFY(settings.isOnScreen(first));
+}
+
+void TestTallPage::losingTheFocusMovesNothing()
+{
+    TallWindow settings;
+    settings.item("Last", QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(settings.position() > 0);
+    const qreal before = settings.position();
+    QWindow other;
+    other.show();
+    other.requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    settings.waitForFrame();
+    QCOMPARE(settings.position(), before);
 }
 
 void TestTallPage::anotherPageBeginsAtItsTop()

@@ -28,6 +28,7 @@ T.CheckBox {
     checkState: isOn ? Qt.Checked : Qt.Unchecked
     nextCheckState: flip
     Accessible.name: text
+    Accessible.checked: isOn
     Keys.onReturnPressed: event => event.isAutoRepeat || control.flip()
     Keys.onEnterPressed: event => event.isAutoRepeat || control.flip()
 }

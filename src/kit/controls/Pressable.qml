@@ -11,6 +11,9 @@ T.AbstractButton {
     }
 
     Accessible.name: text
+    // What nobody sees must take no key.
+    onVisibleChanged: if (!visible)
+        focus = false
     Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()
     Keys.onEnterPressed: event => event.isAutoRepeat || control.clicked()
 }

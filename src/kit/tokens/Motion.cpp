@@ -41,6 +41,13 @@ struct Oscillator {
                 frequency * frequency / spread * (slow - fast) / 2};
     }
 
+    // How fast the slower part of the motion dies down, per second.
+    qreal decay() const
+    {
+        const qreal overdamping = damping > 1 ? std::sqrt(damping * damping - 1) : 0;
+        return frequency * (damping - overdamping);
+    }
+
     // When the largest distance that can still occur falls below a thousandth.
     qreal settling() const
     {
@@ -54,22 +61,31 @@ struct Oscillator {
     }
 };
 
-// A cubic through both ends with the right slopes follows the oscillator to a ten-thousandth over 0.6
-// radians.
+// An easing curve of Qt has room for ten pieces; with more it writes beyond its memory.
+constexpr int pieces = 10;
+
+// The moments where the pieces meet: they grow longer as the motion dies down.
+qreal joint(const Oscillator &oscillator, int number, qreal seconds)
+{
+    const qreal rate = oscillator.decay() / 4;
+    return -std::log(1 - qreal(number) / pieces * (1 - std::exp(-rate * seconds))) / rate;
+}
+
+// Cubics through the joints with the right slopes there, which follow the oscillator to half a hundredth.
 QEasingCurve sampled(const Oscillator &oscillator, qreal seconds)
 {
-    const int pieces = std::max(4, int(std::ceil(oscillator.frequency * seconds / 0.6)));
-    const qreal step = 1.0 / pieces;
     QEasingCurve curve(QEasingCurve::BezierSpline);
+    qreal start = 0;
     Oscillator::State from = oscillator.at(0);
     for (int piece = 1; piece <= pieces; ++piece) {
         const bool last = piece == pieces;
-        const Oscillator::State to = last ? Oscillator::State{1, 0} : oscillator.at(piece * step * seconds);
-        const qreal third = step * seconds / 3;
-        const qreal start = (piece - 1) * step;
-        curve.addCubicBezierSegment(QPointF(start + step / 3, from.position + from.velocity * third),
-                                    QPointF(start + 2 * step / 3, to.position - to.velocity * third),
-                                    QPointF(last ? 1 : piece * step, to.position));
+        const qreal end = last ? seconds : joint(oscillator, piece, seconds);
+        const Oscillator::State to = last ? Oscillator::State{1, 0} : oscillator.at(end);
+        const qreal third = (end - start) / 3;
+        curve.addCubicBezierSegment(QPointF((start + third) / seconds, from.position + from.velocity * third),
+                                    QPointF((end - third) / seconds, to.position - to.velocity * third),
+                                    QPointF(last ? 1 : end / seconds, to.position));
+        start = end;
         from = to;
     }
     return curve;
@@ -95,7 +111,7 @@ MotionSpring Motion::spring(qreal response, qreal dampingFraction)
 {
     if (!(response > 0) || !std::isfinite(response) || std::isnan(dampingFraction))
         return {};
-    const Oscillator oscillator{2 * std::numbers::pi / response, std::clamp(dampingFraction, 0.05, 4.0)};
+    const Oscillator oscillator{2 * std::numbers::pi / response, std::clamp(dampingFraction, 0.3, 1.3)};
     const qreal seconds = oscillator.settling();
     return {sampled(oscillator, seconds), seconds};
 }

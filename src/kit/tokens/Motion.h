@@ -34,6 +34,6 @@ public:
 
     /// A damped oscillator let go at 0 and pulled to 1. `response` is the period of its undamped swing in
     /// seconds; a `dampingFraction` of 1 comes to rest without overshooting, less overshoots, more creeps.
-    /// Without a positive response the spring is already at rest; damping is held between 0.05 and 4.
+    /// Without a positive response the spring is already at rest; damping is held between 0.3 and 1.3.
     Q_INVOKABLE static MotionSpring spring(qreal response, qreal dampingFraction);
 };

@@ -108,6 +108,8 @@ void PortalAppearance::listen()
     auto bus = SessionBus::connection();
     if (!bus)
         return;
+    // Qt refuses a slot whose types it has not met yet.
+    qRegisterMetaType<QDBusVariant>();
     bus->connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
                  SLOT(settingChanged(QString, QString, QDBusVariant)));
     bus->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),

@@ -2,13 +2,13 @@
 
 #include "Appearance.h"
 
+#include <QDBusVariant>
 #include <QHash>
 #include <QVariant>
 
 #include <memory>
 
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 /// The appearance that the desktop's settings portal tells, and where it says nothing, the lightness of the
 /// palette.

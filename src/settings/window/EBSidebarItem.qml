@@ -17,7 +17,7 @@ Pressable {
     implicitHeight: 30
     leftPadding: 10
     rightPadding: 10
-    focusPolicy: tabStop ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: tabStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     text: title
     Accessible.selectable: true
     Accessible.selected: selected
