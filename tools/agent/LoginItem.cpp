@@ -1,5 +1,7 @@
 #include "LoginItem.h"
 
+#include "DesktopEntry.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -17,16 +19,9 @@ QString quoted(QString argument)
 {
     for (const QChar special : QStringLiteral("\\\"`$"))
         argument.replace(special, QStringLiteral("\\") + special);
-    return QStringLiteral("\"%1\"").arg(argument.replace(u'%', QStringLiteral("%%")));
-}
-
-/// Whether a line of a desktop entry keeps it from being started.
-bool isOff(const QByteArray &line)
-{
-    const auto equals = line.indexOf('=');
-    const QByteArray key = line.left(equals).trimmed();
-    const QByteArray value = line.mid(equals + 1).trimmed();
-    return (key == "Hidden" && value == "true") || (key == "X-GNOME-Autostart-enabled" && value == "false");
+    const QString text = QStringLiteral("\"%1\"").arg(argument.replace(u'%', QStringLiteral("%%")));
+    // The file's own escapes are undone before those of the quotes.
+    return QString(text).replace(u'\\', QStringLiteral("\\\\"));
 }
 
 }
@@ -45,13 +40,12 @@ LoginItem::LoginItem(const QString &executable, bool needsApproval, QObject *par
 
 LoginItem::State LoginItem::state() const
 {
-    QFile entry(m_path);
-    if (!entry.open(QIODevice::ReadOnly))
+    if (!QFile::exists(m_path))
         return State::NotRegistered;
-    while (!entry.atEnd()) {
-        if (isOff(entry.readLine()))
-            return State::NeedsApproval;
-    }
+    const bool isHidden = DesktopEntry::value(m_path, QStringLiteral("Hidden")) == QLatin1String("true");
+    const QString enabled = DesktopEntry::value(m_path, QStringLiteral("X-GNOME-Autostart-enabled"));
+    if (isHidden || enabled == QLatin1String("false"))
+        return State::NeedsApproval;
     return State::Enabled;
 }
 
@@ -60,6 +54,7 @@ void LoginItem::setRegistered(bool registered)
     if (!registered) {
         QFile::remove(m_path);
     } else if (state() == State::NotRegistered) {
+        QDir().mkpath(autostartFolder());
         QSaveFile entry(m_path);
         if (!entry.open(QIODevice::WriteOnly))
             return;

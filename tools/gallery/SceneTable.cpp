@@ -33,7 +33,10 @@ constexpr Row rows[] = {
     {SceneKind::screen, "settings-general-approval", "SettingsGeneralApprovalScene", "gear"},
     {SceneKind::screen, "settings-general-trusted", "SettingsGeneralTrustedScene", "gear"},
     {SceneKind::screen, "settings-general-mirrored", "SettingsGeneralMirroredScene", "gear"},
+    {SceneKind::screen, "settings-buttons", "SettingsButtonsScene", "wins"},
     {SceneKind::screen, "settings-shortcuts", "SettingsShortcutsScene", "cmd"},
+    {SceneKind::screen, "settings-layouts", "SettingsLayoutsScene", "apps"},
+    {SceneKind::screen, "settings-layouts-saved", "SettingsLayoutsSavedScene", "apps"},
     {SceneKind::screen, "settings-search", "SettingsSearchScene", "search"},
 };
 

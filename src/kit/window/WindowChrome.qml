@@ -8,10 +8,15 @@ Item {
     required property EBWindow window
 
     anchors.fill: parent
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
     z: 1
 
+    Binding {
+        when: Qt.application.layoutDirection === Qt.RightToLeft
+        target: chrome.LayoutMirroring
+        property: "enabled"
+        value: true
+    }
     Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: chrome.window.close()

@@ -1,9 +1,10 @@
 #include "FreedesktopWorkspace.h"
 
+#include "DesktopEntry.h"
+
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -46,26 +47,22 @@ bool openAutostartPage(const QString &desktop)
     return false;
 }
 
-/// What the desktop entry of that name says its icon is; empty when there is no such entry or it names none.
-QString iconName(const QString &desktopEntry)
+/// What the installed application's desktop entry says its icon is; empty when there is none.
+QString iconName(const QString &application)
 {
     // The identifier comes from a list that others write, and a path in it would lead out of the folders.
-    if (desktopEntry.isEmpty() || desktopEntry.contains(u'/'))
+    if (application.isEmpty() || application.contains(u'/'))
         return {};
-    const QString path =
-        QStandardPaths::locate(QStandardPaths::ApplicationsLocation, desktopEntry + QStringLiteral(".desktop"));
-    QFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return {};
-    bool isInEntry = false;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine().trimmed();
-        if (line.startsWith('['))
-            isInEntry = line == "[Desktop Entry]";
-        else if (isInEntry && line.startsWith("Icon="))
-            return QString::fromUtf8(line.mid(5).trimmed());
-    }
-    return {};
+    const QString entry = application + QStringLiteral(".desktop");
+    return DesktopEntry::value(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry),
+                               QStringLiteral("Icon"));
+}
+
+/// A null icon where the file is missing or no picture.
+QIcon iconInFile(const QString &path)
+{
+    const QIcon icon(path);
+    return icon.pixmap(16).isNull() ? QIcon() : icon;
 }
 
 }
@@ -93,7 +90,7 @@ QIcon FreedesktopWorkspace::iconForApplication(const QString &bundleIdentifier)
     if (known != m_icons.constEnd())
         return *known;
     const QString name = iconName(bundleIdentifier);
-    const QIcon icon = QDir::isAbsolutePath(name) ? QIcon(name) : QIcon::fromTheme(name);
+    const QIcon icon = QDir::isAbsolutePath(name) ? iconInFile(name) : QIcon::fromTheme(name);
     m_icons.insert(bundleIdentifier, icon);
     return icon;
 }

@@ -14,6 +14,7 @@ FocusScope {
     implicitWidth: 620
     implicitHeight: Math.max(sidebar.implicitHeight + 2 * 8, page.implicitHeight)
     focus: true
+    Keys.onPressed: event => event.accepted = page.scrollByKey(event.key)
 
     Shortcut {
         sequences: ["Ctrl+F"]

@@ -18,6 +18,20 @@ Flickable {
     function scrollTo(y: real) {
         contentY = Math.max(0, Math.min(y, contentHeight - height));
     }
+    /// Scrolls where the key says; false when it says nothing, or there is nothing to scroll.
+    function scrollByKey(key: int) : bool {
+        const page = height - 60;
+        const places = {
+            [Qt.Key_PageUp]: contentY - page,
+            [Qt.Key_PageDown]: contentY + page,
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: contentHeight
+        };
+        if (!scrolls || places[key] === undefined)
+            return false;
+        scrollTo(places[key]);
+        return true;
+    }
     /// Scrolls as little as it takes to show what lies between the two heights.
     function reveal(top: real, bottom: real) {
         scrollTo(Math.max(Math.min(contentY, top), bottom - height));
@@ -27,7 +41,7 @@ Flickable {
     contentHeight: implicitHeight
     interactive: false
     clip: scrolls
-    onFocusItemChanged: if (scrolls && pane.activeFocus)
+    onFocusItemChanged: if (scrolls && focusItem && pane.activeFocus)
         reveal(focusItem.mapToItem(contentItem, 0, -18).y, focusItem.mapToItem(contentItem, 0, focusItem.height + 18).y)
 
     T.ScrollBar.vertical: T.ScrollBar {
@@ -46,16 +60,6 @@ Flickable {
         function onSelectionChanged() {
             area.contentY = 0;
         }
-    }
-    Shortcut {
-        enabled: area.scrolls
-        sequences: ["PgDown"]
-        onActivated: area.scrollTo(area.contentY + area.height - 60)
-    }
-    Shortcut {
-        enabled: area.scrolls
-        sequences: ["PgUp"]
-        onActivated: area.scrollTo(area.contentY - area.height + 60)
     }
     WheelHandler {
         enabled: area.scrolls

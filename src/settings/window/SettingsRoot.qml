@@ -12,8 +12,14 @@ MeasuredItem {
     required property SettingsModel model
 
     EBEnvironment.ebApp: app
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
+
+    Binding {
+        when: Qt.application.layoutDirection === Qt.RightToLeft
+        target: root.LayoutMirroring
+        property: "enabled"
+        value: true
+    }
     contentSize: Qt.size(view.implicitWidth, view.implicitHeight)
 
     EBSettingsView {
