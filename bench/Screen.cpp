@@ -51,8 +51,7 @@ void Screen::waitUntilEmpty()
 {
     Reply<xcb_query_tree_reply_t> windows;
     do {
-        windows.reset(
-            xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, m_screen->root), nullptr));
+        windows.reset(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, m_screen->root), nullptr));
     } while (windows && windows->children_len > 0);
     xcb_clear_area(m_connection, 0, m_screen->root, 0, 0, 0, 0);
 }
@@ -73,8 +72,8 @@ bool Screen::awaitDamage(Clock::time_point deadline)
 
 std::optional<QRgb> Screen::pixel(int x, int y) const
 {
-    const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root,
-                                      std::int16_t(x), std::int16_t(y), 1, 1, ~0u);
+    const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, std::int16_t(x),
+                                      std::int16_t(y), 1, 1, ~0u);
     const Reply<xcb_get_image_reply_t> image(xcb_get_image_reply(m_connection, cookie, nullptr));
     if (!image)
         return std::nullopt;

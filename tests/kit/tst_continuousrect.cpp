@@ -200,15 +200,13 @@ private slots:
         QFETCH(qreal, radius);
         const auto outline = pieces(continuousRect(rect, radius));
         // Three in each corner, joined by the sides.
-        QCOMPARE(
-            std::count_if(outline.begin(), outline.end(), [](const Piece &piece) { return !piece.straight; }),
-            12);
+        QCOMPARE(std::count_if(outline.begin(), outline.end(), [](const Piece &piece) { return !piece.straight; }), 12);
         for (std::size_t i = 0; i < outline.size(); ++i) {
             const Piece &here = outline[i];
             const Piece &next = outline[(i + 1) % outline.size()];
-            QVERIFY(std::abs(std::remainder(heading(next.velocity(0)) - heading(here.velocity(1)),
-                                            2 * std::numbers::pi))
-                    < 1e-6);
+            QVERIFY(
+                std::abs(std::remainder(heading(next.velocity(0)) - heading(here.velocity(1)), 2 * std::numbers::pi))
+                < 1e-6);
             // A cubic quarter circle is itself off by two per cent at its ends; a circular corner jumps by
             // all of it.
             QVERIFY(std::abs(next.curvature(0) - here.curvature(1)) * radius < 0.03);

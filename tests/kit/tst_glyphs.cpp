@@ -14,10 +14,9 @@
 namespace {
 
 const QStringList namesInOrder =
-    QStringLiteral(
-        "apps arrow buds call check chevrons clock close cmd cursor dock dots download eye flag gear "
-        "globe head info key levels mic minus mute note play playpause plus power refresh search "
-        "share sliders spark speaker terminal undo volume warning wifi wins")
+    QStringLiteral("apps arrow buds call check chevrons clock close cmd cursor dock dots download eye flag gear "
+                   "globe head info key levels mic minus mute note play playpause plus power refresh search "
+                   "share sliders spark speaker terminal undo volume warning wifi wins")
         .split(u' ');
 
 // The glyphs that are drawn with rounded rectangles.
@@ -255,8 +254,7 @@ private slots:
         const auto parts = subpaths(path(GlyphName::download));
         QVERIFY(std::any_of(parts.begin(), parts.end(), [](const QPainterPath &part) {
             const QRectF bounds = part.boundingRect();
-            return bounds.top() == 19.5 && bounds.bottom() == 19.5 && bounds.left() < 12
-                && bounds.right() > 12;
+            return bounds.top() == 19.5 && bounds.bottom() == 19.5 && bounds.left() < 12 && bounds.right() > 12;
         }));
     }
 
@@ -367,14 +365,11 @@ private slots:
         QTest::addColumn<QRectF>("rect");
         QTest::addColumn<QString>("minus");
         QTest::newRow("the grid itself") << QRectF(0, 0, 24, 24) << QStringLiteral("M 5.5,12 L 18.5,12");
-        QTest::newRow("wide: 12 from the left")
-            << QRectF(0, 0, 48, 24) << QStringLiteral("M 17.5,12 L 30.5,12");
-        QTest::newRow("tall: 12 from the top")
-            << QRectF(0, 0, 24, 48) << QStringLiteral("M 5.5,24 L 18.5,24");
+        QTest::newRow("wide: 12 from the left") << QRectF(0, 0, 48, 24) << QStringLiteral("M 17.5,12 L 30.5,12");
+        QTest::newRow("tall: 12 from the top") << QRectF(0, 0, 24, 48) << QStringLiteral("M 5.5,24 L 18.5,24");
         QTest::newRow("twice the size, moved") << QRectF(10, 20, 48, 48) << QStringLiteral("M 21,44 L 47,44");
         QTest::newRow("half the size") << QRectF(0, 0, 12, 12) << QStringLiteral("M 2.75,6 L 9.25,6");
-        QTest::newRow("drawn from its far corner")
-            << QRectF(48, 24, -48, -24) << QStringLiteral("M 17.5,12 L 30.5,12");
+        QTest::newRow("drawn from its far corner") << QRectF(48, 24, -48, -24) << QStringLiteral("M 17.5,12 L 30.5,12");
     }
 
     void aShapeIsCentredAndScaledByTheShortSide()

@@ -5,7 +5,9 @@
 #include "Platform.h"
 #include "ViewEngine.h"
 
+#include <QGuiApplication>
 #include <QQmlEngine>
+#include <QQmlProperty>
 #include <QQuickItem>
 #include <QScreen>
 
@@ -37,8 +39,7 @@ void EBWindow::host(QQuickItem *view)
     const auto fill = [this, view] { view->setSize(size()); };
     connect(this, &QWindow::widthChanged, view, fill);
     connect(this, &QWindow::heightChanged, view, fill);
-    view->setParent(contentItem());
-    view->setParentItem(contentItem());
+    addItem(view);
     fill();
     addChrome(qmlEngine(view));
 }
@@ -47,8 +48,15 @@ void EBWindow::addChrome(QQmlEngine *engine)
 {
     auto *chrome = ViewEngine::make(*engine, QStringLiteral("qrc:/qt/qml/Embera/Window/WindowChrome.qml"),
                                     {{QStringLiteral("window"), QVariant::fromValue(this)}});
-    chrome->setParent(contentItem());
-    chrome->setParentItem(contentItem());
+    addItem(chrome);
+}
+
+void EBWindow::addItem(QQuickItem *item)
+{
+    item->setParent(contentItem());
+    item->setParentItem(contentItem());
+    if (QGuiApplication::isRightToLeft())
+        QQmlProperty::write(item, QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(item));
 }
 
 void EBWindow::mousePressEvent(QMouseEvent *event)

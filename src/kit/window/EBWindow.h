@@ -46,6 +46,7 @@ protected:
 
 private:
     void addChrome(QQmlEngine *engine);
+    void addItem(QQuickItem *item);
     void fixSize();
 
     Style m_style;

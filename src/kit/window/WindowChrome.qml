@@ -11,12 +11,6 @@ Item {
     LayoutMirroring.childrenInherit: true
     z: 1
 
-    Binding {
-        when: Qt.application.layoutDirection === Qt.RightToLeft
-        target: chrome.LayoutMirroring
-        property: "enabled"
-        value: true
-    }
     Shortcut {
         sequences: ["Ctrl+W"]
         onActivated: chrome.window.close()

@@ -13,13 +13,6 @@ MeasuredItem {
 
     EBEnvironment.ebApp: app
     LayoutMirroring.childrenInherit: true
-
-    Binding {
-        when: Qt.application.layoutDirection === Qt.RightToLeft
-        target: root.LayoutMirroring
-        property: "enabled"
-        value: true
-    }
     contentSize: Qt.size(view.implicitWidth, view.implicitHeight)
 
     EBSettingsView {
