@@ -1,5 +1,5 @@
+#include "AutostartEntry.h"
 #include "DconfUserDefaults.h"
-#include "DesktopEntry.h"
 #include "PrivateSession.h"
 #include "Program.h"
 #include "StoreWrites.h"
@@ -227,7 +227,7 @@ void AgentTest::registeringWritesADesktopEntry()
     start();
     setLaunchAtLogin(true);
     VERIFY_REPORTS(true, false);
-    const DesktopEntry entry(entryPath());
+    const AutostartEntry entry(entryPath());
     QVERIFY(entry.isValid());
     QCOMPARE(entry.text("Type"), "Application");
     QCOMPARE(entry.text("Name"), "Corvane");
@@ -263,7 +263,7 @@ void AgentTest::registeringTwiceIsRegisteringOnce()
     setLaunchAtLogin(true);
     finish();
     QVERIFY(reports(true, false));
-    QCOMPARE(DesktopEntry(entryPath()).text("Name"), "Mine");
+    QCOMPARE(AutostartEntry(entryPath()).text("Name"), "Mine");
     QCOMPARE(writes.keys, QStringList());
 }
 
@@ -273,7 +273,7 @@ void AgentTest::anEntryWhoseFolderIsGoneIsWrittenAnew()
     QVERIFY(QDir(m_autostart).removeRecursively());
     setLaunchAtLogin(true);
     VERIFY_REPORTS(true, false);
-    QVERIFY(DesktopEntry(entryPath()).isValid());
+    QVERIFY(AutostartEntry(entryPath()).isValid());
 }
 
 void AgentTest::aFolderWithSpecialCharactersIsQuoted_data()
@@ -302,7 +302,7 @@ void AgentTest::aFolderWithSpecialCharactersIsQuoted()
     start({}, executable);
     setLaunchAtLogin(true);
     VERIFY_REPORTS(true, false);
-    const DesktopEntry entry(entryPath());
+    const AutostartEntry entry(entryPath());
     QVERIFY(entry.isValid());
     QCOMPARE(entry.command(), QStringList(executable));
 }
@@ -312,7 +312,7 @@ void AgentTest::anEntryThatNeedsApprovalIsHidden()
     start({"--needs-approval"});
     setLaunchAtLogin(true);
     VERIFY_REPORTS(false, true);
-    const DesktopEntry entry(entryPath());
+    const AutostartEntry entry(entryPath());
     QVERIFY(entry.isValid());
     QVERIFY(entry.isHidden());
     QCOMPARE(entry.command(), QStringList(QFileInfo(program).canonicalFilePath()));

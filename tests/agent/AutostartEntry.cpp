@@ -1,6 +1,6 @@
 #include <glib.h>
 
-#include "DesktopEntry.h"
+#include "AutostartEntry.h"
 
 #include <memory>
 
@@ -20,9 +20,9 @@ KeyFile read(const QString &path)
 
 }
 
-DesktopEntry::DesktopEntry(const QString &path) : m_path(path), m_isValid(read(path) != nullptr) { }
+AutostartEntry::AutostartEntry(const QString &path) : m_path(path), m_isValid(read(path) != nullptr) { }
 
-QString DesktopEntry::text(const QString &key) const
+QString AutostartEntry::text(const QString &key) const
 {
     const KeyFile file = read(m_path);
     if (!file)
@@ -35,7 +35,7 @@ QString DesktopEntry::text(const QString &key) const
     return text;
 }
 
-QStringList DesktopEntry::command() const
+QStringList AutostartEntry::command() const
 {
     char **words = nullptr;
     if (!g_shell_parse_argv(text(QStringLiteral("Exec")).toUtf8().constData(), nullptr, &words, nullptr))
@@ -47,7 +47,7 @@ QStringList DesktopEntry::command() const
     return command;
 }
 
-bool DesktopEntry::isHidden() const
+bool AutostartEntry::isHidden() const
 {
     const KeyFile file = read(m_path);
     return file && g_key_file_get_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP, "Hidden", nullptr);

@@ -4,9 +4,9 @@
 #include <QStringList>
 
 /// A desktop entry file as a desktop reads it.
-class DesktopEntry {
+class AutostartEntry {
 public:
-    explicit DesktopEntry(const QString &path);
+    explicit AutostartEntry(const QString &path);
 
     /// Whether there is such a file and it can be read as a desktop entry.
     bool isValid() const { return m_isValid; }
