@@ -1,21 +1,32 @@
 #pragma once
 
+#include "UserDefaults.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QObject>
 #include <QStringList>
+#include <QTest>
 
 /// Hears of every write to the shared store, in the order in which they were made: on the bus, from the service that
 /// makes them.
 class StoreWrites : public QObject {
     Q_OBJECT
 public:
-    StoreWrites()
+    /// Begins with what is written from now on; `store` is the shared one.
+    explicit StoreWrites(UserDefaults &store)
     {
         m_bus.connect(QString(), QStringLiteral("/ca/desrt/dconf/Writer/user"), QStringLiteral("ca.desrt.dconf.Writer"),
                       QStringLiteral("Notify"), this, SLOT(receive(QString, QStringList, QString)));
         // The bus takes the messages of a connection in order: with this answer it knows of the subscription.
         m_bus.interface()->isServiceRegistered(m_bus.baseService());
+        // Of a write that is in the store already the service may still be about to tell; it tells in order.
+        static int fences = 0;
+        const QString fence = QStringLiteral("fence%1").arg(++fences);
+        store.setValue(fence, true);
+        if (!QTest::qWaitFor([&] { return keys.contains(fence); }))
+            QTest::qFail("a write to the store is not heard", __FILE__, __LINE__);
+        keys.clear();
     }
 
     /// The keys that were written, each as often as it was.

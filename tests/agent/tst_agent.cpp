@@ -186,7 +186,7 @@ void AgentTest::commandsArePrintedInOrder()
 void AgentTest::whatIsNoCommandIsPrintedAndChangesNothing()
 {
     start();
-    StoreWrites writes;
+    StoreWrites writes(m_store);
     const QList<QVariantMap> strange = {
         {},
         {{"command", "fly"}},
@@ -209,7 +209,7 @@ void AgentTest::whatIsNoCommandIsPrintedAndChangesNothing()
 void AgentTest::aRequestForThePermissionGrantsNothingByItself()
 {
     start();
-    StoreWrites writes;
+    StoreWrites writes(m_store);
     post("requestAccessibility");
     finish();
     QCOMPARE(writes.keys, QStringList());
@@ -259,7 +259,7 @@ void AgentTest::registeringTwiceIsRegisteringOnce()
     VERIFY_REPORTS(false, true);
     writeEntry("[Desktop Entry]\nType=Application\nName=Mine\nExec=true\n");
     VERIFY_REPORTS(true, false);
-    StoreWrites writes;
+    StoreWrites writes(m_store);
     setLaunchAtLogin(true);
     finish();
     QVERIFY(reports(true, false));
@@ -351,7 +351,7 @@ void AgentTest::approvalNeverLooksLikeNoLoginItem()
     writeEntry("[Desktop Entry]\nHidden=true\n");
     start();
     QVERIFY(reports(false, true));
-    StoreWrites writes;
+    StoreWrites writes(m_store);
     writeEntry("[Desktop Entry]\n");
     QTRY_COMPARE(writes.keys.size(), 2);
     QVERIFY(reports(true, false));
@@ -364,7 +364,7 @@ void AgentTest::withdrawingApprovalNeverLooksLikeNoLoginItem()
     writeEntry("[Desktop Entry]\n");
     start();
     QVERIFY(reports(true, false));
-    StoreWrites writes;
+    StoreWrites writes(m_store);
     writeEntry("[Desktop Entry]\nHidden=true\n");
     QTRY_COMPARE(writes.keys.size(), 2);
     QVERIFY(reports(false, true));

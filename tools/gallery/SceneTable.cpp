@@ -29,6 +29,7 @@ constexpr Row rows[] = {
     {SceneKind::controls, "status-and-discs", "StatusAndDiscsScene", "check"},
     {SceneKind::controls, "window-buttons", "WindowButtonsScene", "dots"},
     {SceneKind::controls, "sidebar", "SidebarScene", "apps"},
+    {SceneKind::controls, "overlay-buttons", "OverlayButtonsScene", "wins"},
     {SceneKind::screen, "settings-general", "SettingsGeneralScene", "gear"},
     {SceneKind::screen, "settings-general-approval", "SettingsGeneralApprovalScene", "gear"},
     {SceneKind::screen, "settings-general-trusted", "SettingsGeneralTrustedScene", "gear"},
