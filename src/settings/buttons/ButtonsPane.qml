@@ -13,24 +13,37 @@ PaneStack {
 
     readonly property string theme: ButtonChoices.theme(storedTheme.value)
     readonly property string size: ButtonChoices.size(storedSize.value)
+    /// What the page finds when it opens is no change.
+    property bool isOpen: false
+
+    Component.onCompleted: isOpen = true
 
     AppStorage {
         id: storedTheme
         key: Key.buttonTheme
+        onValueChanged: if (pane.isOpen)
+            ButtonsActions.announce()
     }
     AppStorage {
         id: storedSize
         key: Key.buttonSizeOption
+        onValueChanged: if (pane.isOpen)
+            ButtonsActions.announce()
     }
     AppStorage {
         id: showMinimize
         key: Key.showMinimizeButton
+        onValueChanged: if (pane.isOpen)
+            ButtonsActions.announce()
     }
     AppStorage {
         id: showMaximize
         key: Key.showMaximizeButton
+        onValueChanged: if (pane.isOpen)
+            ButtonsActions.announce()
     }
     AppStorage {
+        // Announced by nobody: the agent reads the mode each time it makes a window large.
         id: maximizeMode
         key: Key.maximizeMode
     }
@@ -52,7 +65,7 @@ PaneStack {
             ThemeTiles {
                 width: parent.width - 2 * 16
                 themeRaw: pane.theme
-                onChosen: themeRaw => ButtonsActions.setTheme(themeRaw)
+                onChosen: themeRaw => storedTheme.value = themeRaw
             }
             EBText {
                 width: parent.width - 2 * 16
@@ -75,7 +88,7 @@ PaneStack {
                 label: qsTr("Size")
                 options: ButtonChoices.sizes
                 selection: pane.size
-                onSelected: value => ButtonsActions.setSize(value)
+                onSelected: value => storedSize.value = value
             }
         }
     }
@@ -84,7 +97,7 @@ PaneStack {
             title: qsTr("Minimize button")
             detail: qsTr("Next to Close, which is always there.")
             isOn: showMinimize.value
-            onFlipped: value => ButtonsActions.setMinimizeShown(value)
+            onFlipped: value => showMinimize.value = value
         }
         EBRule {
             inset: 16
@@ -92,7 +105,7 @@ PaneStack {
         EBSwitchRow {
             title: qsTr("Full screen button")
             isOn: showMaximize.value
-            onFlipped: value => ButtonsActions.setMaximizeShown(value)
+            onFlipped: value => showMaximize.value = value
         }
         EBRule {
             inset: 16
@@ -105,7 +118,7 @@ PaneStack {
                 label: qsTr("Full screen")
                 options: [{value: "fullscreen", title: qsTr("Own Space")}, {value: "fill", title: qsTr("Fill Screen")}]
                 selection: maximizeMode.value
-                onSelected: value => ButtonsActions.setMaximizeMode(value)
+                onSelected: value => maximizeMode.value = value
             }
         }
     }
