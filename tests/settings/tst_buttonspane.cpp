@@ -41,6 +41,8 @@ private slots:
     void theStoreIsShownWhoeverWroteIt();
     void thePreviewIsAScaledWindow_data();
     void thePreviewIsAScaledWindow();
+    void thePageOpensWithoutMotion();
+    void theChoosersAreNamed();
     void choosingAThemeStoresItAndTellsTheAgent_data();
     void choosingAThemeStoresItAndTellsTheAgent();
     void choosingASizeStoresItAndTellsTheAgent_data();
@@ -59,6 +61,7 @@ private slots:
     void thereIsNoSwitchForClose();
 
 private:
+    void open(const QVariantMap &stored, bool reduceMotion);
     QList<QQuickItem *> named(const QString &name);
     QQuickItem *control(const QString &name, QAccessible::Role role);
     bool isShown(const QString &text) { return !named(text).isEmpty(); }
@@ -81,9 +84,15 @@ void TestButtonsPane::init()
 {
     QTest::failOnWarning(QRegularExpression(".*"));
     QAccessible::setActive(true);
+    open({}, true);
+}
+
+void TestButtonsPane::open(const QVariantMap &stored, bool reduceMotion)
+{
     m_platform = &FakePlatform::install();
-    m_platform->look.setReduceMotion(true);
+    m_platform->look.setReduceMotion(reduceMotion);
     m_store = &m_platform->suite(Shared::suiteName);
+    m_store->values = stored;
     m_engine = std::make_unique<ViewEngine>();
     m_window = std::make_unique<QQuickWindow>();
     m_window->resize(386, 560);
@@ -224,9 +233,36 @@ void TestButtonsPane::thePreviewIsAScaledWindow()
     QFETCH(const QString, size);
     m_store->setValue("buttonSizeOption", size);
     QTEST(previewed().constFirst()->size(), "diameter");
+    int windows = 0;
     for (QQuickItem *item : visibleItems(m_window->contentItem())) {
-        if (qobject_cast<WindowFace *>(item))
-            QCOMPARE(item->size(), QSizeF(200, 112));
+        if (!qobject_cast<WindowFace *>(item))
+            continue;
+        ++windows;
+        QCOMPARE(item->size(), QSizeF(200, 112));
+    }
+    QCOMPARE(windows, 1);
+}
+
+void TestButtonsPane::thePageOpensWithoutMotion()
+{
+    cleanup();
+    open({{"buttonSizeOption", "large"}, {"showMinimizeButton", true}, {"showMaximizeButton", true}}, false);
+    QCOMPARE(previewed().size(), 3);
+    for (const DemoButton *button : previewed()) {
+        QCOMPARE(button->size(), 36.8);
+        QCOMPARE(button->opacity(), 1.0);
+    }
+    QVERIFY(commands().isEmpty());
+}
+
+void TestButtonsPane::theChoosersAreNamed()
+{
+    for (const char *name : {"Size", "Full screen"}) {
+        int groupings = 0;
+        for (QQuickItem *item : named(name))
+            groupings += QAccessible::queryAccessibleInterface(item)->role() == QAccessible::Grouping;
+        // The row, and the chooser in it.
+        QCOMPARE(groupings, 2);
     }
 }
 
