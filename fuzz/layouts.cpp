@@ -1,5 +1,7 @@
 #include "LayoutCoder.h"
 
+#include <QStringDecoder>
+
 #include <cstdint>
 #include <cstdlib>
 
@@ -7,7 +9,10 @@
 /// list and encodes to itself.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const auto layouts = LayoutCoder::decode(QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size)));
+    // A byte-order mark is part of what is stored, and reaches the decoder.
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    const QString stored = utf8(QByteArrayView(data, qsizetype(size)));
+    const auto layouts = LayoutCoder::decode(stored);
     if (!layouts)
         return 0;
     const auto text = LayoutCoder::encode(*layouts);

@@ -42,8 +42,8 @@ PaneStack {
         onValueChanged: if (pane.isOpen)
             ButtonsActions.announce()
     }
+    // Never announced: the agent reads the mode each time it makes a window large.
     AppStorage {
-        // Announced by nobody: the agent reads the mode each time it makes a window large.
         id: maximizeMode
         key: Key.maximizeMode
     }
