@@ -3,7 +3,10 @@
 #include "Appearance.h"
 #include "Bundle.h"
 #include "DistributedNotificationCenter.h"
+#include "KeyMonitor.h"
+#include "MainQueue.h"
 #include "UserDefaults.h"
+#include "WindowList.h"
 #include "Workspace.h"
 
 #include <memory>
@@ -31,4 +34,14 @@ public:
     virtual DistributedNotificationCenter &distributedNotificationCenter() = 0;
     virtual Workspace &workspace() = 0;
     virtual Appearance &appearance() = 0;
+
+    /// Calls `handler`, which must not be empty, for the key-down events of this application's windows, as long as what it
+    /// returns is held. Of several monitors the newest is asked first.
+    virtual std::unique_ptr<KeyMonitor> monitorKeyDown(KeyMonitor::Handler handler) = 0;
+
+    /// Actions of the main thread that wait for their time.
+    virtual MainQueue &mainQueue() = 0;
+
+    /// What is on the screen.
+    virtual WindowList &windowList() = 0;
 };

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class QWindow;
+
 /// What this application asks of the desktop around it. What the desktop does not have does not happen.
 class Workspace {
 public:
@@ -21,6 +23,20 @@ public:
     /// The icon of the installed application with that bundle identifier; a null icon when there is none.
     virtual QIcon iconForApplication(const QString &bundleIdentifier) = 0;
 
+    /// The icon of the application whose bundle lies at `path`: its own, or a generic one where it has none or nothing
+    /// lies there. Never a null icon.
+    virtual QIcon iconForFile(const QString &path) = 0;
+
     /// Opens the page of the desktop's settings on which login items are allowed.
     virtual void openLoginItemsSettings() = 0;
+
+    /// Shows the desktop's overview of all windows.
+    virtual void openMissionControl() = 0;
+
+    /// Readies `window`, which is not shown at the moment, to appear in front of the others on every workspace, and in
+    /// no list of windows to switch to. What was readied is used up when the window is hidden.
+    virtual void floatOnAllSpaces(QWindow &window) = 0;
+
+    /// Whether what lies behind a window shines through where it is transparent. Where it does not, that is black.
+    virtual bool blendsWindows() = 0;
 };

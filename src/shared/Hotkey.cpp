@@ -38,6 +38,15 @@ std::optional<Hotkey> Hotkeys::fromRawValue(int rawValue)
     return allCases[static_cast<std::size_t>(rawValue)];
 }
 
+std::optional<Hotkey> Hotkeys::fromCaseName(QStringView name)
+{
+    for (const Combination &candidate : combinations) {
+        if (name == QLatin1String(candidate.caseName))
+            return candidate.hotkey;
+    }
+    return std::nullopt;
+}
+
 QString Hotkeys::caseName(Hotkey hotkey)
 {
     return QString::fromLatin1(combination(hotkey).caseName);

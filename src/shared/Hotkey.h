@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KeyMonitor.h"
+
 #include <QString>
 
 #include <array>
@@ -20,6 +22,9 @@ std::optional<Hotkey> fromRawValue(int rawValue);
 /// "close", "closeAll" …
 QString caseName(Hotkey hotkey);
 
+/// The case of that name, none for any other text. Upper and lower case differ.
+std::optional<Hotkey> fromCaseName(QStringView name);
+
 /// What a person reads on the keys, "⌥⌘W".
 QString shownAs(Hotkey hotkey);
 
@@ -28,9 +33,9 @@ QString shownAs(Hotkey hotkey);
 /// of the shortcut.
 std::optional<Hotkey> match(std::int64_t keyCode, std::uint64_t flags);
 
-inline constexpr std::uint64_t shiftFlag = 0x20000;
-inline constexpr std::uint64_t controlFlag = 0x40000;
-inline constexpr std::uint64_t optionFlag = 0x80000;
-inline constexpr std::uint64_t commandFlag = 0x100000;
+using KeyFlags::commandFlag;
+using KeyFlags::controlFlag;
+using KeyFlags::optionFlag;
+using KeyFlags::shiftFlag;
 
 }

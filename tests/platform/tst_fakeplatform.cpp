@@ -14,6 +14,8 @@ private slots:
     void bundlesAreFoundByTheirURL();
     void theWorkspaceRecordsAndCompletesLater();
     void theAppearanceIsWhatItIsSetTo();
+    void theWindowsAreThoseItIsGiven();
+    void keysReachTheMonitorsThatAreHeld();
 
 private:
     FakePlatform *m_fake = nullptr;
@@ -90,6 +92,8 @@ void FakePlatformTest::theWorkspaceRecordsAndCompletesLater()
     workspace.openLoginItemsSettings();
     QCOMPARE(m_fake->space.openedURLs.size(), 1);
     QCOMPARE(m_fake->space.loginItemsSettingsOpened, 1);
+    workspace.openMissionControl();
+    QCOMPARE(m_fake->space.missionControlOpened, 1);
 }
 
 void FakePlatformTest::theAppearanceIsWhatItIsSetTo()
@@ -103,6 +107,37 @@ void FakePlatformTest::theAppearanceIsWhatItIsSetTo()
     QVERIFY(!appearance.bestMatch());
     QVERIFY(appearance.shouldReduceMotion());
     QCOMPARE(spy.size(), 2);
+}
+
+void FakePlatformTest::theWindowsAreThoseItIsGiven()
+{
+    QVERIFY(Platform::current().windowList().onScreenWindows().isEmpty());
+    m_fake->windows.windows = {{0, true, QRectF(1, 2, 3, 4)}, {}};
+    const QList<OnScreenWindow> windows = Platform::current().windowList().onScreenWindows();
+    QCOMPARE(windows.size(), 2);
+    QCOMPARE(windows.constFirst().bounds, std::optional(QRectF(1, 2, 3, 4)));
+    QVERIFY(!windows.constLast().layer && !windows.constLast().ownerIsSystemSettings && !windows.constLast().bounds);
+}
+
+void FakePlatformTest::keysReachTheMonitorsThatAreHeld()
+{
+    constexpr std::int64_t wCode = 13;
+    QVERIFY(!m_fake->pressKey({wCode, KeyFlags::commandFlag, false}));
+    QList<KeyDown> heard;
+    auto monitor = Platform::current().monitorKeyDown([&](const KeyDown &key) {
+        heard.append(key);
+        return key.flags == KeyFlags::commandFlag;
+    });
+    QCOMPARE(m_fake->keyMonitorCount(), 1);
+    QVERIFY(m_fake->pressKey({wCode, KeyFlags::commandFlag, true}));
+    QVERIFY(!m_fake->pressKey({wCode, 0, false}));
+    QCOMPARE(heard.size(), 2);
+    QCOMPARE(heard.constFirst().keyCode, wCode);
+    QVERIFY(heard.constFirst().isARepeat);
+    monitor.reset();
+    QCOMPARE(m_fake->keyMonitorCount(), 0);
+    QVERIFY(!m_fake->pressKey({wCode, KeyFlags::commandFlag, false}));
+    QCOMPARE(heard.size(), 2);
 }
 
 QTEST_GUILESS_MAIN(FakePlatformTest)

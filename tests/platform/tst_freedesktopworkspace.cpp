@@ -40,6 +40,14 @@ private slots:
     void anIdentifierThatIsNoFileNameHasNoIcon_data();
     void anIdentifierThatIsNoFileNameHasNoIcon();
 
+    void aBundlesIconIsTheOneItBringsAlong_data();
+    void aBundlesIconIsTheOneItBringsAlong();
+    void aVectorIconIsAsLargeAsItIsAskedFor();
+    void aBundleWithoutAnIconHasThatOfItsDesktopEntry();
+    void whatHasNoIconOfItsOwnHasAGenericOne_data();
+    void whatHasNoIconOfItsOwnHasAGenericOne();
+    void theGenericIconIsThatOfTheTheme();
+
 public slots:
     void openedLink(const QUrl &url) { m_links.append(url); }
 
@@ -49,6 +57,7 @@ private:
     QStringList started() const;
     void write(const QString &path, const QString &text) const;
     QString makeIcon(const QString &path) const;
+    QString makeBundleWithInfo(const QString &info) const;
 
     std::optional<QTemporaryDir> m_folder;
     std::optional<PlistBundle> m_mainBundle;
@@ -307,6 +316,91 @@ void FreedesktopWorkspaceTest::anIdentifierThatIsNoFileNameHasNoIcon()
     write(QString(u"data/" + entry),
           QStringLiteral("[Desktop Entry]\nIcon=%1\n").arg(makeIcon(QStringLiteral("icon.png"))));
     QVERIFY(m_workspace->iconForApplication(identifier).isNull());
+}
+
+// A bundle that says no more than `info` of itself.
+QString FreedesktopWorkspaceTest::makeBundleWithInfo(const QString &info) const
+{
+    write(QStringLiteral("Iconic.app/Contents/Info.plist"), QStringLiteral("<plist><dict>%1</dict></plist>").arg(info));
+    return m_folder->filePath(QStringLiteral("Iconic.app"));
+}
+
+void FreedesktopWorkspaceTest::aBundlesIconIsTheOneItBringsAlong_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("with its extension") << QStringLiteral("The Icon.png");
+    QTest::newRow("without it") << QStringLiteral("The Icon");
+}
+
+void FreedesktopWorkspaceTest::aBundlesIconIsTheOneItBringsAlong()
+{
+    QFETCH(QString, name);
+    const QString bundle =
+        makeBundleWithInfo(QStringLiteral("<key>CFBundleIconFile</key><string>%1</string>").arg(name));
+    QVERIFY(!makeIcon(QStringLiteral("Iconic.app/Contents/Resources/The Icon.png")).isEmpty());
+    QVERIFY(isTheIcon(m_workspace->iconForFile(bundle)));
+    QVERIFY(isTheIcon(m_workspace->iconForFile(bundle + u'/')));
+}
+
+void FreedesktopWorkspaceTest::aVectorIconIsAsLargeAsItIsAskedFor()
+{
+    const QString bundle = makeBundleWithInfo(QStringLiteral("<key>CFBundleIconFile</key><string>Corvane</string>"));
+    const QString resources = bundle + QStringLiteral("/Contents/Resources");
+    QVERIFY(QDir().mkpath(resources));
+    QVERIFY(QFile::copy(QStringLiteral(PRODUCT_ICON), resources + QStringLiteral("/Corvane.svg")));
+    const QIcon icon = m_workspace->iconForFile(bundle);
+    for (const int side : {16, 48, 300}) {
+        const QImage picture = icon.pixmap(side).toImage();
+        QCOMPARE(picture.size(), QSize(side, side));
+        // Clear outside its corners, the mark in white on the product's colour.
+        QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+    }
+    const QImage picture = icon.pixmap(128).toImage();
+    QCOMPARE(picture.pixelColor(64, 12), QColor(90, 92, 242));
+    QCOMPARE(picture.pixelColor(40, 64), QColor(Qt::white));
+}
+
+void FreedesktopWorkspaceTest::aBundleWithoutAnIconHasThatOfItsDesktopEntry()
+{
+    write(QStringLiteral("data/applications/org.example.Iconic.desktop"),
+          QStringLiteral("[Desktop Entry]\nIcon=%1\n").arg(makeIcon(QStringLiteral("icons/an icon.png"))));
+    const QString identifier = QStringLiteral("<key>CFBundleIdentifier</key><string>org.example.Iconic</string>");
+    QVERIFY(isTheIcon(m_workspace->iconForFile(makeBundleWithInfo(identifier))));
+    // A file that is missing or no picture is no icon either.
+    const QString missing = QStringLiteral("<key>CFBundleIconFile</key><string>Info.plist</string>");
+    QVERIFY(isTheIcon(m_workspace->iconForFile(makeBundleWithInfo(identifier + missing))));
+}
+
+void FreedesktopWorkspaceTest::whatHasNoIconOfItsOwnHasAGenericOne_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("nothing there") << QStringLiteral("/Applications/Corvane.app");
+    QTest::newRow("no bundle") << QStringLiteral("/usr/bin/env");
+    QTest::newRow("empty") << QString();
+}
+
+void FreedesktopWorkspaceTest::whatHasNoIconOfItsOwnHasAGenericOne()
+{
+    QFETCH(QString, path);
+    QIcon::setThemeSearchPaths({m_folder->filePath(QStringLiteral("no themes"))});
+    QIcon::setThemeName(QStringLiteral("none"));
+    const QIcon icon = m_workspace->iconForFile(path);
+    for (const int side : {16, 48, 256}) {
+        const QImage picture = icon.pixmap(side).toImage();
+        QCOMPARE(picture.size(), QSize(side, side));
+        QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(picture.pixelColor(side / 2, side * 3 / 4).alpha(), 255);
+    }
+}
+
+void FreedesktopWorkspaceTest::theGenericIconIsThatOfTheTheme()
+{
+    write(QStringLiteral("themes/generic/index.theme"),
+          QStringLiteral("[Icon Theme]\nName=generic\nDirectories=48x48\n[48x48]\nSize=48\nType=Fixed\n"));
+    QVERIFY(!makeIcon(QStringLiteral("themes/generic/48x48/application-x-executable.png")).isEmpty());
+    QIcon::setThemeSearchPaths({m_folder->filePath(QStringLiteral("themes"))});
+    QIcon::setThemeName(QStringLiteral("generic"));
+    QVERIFY(isTheIcon(m_workspace->iconForFile(QStringLiteral("/Applications/Corvane.app"))));
 }
 
 QTEST_MAIN(FreedesktopWorkspaceTest)

@@ -28,6 +28,7 @@ private slots:
     void everyRawValueNamesItsCase();
     void anIntegerOutsideTheCasesNamesNone_data();
     void anIntegerOutsideTheCasesNamesNone();
+    void anyOtherTextNamesNone();
     void theCasesComeInRawOrder();
 
     void theCombinationsAreExactlyThese_data();
@@ -66,6 +67,13 @@ void TestHotkey::everyRawValueNamesItsCase()
     QCOMPARE(static_cast<int>(hotkey), raw);
     QTEST(Hotkeys::caseName(hotkey), "caseName");
     QTEST(Hotkeys::shownAs(hotkey), "shownAs");
+    QCOMPARE(Hotkeys::fromCaseName(Hotkeys::caseName(hotkey)), std::optional(hotkey));
+}
+
+void TestHotkey::anyOtherTextNamesNone()
+{
+    for (const char *text : {"", "Close", "closeall", "close ", "0"})
+        QVERIFY2(!Hotkeys::fromCaseName(QString::fromLatin1(text)), text);
 }
 
 void TestHotkey::anIntegerOutsideTheCasesNamesNone_data()

@@ -3,8 +3,11 @@
 #include "FakeAppearance.h"
 #include "FakeBundle.h"
 #include "FakeDistributedNotificationCenter.h"
+#include "FakeMainQueue.h"
 #include "FakeUserDefaults.h"
+#include "FakeWindowList.h"
 #include "FakeWorkspace.h"
+#include "KeyMonitors.h"
 #include "Platform.h"
 
 #include <map>
@@ -20,6 +23,13 @@ public:
     FakeDistributedNotificationCenter notifications;
     FakeWorkspace space;
     FakeAppearance look;
+    FakeMainQueue queue;
+    FakeWindowList windows;
+
+    /// A key going down in a window of the application. True when a monitor swallowed it.
+    bool pressKey(const KeyDown &key) { return m_keyMonitors.swallow(key); }
+
+    qsizetype keyMonitorCount() const { return m_keyMonitors.count(); }
 
     /// The bundles that exist beside the main one.
     QList<FakeBundle> bundles;
@@ -37,7 +47,14 @@ public:
     DistributedNotificationCenter &distributedNotificationCenter() override { return notifications; }
     Workspace &workspace() override { return space; }
     Appearance &appearance() override { return look; }
+    std::unique_ptr<KeyMonitor> monitorKeyDown(KeyMonitor::Handler handler) override
+    {
+        return m_keyMonitors.add(std::move(handler));
+    }
+    MainQueue &mainQueue() override { return queue; }
+    WindowList &windowList() override { return windows; }
 
 private:
+    KeyMonitors m_keyMonitors;
     std::map<QString, FakeUserDefaults> m_suites;
 };

@@ -3,6 +3,7 @@
 #include "Workspace.h"
 
 #include <QCoreApplication>
+#include <QPixmap>
 
 /// Records what it was asked for, in order, and opens nothing.
 class FakeWorkspace : public Workspace {
@@ -15,9 +16,17 @@ public:
     QList<QUrl> openedURLs;
     QList<OpenedApplication> openedApplications;
     int loginItemsSettingsOpened = 0;
+    int missionControlOpened = 0;
+    bool blends = true;
+
+    /// The windows that were readied to float, each time anew.
+    QList<QWindow *> floating;
 
     /// Bundle identifier to icon.
     QMap<QString, QIcon> icons;
+
+    /// Path to icon. Every other path has a plain blue one.
+    QMap<QString, QIcon> fileIcons;
 
     void open(const QUrl &url) override { openedURLs.append(url); }
 
@@ -29,5 +38,20 @@ public:
 
     QIcon iconForApplication(const QString &bundleIdentifier) override { return icons.value(bundleIdentifier); }
 
+    QIcon iconForFile(const QString &path) override
+    {
+        if (fileIcons.contains(path))
+            return fileIcons.value(path);
+        QPixmap blue(64, 64);
+        blue.fill(Qt::blue);
+        return QIcon(blue);
+    }
+
     void openLoginItemsSettings() override { ++loginItemsSettingsOpened; }
+
+    void openMissionControl() override { ++missionControlOpened; }
+
+    void floatOnAllSpaces(QWindow &window) override { floating.append(&window); }
+
+    bool blendsWindows() override { return blends; }
 };

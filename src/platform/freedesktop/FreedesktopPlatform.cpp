@@ -3,8 +3,10 @@
 #include "DBusNotificationCenter.h"
 #include "DconfUserDefaults.h"
 #include "FreedesktopWorkspace.h"
+#include "KeyDownFilter.h"
 #include "PlistBundle.h"
 #include "PortalAppearance.h"
+#include "X11WindowList.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -22,6 +24,9 @@ public:
     DistributedNotificationCenter &distributedNotificationCenter() override { return m_notifications; }
     Workspace &workspace() override;
     Appearance &appearance() override;
+    std::unique_ptr<KeyMonitor> monitorKeyDown(KeyMonitor::Handler handler) override;
+    MainQueue &mainQueue() override { return m_mainQueue; }
+    WindowList &windowList() override { return m_windows; }
 
 private:
     PlistBundle &plistBundle();
@@ -30,8 +35,11 @@ private:
     std::optional<PlistBundle> m_mainBundle;
     std::map<QString, DconfUserDefaults> m_suites;
     DBusNotificationCenter m_notifications;
+    MainQueue m_mainQueue;
+    X11WindowList m_windows;
     std::optional<FreedesktopWorkspace> m_workspace;
     std::optional<PortalAppearance> m_appearance;
+    std::optional<KeyDownFilter> m_keyDown;
 };
 
 PlistBundle &FreedesktopPlatform::plistBundle()
@@ -77,6 +85,13 @@ Appearance &FreedesktopPlatform::appearance()
     if (!m_appearance)
         m_appearance.emplace();
     return *m_appearance;
+}
+
+std::unique_ptr<KeyMonitor> FreedesktopPlatform::monitorKeyDown(KeyMonitor::Handler handler)
+{
+    if (!m_keyDown)
+        m_keyDown.emplace();
+    return m_keyDown->add(std::move(handler));
 }
 
 }

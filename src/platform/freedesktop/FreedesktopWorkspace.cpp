@@ -1,6 +1,9 @@
 #include "FreedesktopWorkspace.h"
 
 #include "DesktopEntry.h"
+#include "GenericIcon.h"
+#include "WindowOverview.h"
+#include "X11Panel.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -65,6 +68,21 @@ QIcon iconInFile(const QString &path)
     return icon.pixmap(16).isNull() ? QIcon() : icon;
 }
 
+/// The icon that a bundle brings along, whose file may be named without its extension.
+QIcon iconInBundle(const PlistBundle &bundle)
+{
+    const QString name = bundle.string(QStringLiteral("CFBundleIconFile"));
+    if (name.isEmpty())
+        return {};
+    for (const char *extension : {"", "svg", "png"}) {
+        const QUrl file = bundle.urlForResource(name, QString::fromLatin1(extension));
+        const QIcon icon = file.isEmpty() ? QIcon() : iconInFile(file.toLocalFile());
+        if (!icon.isNull())
+            return icon;
+    }
+    return {};
+}
+
 }
 
 void FreedesktopWorkspace::open(const QUrl &url)
@@ -95,6 +113,15 @@ QIcon FreedesktopWorkspace::iconForApplication(const QString &bundleIdentifier)
     return icon;
 }
 
+QIcon FreedesktopWorkspace::iconForFile(const QString &path)
+{
+    const PlistBundle bundle(path);
+    QIcon icon = iconInBundle(bundle);
+    if (icon.isNull())
+        icon = iconForApplication(bundle.bundleIdentifier());
+    return icon.isNull() ? genericApplicationIcon() : icon;
+}
+
 void FreedesktopWorkspace::openLoginItemsSettings()
 {
     const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
@@ -102,4 +129,19 @@ void FreedesktopWorkspace::openLoginItemsSettings()
         if (openAutostartPage(desktop))
             return;
     }
+}
+
+void FreedesktopWorkspace::openMissionControl()
+{
+    WindowOverview::open();
+}
+
+void FreedesktopWorkspace::floatOnAllSpaces(QWindow &window)
+{
+    X11Panel::floatOnAllDesktops(window);
+}
+
+bool FreedesktopWorkspace::blendsWindows()
+{
+    return X11Panel::isComposited();
 }

@@ -17,7 +17,11 @@ public:
     void openApplication(const QUrl &bundleURL, const QStringList &arguments,
                          std::function<void()> completion) override;
     QIcon iconForApplication(const QString &bundleIdentifier) override;
+    QIcon iconForFile(const QString &path) override;
     void openLoginItemsSettings() override;
+    void openMissionControl() override;
+    void floatOnAllSpaces(QWindow &window) override;
+    bool blendsWindows() override;
 
 private:
     QHash<QString, QIcon> m_icons;

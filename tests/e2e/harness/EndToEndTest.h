@@ -81,10 +81,13 @@ protected:
     /// Waits until the program has handled what was sent to it, and the commands it posted have arrived.
     void settle() const;
 
+protected Q_SLOTS:
+    /// A test that has more to end does so first and then calls this.
+    void cleanup();
+
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanup();
 
 private:
     struct Session {

@@ -6,6 +6,16 @@
 #include <X11/keysym.h>
 #include <xcb/xtest.h>
 
+namespace {
+
+/// The X server's number of a key.
+xcb_keycode_t keycode(quint32 evdevCode)
+{
+    return xcb_keycode_t(evdevCode + 8);
+}
+
+}
+
 Keyboard::Keyboard(const XConnection &x) : m_x(x)
 {
     const xcb_setup_t *setup = xcb_get_setup(x);
@@ -26,12 +36,32 @@ Keyboard::Keyboard(const XConnection &x) : m_x(x)
 void Keyboard::press(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers) const
 {
     Q_ASSERT_X(m_keys.contains(key), "Keyboard", "the keyboard lacks this key");
+    pressWhile(m_keys[key].shifted ? modifiers + QList<xcb_keysym_t>{XK_Shift_L} : modifiers, m_keys[key].code);
+}
+
+void Keyboard::pressPosition(quint32 evdevCode, const QList<xcb_keysym_t> &modifiers) const
+{
+    pressWhile(modifiers, keycode(evdevCode));
+}
+
+void Keyboard::hold(quint32 evdevCode) const
+{
+    send(true, keycode(evdevCode));
+    m_x.synchronise();
+}
+
+void Keyboard::letGo(quint32 evdevCode) const
+{
+    send(false, keycode(evdevCode));
+    m_x.synchronise();
+}
+
+void Keyboard::pressWhile(const QList<xcb_keysym_t> &modifiers, xcb_keycode_t code) const
+{
     QList<xcb_keycode_t> held;
     for (const xcb_keysym_t modifier : modifiers)
         held.append(m_keys[modifier].code);
-    if (m_keys[key].shifted)
-        held.append(m_keys[XK_Shift_L].code);
-    held.append(m_keys[key].code);
+    held.append(code);
     for (const xcb_keycode_t code : std::as_const(held))
         send(true, code);
     while (!held.isEmpty())

@@ -17,6 +17,14 @@ public:
     /// mistake in the test.
     void press(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers = {}) const;
 
+    /// Presses and releases the key in a place of the keyboard while `modifiers` are held, whatever the layout has
+    /// there. `evdevCode` is the kernel's number of the key, such as KEY_W.
+    void pressPosition(quint32 evdevCode, const QList<xcb_keysym_t> &modifiers = {}) const;
+
+    /// Holds that key down, or lets it go. A key that is held repeats.
+    void hold(quint32 evdevCode) const;
+    void letGo(quint32 evdevCode) const;
+
     /// Types a text of Latin letters, digits, signs and spaces.
     void type(const QString &text) const;
 
@@ -26,6 +34,7 @@ private:
         bool shifted;
     };
 
+    void pressWhile(const QList<xcb_keysym_t> &modifiers, xcb_keycode_t code) const;
     void send(bool down, xcb_keycode_t code) const;
 
     const XConnection &m_x;

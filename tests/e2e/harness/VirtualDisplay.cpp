@@ -19,3 +19,11 @@ VirtualDisplay::~VirtualDisplay()
 {
     ChildProcess::stop(m_server);
 }
+
+bool VirtualDisplay::setKeyboardLayout(const QString &layout) const
+{
+    return QProcess::execute(
+               QStringLiteral("setxkbmap"),
+               {QStringLiteral("-display"), QString::fromLatin1(m_name), QStringLiteral("-layout"), layout})
+        == 0;
+}

@@ -15,6 +15,9 @@ public:
     /// ":3"; empty when no server could be started.
     QByteArray name() const { return m_name; }
 
+    /// Gives the keyboard another layout, such as "fr" or "us(dvorak)". False when the server has no such layout.
+    bool setKeyboardLayout(const QString &layout) const;
+
 private:
     QProcess m_server;
     QByteArray m_name;

@@ -1,0 +1,43 @@
+#include "X11Connection.h"
+
+#include <QGuiApplication>
+
+xcb_connection_t *X11::connection()
+{
+    auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return x11 ? x11->connection() : nullptr;
+}
+
+xcb_window_t X11::root(xcb_connection_t *connection)
+{
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
+xcb_get_property_cookie_t X11::askProperty(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t name)
+{
+    constexpr quint32 longest = 4096;
+    return xcb_get_property(connection, false, window, name, XCB_ATOM_ANY, 0, longest);
+}
+
+X11::Reply<xcb_get_property_reply_t> X11::property(xcb_connection_t *connection, xcb_get_property_cookie_t request)
+{
+    Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, request, nullptr));
+    if (reply && reply->type == XCB_ATOM_NONE)
+        reply.reset();
+    return reply;
+}
+
+QByteArray X11::bytes(const xcb_get_property_reply_t *property)
+{
+    if (!property || property->format != 8)
+        return {};
+    return {static_cast<const char *>(xcb_get_property_value(property)), xcb_get_property_value_length(property)};
+}
+
+QList<quint32> X11::numbers(const xcb_get_property_reply_t *property)
+{
+    if (!property || property->format != 32)
+        return {};
+    const auto *first = static_cast<const quint32 *>(xcb_get_property_value(property));
+    return {first, first + property->value_len};
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "WindowList.h"
+
+#include <optional>
+
+struct X11WindowAtoms;
+
+/// The windows on an X server: those its window manager stacks, and where there is none, those of the root window.
+/// On anything but X there are none. Each listing costs a few round trips, however many windows there are.
+class X11WindowList : public WindowList {
+public:
+    X11WindowList();
+    ~X11WindowList() override;
+
+    QList<OnScreenWindow> onScreenWindows() override;
+
+private:
+    std::unique_ptr<const X11WindowAtoms> m_atoms;
+};
