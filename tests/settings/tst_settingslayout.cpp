@@ -26,6 +26,7 @@ private slots:
     void theSearchFieldStandsBelowTheTitleBarButtons();
     void theEntriesFollowTheSearchField();
     void theFooterNamesTheProductAndItsVersionAtTheBottom();
+    void theProductsMarkStandsBesideItsNameInItsColour();
     void theSelectedEntryIsSetApart_data();
     void theSelectedEntryIsSetApart();
 
@@ -38,6 +39,7 @@ private slots:
 
     void fromRightToLeftTheSidebarStandsAtTheRight();
     void fromRightToLeftAnEntryBeginsAtTheRight();
+    void fromRightToLeftTheMarkStandsAtTheRightOfTheName();
     void fromRightToLeftTheHeadingBeginsBesideTheSidebar();
 };
 
@@ -99,6 +101,24 @@ void TestSettingsLayout::theFooterNamesTheProductAndItsVersionAtTheBottom()
             lowest = qMax(lowest, SettingsWindow::frame(item).bottom());
     }
     QCOMPARE(lowest, settings.window().height() - sidebarInset - 12);
+}
+
+void TestSettingsLayout::theProductsMarkStandsBesideItsNameInItsColour()
+{
+    SettingsWindow settings;
+    QQuickItem *mark = settings.item("Corvane", QAccessible::Graphic);
+    QQuickItem *footer = settings.label("Corvane\nVersion 1.4");
+    QVERIFY(mark && footer);
+    QCOMPARE(SettingsWindow::color(mark), SettingsWindow::color(EBKit::indigo()));
+    QCOMPARE(mark->property("app").toString(), "corvane");
+    const QRectF frame = SettingsWindow::frame(mark);
+    const QRectF label = SettingsWindow::frame(footer);
+    QCOMPARE(frame.size(), QSizeF(24, 24));
+    QCOMPARE(frame.left(), sidebarInset + 18);
+    QCOMPARE(label.left(), frame.right() + 6);
+    QVERIFY(qAbs(frame.center().y() - label.center().y()) <= 0.5);
+    QVERIFY(SettingsWindow::letters(SettingsWindow::inside(footer, "QQuickText")).right()
+            < sidebarInset + sidebarWidth - 10);
 }
 
 void TestSettingsLayout::theSelectedEntryIsSetApart_data()
@@ -231,6 +251,17 @@ void TestSettingsLayout::fromRightToLeftAnEntryBeginsAtTheRight()
     const QRectF glyph = SettingsWindow::frame(SettingsWindow::inside(entry, "Glyph"));
     QCOMPARE(glyph.right(), frame.right() - 10);
     QVERIFY(SettingsWindow::letters(SettingsWindow::inside(entry, "QQuickText")).right() < glyph.left());
+}
+
+void TestSettingsLayout::fromRightToLeftTheMarkStandsAtTheRightOfTheName()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    SettingsWindow settings;
+    QQuickItem *mark = settings.item("Corvane", QAccessible::Graphic);
+    QVERIFY(mark);
+    QCOMPARE(SettingsWindow::frame(mark).right(), 620 - sidebarInset - 18);
+    QCOMPARE(SettingsWindow::frame(settings.label("Corvane\nVersion 1.4")).right(),
+             SettingsWindow::frame(mark).left() - 6);
 }
 
 void TestSettingsLayout::fromRightToLeftTheHeadingBeginsBesideTheSidebar()

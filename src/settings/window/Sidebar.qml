@@ -1,11 +1,12 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Embera.Tokens
+import Embera.Marks
 import Embera.Controls
 import Embera.Rows
 import Corvane.Settings.Window
 
-/// The search field, the pages it finds, and the product with its version. Up and Down move among the pages.
+/// The search field, the pages it finds, and the product's mark, name and version. Up and Down move among the pages.
 Item {
     id: sidebar
 
@@ -84,13 +85,24 @@ Item {
             }
         }
     }
+    // As high as the two lines beside it, and in line with the pages' glyphs.
+    Mark {
+        id: mark
+        anchors {
+            left: parent.left
+            leftMargin: 18
+            verticalCenter: footer.verticalCenter
+        }
+        size: 24
+        color: EBEnvironment.accent
+    }
     EBLabel {
         id: footer
         anchors {
-            left: parent.left
+            left: mark.right
             right: parent.right
             bottom: parent.bottom
-            leftMargin: 20
+            leftMargin: 6
             rightMargin: 10
             bottomMargin: 12
         }
