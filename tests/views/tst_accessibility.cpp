@@ -269,6 +269,68 @@ private slots:
         QVERIFY(!found->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
     }
 
+    void anItemOffersActionsOfItsOwnAfterThoseOfQt()
+    {
+        const Interface window = show(withActions())->child(0);
+        const QStringList offered = window->actionInterface()->actionNames();
+        QCOMPARE(offered.mid(offered.size() - 2), QStringList({"Close", "Full screen"}));
+        QCOMPARE(window->text(QAccessible::Description), QStringLiteral("Use the actions."));
+
+        const Interface button = show(withActions(QStringLiteral("EBButton"), QStringLiteral("text: 'x'")))->child(0);
+        QCOMPARE(button->actionInterface()->actionNames(),
+                 QStringList({QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::setFocusAction(),
+                              "Close", "Full screen"}));
+    }
+
+    void anActionOfItsOwnCallsItsHandler()
+    {
+        const Interface window = show(withActions())->child(0);
+        window->actionInterface()->doAction(QStringLiteral("Full screen"));
+        window->actionInterface()->doAction(QStringLiteral("Close"));
+        window->actionInterface()->doAction(QStringLiteral("Minimize"));
+        QCOMPARE(item(window)->property("performed").toString(), QStringLiteral("full close "));
+    }
+
+    void anActionOfItsOwnIsShownUnderItsNameAndDescribed()
+    {
+        const QAccessibleActionInterface *actions = show(withActions())->child(0)->actionInterface();
+        QCOMPARE(actions->localizedActionName(QStringLiteral("Full screen")), QStringLiteral("Full screen"));
+        QCOMPARE(actions->localizedActionDescription(QStringLiteral("Full screen")),
+                 QStringLiteral("Fills the screen"));
+        QCOMPARE(actions->localizedActionDescription(QStringLiteral("Close")), QString());
+        QCOMPARE(actions->localizedActionDescription(QAccessibleActionInterface::pressAction()),
+                 QStringLiteral("Triggers the action"));
+    }
+
+    void aDisabledItemOffersNoActionOfItsOwn()
+    {
+        const Interface window = show(withActions())->child(0);
+        item(window)->setEnabled(false);
+        QCOMPARE(window->actionInterface()->actionNames(), QStringList());
+        window->actionInterface()->doAction(QStringLiteral("Close"));
+        QCOMPARE(item(window)->property("performed").toString(), QString());
+    }
+
+    void anActionWithoutANameIsNotOffered()
+    {
+        const Interface found =
+            show(QStringLiteral("Item { Accessible.role: Accessible.Grouping; Accessible.name: 'x'; readonly property "
+                                "list<AccessibleAction> accessibleActions: [AccessibleAction {}] }"))
+                ->child(0);
+        QVERIFY(!found->actionInterface()->actionNames().contains(QString()));
+    }
+
+    void aHandlerMayTakeTheItemAway()
+    {
+        const Interface root = show(QStringLiteral("Item { Loader { id: loader; sourceComponent: Item { "
+                                                   "Accessible.role: Accessible.Grouping; Accessible.name: 'x'; "
+                                                   "readonly property list<AccessibleAction> accessibleActions: "
+                                                   "[AccessibleAction { name: 'Close'; onPerformed: loader.active = "
+                                                   "false }] } } }"));
+        root->child(0)->actionInterface()->doAction(QStringLiteral("Close"));
+        QTRY_COMPARE(root->childCount(), 0);
+    }
+
     void itemsWithoutAccessibilityAndOtherObjectsAreLeftAlone()
     {
         show(QStringLiteral("Item { }"));
@@ -312,6 +374,15 @@ private slots:
     }
 
 private:
+    static QString withActions(const QString &type = QStringLiteral("Item"), const QString &more = {})
+    {
+        return QStringLiteral("%1 { id: root; property string performed; Accessible.role: Accessible.Grouping; "
+                              "Accessible.name: 'x'; Accessible.description: 'Use the actions.'; readonly property "
+                              "list<AccessibleAction> accessibleActions: [AccessibleAction { name: 'Close'; "
+                              "onPerformed: root.performed += 'close ' }, AccessibleAction { name: 'Full screen'; "
+                              "description: 'Fills the screen'; onPerformed: root.performed += 'full ' }]; %2 }")
+            .arg(type, more);
+    }
     void create(const QString &qml)
     {
         QQmlComponent component(&m_engine);

@@ -42,6 +42,16 @@ private slots:
         QVERIFY(1 - curve.valueForProgress(0.9) < 0.05);
     }
 
+    void easeInOutStartsAndEndsSlowlyAndIsSymmetrical()
+    {
+        const QEasingCurve curve = Motion::easeInOut();
+        QCOMPARE(curve.valueForProgress(0), 0.0);
+        QCOMPARE(curve.valueForProgress(1), 1.0);
+        QVERIFY(curve.valueForProgress(0.1) < 0.05);
+        QVERIFY(std::abs(curve.valueForProgress(0.5) - 0.5) < 0.001);
+        QVERIFY(std::abs(curve.valueForProgress(0.8) + curve.valueForProgress(0.2) - 1) < 0.001);
+    }
+
     void springFollowsTheDampedOscillator_data()
     {
         QTest::addColumn<qreal>("response");

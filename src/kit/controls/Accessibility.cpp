@@ -1,11 +1,13 @@
 #include "Accessibility.h"
 
+#include "AccessibleAction.h"
 #include "Platform.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QQmlListReference>
 #include <QQuickItem>
 
 namespace {
@@ -49,12 +51,29 @@ public:
             names.prepend(pressAction());
         if (!takesFocus())
             names.removeAll(setFocusAction());
+        const QList<AccessibleAction *> own = ownActions();
+        for (const AccessibleAction *action : own)
+            names.append(action->name());
         return names;
     }
     void doAction(const QString &name) override
     {
-        if (auto *actions = enabledActions())
+        auto *actions = enabledActions();
+        if (!actions)
+            return;
+        if (AccessibleAction *own = ownAction(name))
+            emit own->performed();
+        else
             actions->doAction(name);
+    }
+    QString localizedActionName(const QString &name) const override
+    {
+        return ownAction(name) ? name : QAccessibleActionInterface::localizedActionName(name);
+    }
+    QString localizedActionDescription(const QString &name) const override
+    {
+        const AccessibleAction *own = ownAction(name);
+        return own ? own->description() : QAccessibleActionInterface::localizedActionDescription(name);
     }
     QStringList keyBindingsForAction(const QString &name) const override
     {
@@ -130,6 +149,27 @@ private:
     QAccessibleActionInterface *enabledActions() const
     {
         return isValid() && m_item->isEnabled() ? original()->actionInterface() : nullptr;
+    }
+
+    /// The actions that the item itself declares.
+    QList<AccessibleAction *> ownActions() const
+    {
+        QList<AccessibleAction *> found;
+        const QQmlListReference declared(m_item, "accessibleActions");
+        for (qsizetype i = 0; i < declared.count(); ++i) {
+            auto *action = qobject_cast<AccessibleAction *>(declared.at(i));
+            if (action && !action->name().isEmpty())
+                found.append(action);
+        }
+        return found;
+    }
+
+    AccessibleAction *ownAction(const QString &name) const
+    {
+        const QList<AccessibleAction *> own = ownActions();
+        const auto found =
+            std::find_if(own.cbegin(), own.cend(), [&](const auto *action) { return action->name() == name; });
+        return found == own.cend() ? nullptr : *found;
     }
 
     bool takesFocus() const
