@@ -80,7 +80,8 @@ void ButtonFace::paint(QPainter *painter)
     paintCapsule(painter, bounds, colors.fill, colors.border);
 
     const qreal leading = geometry.leadingPadding;
-    paintLabel(painter, m_mirrored ? bounds.right() - leading - m_labelWidth : leading, colors.foreground);
+    paintButtonLabel(painter, m_style.font(), m_text, colors.foreground,
+                     m_mirrored ? bounds.right() - leading - m_labelWidth : leading, height());
     if (!m_style.arrow)
         return;
     const qreal diameter = geometry.badgeDiameter;
@@ -89,17 +90,6 @@ void ButtonFace::paint(QPainter *painter)
         painter,
         QRectF(m_mirrored ? bounds.right() - x - diameter : x, bounds.center().y() - diameter / 2, diameter, diameter),
         colors);
-}
-
-void ButtonFace::paintLabel(QPainter *painter, qreal x, const QColor &color) const
-{
-    const QFont font = m_style.font();
-    // Capitals stand in the middle of the capsule whatever room the face leaves above and below them.
-    const qreal baseline = (height() + QFontMetricsF(font).capHeight()) / 2;
-    const qreal scale = painter->device()->devicePixelRatio();
-    painter->setFont(font);
-    painter->setPen(color);
-    painter->drawText(QPointF(x, std::round(baseline * scale) / scale), m_text);
 }
 
 void ButtonFace::paintBadge(QPainter *painter, QRectF circle, const EBButtonStyle::Colors &colors) const
@@ -112,4 +102,15 @@ void ButtonFace::paintBadge(QPainter *painter, QRectF circle, const EBButtonStyl
     }
     paintGlyph(painter, GlyphName::arrow, m_style.geometry().arrowSize, colors.foreground, circle);
     painter->restore();
+}
+
+void paintButtonLabel(QPainter *painter, const QFont &font, const QString &text, const QColor &color, qreal x,
+                      qreal height)
+{
+    // Capitals stand in the middle of the capsule whatever room the face leaves above and below them.
+    const qreal baseline = (height + QFontMetricsF(font).capHeight()) / 2;
+    const qreal scale = painter->device()->devicePixelRatio();
+    painter->setFont(font);
+    painter->setPen(color);
+    painter->drawText(QPointF(x, std::round(baseline * scale) / scale), text);
 }

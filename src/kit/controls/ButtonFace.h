@@ -44,7 +44,6 @@ protected:
 private:
     template <typename Value> bool set(Value &member, const Value &value);
     void measure();
-    void paintLabel(QPainter *painter, qreal x, const QColor &color) const;
     void paintBadge(QPainter *painter, QRectF circle, const EBButtonStyle::Colors &colors) const;
 
     QString m_text;
@@ -56,3 +55,7 @@ private:
     qreal m_labelWidth = 0;
     EBEnvironment *m_environment = nullptr;
 };
+
+/// Paints a button's label from `x` on, in the middle of a button `height` points high.
+void paintButtonLabel(QPainter *painter, const QFont &font, const QString &text, const QColor &color, qreal x,
+                      qreal height);

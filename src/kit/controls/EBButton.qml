@@ -14,7 +14,7 @@ Pressable {
 
     implicitWidth: implicitContentWidth
     implicitHeight: implicitContentHeight
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : KitMetrics.disabledOpacity
 
     contentItem: ButtonFace {
         text: control.text

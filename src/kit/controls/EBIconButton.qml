@@ -12,12 +12,12 @@ Pressable {
     /// The name for accessibility.
     required property string label
     /// The side of its square, in points.
-    property real size: 28
+    property real size: KitMetrics.iconButtonSide
 
     text: label
     implicitWidth: size
     implicitHeight: size
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : KitMetrics.disabledOpacity
     hoverEnabled: true
     containmentMask: background
 
@@ -30,7 +30,7 @@ Pressable {
     }
     contentItem: Glyph {
         name: control.glyph
-        size: control.size * 0.58
+        size: control.size * KitMetrics.iconButtonGlyph
         color: EB.inkMuted
     }
 }

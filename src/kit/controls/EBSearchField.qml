@@ -25,7 +25,7 @@ ContinuousRectangle {
     implicitWidth: 160
     implicitHeight: 28
     color: EB.chip
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : KitMetrics.disabledOpacity
 
     // The glyph belongs to the field: a click on it goes into the text.
     TapHandler {

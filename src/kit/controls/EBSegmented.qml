@@ -34,7 +34,7 @@ ContinuousRectangle {
     implicitWidth: row.implicitWidth + 2 * row.x
     implicitHeight: row.implicitHeight + 2 * row.y
     color: EB.chip
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : KitMetrics.disabledOpacity
     Accessible.role: Accessible.Grouping
     Accessible.name: label
     Keys.onLeftPressed: chooseRight(-1)

@@ -12,7 +12,7 @@ ControlledToggle {
     text: label
     implicitWidth: implicitContentWidth
     implicitHeight: implicitContentHeight
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : KitMetrics.disabledOpacity
 
     contentItem: SwitchFace {
         position: control.isOn ? 1 : 0
@@ -25,7 +25,7 @@ ControlledToggle {
         Behavior on position {
             NumberAnimation {
                 // Only what the person does is animated, and only if motion is welcome at that moment.
-                duration: control.isFlipping ? Motion.duration(0.15) : 0
+                duration: control.isFlipping ? Motion.duration(KitMetrics.switchSeconds) : 0
                 easing: Motion.easeOut
             }
         }

@@ -12,8 +12,8 @@ ContinuousRectangle {
     required property T.Control control
 
     anchors.fill: parent
-    anchors.margins: -4
+    anchors.margins: -(KitMetrics.ringGap + KitMetrics.ringWidth)
     strokeColor: EBEnvironment.accent
-    strokeWidth: 2
+    strokeWidth: KitMetrics.ringWidth
     visible: control.visualFocus
 }

@@ -8,9 +8,9 @@ ContinuousRectangle {
 
     property string keys
 
-    implicitWidth: Math.max(34, text.implicitWidth + 2 * 8)
-    implicitHeight: Math.max(22, text.implicitHeight)
-    radius: 6
+    implicitWidth: Math.max(KitMetrics.keyCapWidth, text.implicitWidth + 2 * KitMetrics.keyCapPadding)
+    implicitHeight: Math.max(KitMetrics.keyCapHeight, text.implicitHeight)
+    radius: KitMetrics.keyCapRadius
     color: EB.chip
     Accessible.role: Accessible.StaticText
     Accessible.name: KeySymbols.spoken(keys)

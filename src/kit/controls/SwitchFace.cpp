@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr QSizeF trackSize(36, 22);
 constexpr QSizeF knobSize(24, 18);
 constexpr qreal inset = 2;
 
@@ -33,17 +32,22 @@ QColor mixed(const QColor &from, const QColor &to, qreal position)
 
 SwitchFace::SwitchFace(QQuickItem *parent) : CrispItem(parent)
 {
-    setImplicitSize(trackSize.width(), trackSize.height());
+    setImplicitSize(switchSize.width(), switchSize.height());
 }
 
 void SwitchFace::paint(QPainter *painter)
 {
-    const qreal position = std::clamp(m_position, 0.0, 1.0);
-    paintCapsule(painter, QRectF(QPointF(), trackSize), mixed(m_trackColor, m_accentColor, position));
+    paintSwitch(painter, m_position, m_mirrored, {m_trackColor, m_accentColor, m_knobColor, m_knobBorderColor});
+}
 
-    const qreal travel = trackSize.width() - knobSize.width() - 2 * inset;
-    const qreal x = inset + travel * (m_mirrored ? 1 - position : position);
-    QColor border = m_knobBorderColor;
+void paintSwitch(QPainter *painter, qreal position, bool mirrored, const SwitchColors &colors)
+{
+    position = std::clamp(position, 0.0, 1.0);
+    paintCapsule(painter, QRectF(QPointF(), switchSize), mixed(colors.track, colors.accent, position));
+
+    const qreal travel = switchSize.width() - knobSize.width() - 2 * inset;
+    const qreal x = inset + travel * (mirrored ? 1 - position : position);
+    QColor border = colors.knobBorder;
     border.setAlphaF(float(border.alphaF() * (1 - position)));
-    paintCapsule(painter, QRectF(QPointF(x, inset), knobSize), m_knobColor, border);
+    paintCapsule(painter, QRectF(QPointF(x, inset), knobSize), colors.knob, border);
 }

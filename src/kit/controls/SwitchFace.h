@@ -4,6 +4,9 @@
 
 #include <QColor>
 
+/// The extent of every switch, in points.
+inline constexpr QSizeF switchSize(36, 22);
+
 /// A switch's track with its knob, in one picture, so that a disabled switch fades as a whole.
 /// 36 × 22 points; `position` runs from 0, off, to 1, on, and everything in between is a mixture.
 class SwitchFace : public CrispItem {
@@ -47,3 +50,14 @@ private:
     QColor m_knobColor;
     QColor m_knobBorderColor;
 };
+
+/// What a switch is painted in; `knobBorder` goes around the knob while it is off.
+struct SwitchColors {
+    QColor track;
+    QColor accent;
+    QColor knob;
+    QColor knobBorder;
+};
+
+/// Paints a switch of `switchSize` at the origin, as `SwitchFace` says.
+void paintSwitch(QPainter *painter, qreal position, bool mirrored, const SwitchColors &colors);

@@ -51,14 +51,18 @@ static QPointF sharpCenter(const QPainter &painter, QPointF center, qreal stroke
     return toPixels.inverted().map(QPointF(std::round(at.x() - offset) + offset, std::round(at.y() - offset) + offset));
 }
 
+QRectF glyphBox(const QPainter &painter, qreal size, const QRectF &bounds)
+{
+    QRectF box(0, 0, size, size);
+    box.moveCenter(sharpCenter(painter, bounds.center(), glyphStrokeWidth(size)));
+    return box;
+}
+
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds)
 {
     if (!(size > 0))
         return;
-    const qreal width = glyphStrokeWidth(size);
-    QRectF box(0, 0, size, size);
-    box.moveCenter(sharpCenter(*painter, bounds.center(), width));
-    QPen pen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(color, glyphStrokeWidth(size), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     pen.setMiterLimit(10);
-    painter->strokePath(GlyphShape{name}.path(box), pen);
+    painter->strokePath(GlyphShape{name}.path(glyphBox(*painter, size, bounds)), pen);
 }

@@ -41,5 +41,9 @@ private:
     QColor m_color = Qt::black;
 };
 
-/// Strokes a glyph of `size` points in the middle of `bounds`, to the nearest half device pixel.
+/// The square of `size` points in the middle of `bounds`, to the nearest half device pixel, in which the lines of a
+/// glyph are sharp.
+QRectF glyphBox(const QPainter &painter, qreal size, const QRectF &bounds);
+
+/// Strokes a glyph of `size` points in its `glyphBox`.
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds);

@@ -11,7 +11,7 @@ ContinuousRectangle {
     property bool small: false
     property bool on: false
 
-    implicitWidth: small ? 22 : 28
+    implicitWidth: small ? KitMetrics.smallDiscDiameter : KitMetrics.discDiameter
     implicitHeight: implicitWidth
     color: on ? EBEnvironment.accent : "transparent"
     strokeColor: EB.lineStrong
@@ -20,7 +20,7 @@ ContinuousRectangle {
     Glyph {
         anchors.fill: parent
         name: disc.glyph
-        size: disc.small ? 12 : 15
+        size: disc.small ? KitMetrics.smallDiscGlyph : KitMetrics.discGlyph
         color: disc.on ? EBEnvironment.onAccent : EB.ink
     }
 }

@@ -11,7 +11,7 @@ ContinuousRectangle {
     implicitWidth: rows.implicitWidth
     implicitHeight: rows.implicitHeight
     width: parent?.width ?? implicitWidth
-    radius: 16
+    radius: KitMetrics.cardRadius
     color: EB.surface
 
     Column {

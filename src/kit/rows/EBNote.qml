@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Controls
 
 /// A muted remark below a group. It wraps.
 EBText {
@@ -7,8 +8,8 @@ EBText {
     color: EB.inkMuted
     horizontalAlignment: Text.AlignLeft
     wrapMode: Text.Wrap
-    leftPadding: 16
-    rightPadding: 16
+    leftPadding: KitMetrics.rowInset
+    rightPadding: KitMetrics.rowInset
     Accessible.role: Accessible.StaticText
     Accessible.name: text
     width: parent?.width ?? implicitWidth

@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Controls
 import Embera.Rows
 
 /// What stands in a row: a disc, a title with an optional detail below it, and whatever is put into the row at its
@@ -14,11 +15,11 @@ Item {
     property real minHeight: 0
     default property alias trailing: trailingRow.data
     /// Everything in the row's width that is not text.
-    readonly property real edges: 2 * 16 + (glyph !== "" ? disc.width + 12 : 0)
-        + (trailingRow.width > 0 ? trailingRow.width + 12 : 0)
+    readonly property real edges: 2 * KitMetrics.rowInset + (glyph !== "" ? disc.width + KitMetrics.rowSpacing : 0)
+        + (trailingRow.width > 0 ? trailingRow.width + KitMetrics.rowSpacing : 0)
 
     implicitWidth: edges + Math.max(titleText.implicitWidth, detailText.implicitWidth)
-    implicitHeight: Math.max(minHeight, content.implicitHeight + 2 * 6)
+    implicitHeight: Math.max(minHeight, content.implicitHeight + 2 * KitMetrics.rowPadding)
     width: parent?.width ?? implicitWidth
 
     Row {
@@ -26,10 +27,10 @@ Item {
 
         anchors {
             left: parent.left
-            leftMargin: 16
+            leftMargin: KitMetrics.rowInset
             verticalCenter: parent.verticalCenter
         }
-        spacing: 12
+        spacing: KitMetrics.rowSpacing
 
         EBDisc {
             id: disc
@@ -43,7 +44,7 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             width: Math.max(0, row.width - row.edges)
-            spacing: 1
+            spacing: KitMetrics.rowLineSpacing
 
             EBText {
                 id: titleText
@@ -75,7 +76,7 @@ Item {
             id: trailingRow
 
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 12
+            spacing: KitMetrics.rowSpacing
         }
     }
 }

@@ -9,7 +9,7 @@ Item {
     /// How far the line stays away from the leading edge, in points.
     property real inset: 0
 
-    implicitHeight: 1
+    implicitHeight: KitMetrics.ruleHeight
     width: parent?.width ?? implicitWidth
 
     ContinuousRectangle {

@@ -14,7 +14,7 @@ Item {
 
     ContinuousRectangle {
         anchors.fill: parent
-        radius: 16
+        radius: KitMetrics.cardRadius
         color: EB.sunk
     }
     Item {

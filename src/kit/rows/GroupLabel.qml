@@ -1,4 +1,5 @@
 import QtQuick
+import Embera.Controls
 import Embera.Rows
 
 /// The label above a group. It hangs 4 points out at its bottom, which brings the group that follows closer.
@@ -7,7 +8,7 @@ Item {
 
     property alias text: label.text
 
-    implicitWidth: label.implicitWidth + 16
+    implicitWidth: label.implicitWidth + KitMetrics.rowInset
     implicitHeight: label.implicitHeight
     width: parent?.width ?? implicitWidth
 
@@ -17,9 +18,9 @@ Item {
         anchors {
             left: parent.left
             right: parent.right
-            leftMargin: 16
+            leftMargin: KitMetrics.rowInset
             top: parent.top
-            topMargin: 4
+            topMargin: KitMetrics.groupLabelPadding
         }
     }
 }

@@ -1,0 +1,153 @@
+#include "EBKitSwitch.h"
+#include "FakePlatform.h"
+#include "Picture.h"
+#include "Warnings.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+const QColor ground(0, 0, 200);
+
+}
+
+class TestEBKitSwitch : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        m_platform.look.setReduceMotion(true);
+        m_told.clear();
+    }
+
+    void itLooksLikeTheDeclarativeSwitch()
+    {
+        for (const EBApp app : EBApps::allCases) {
+            EBKitSwitch toggle(true, EBKitApps::of(app), QStringLiteral("Show"), {});
+            QCOMPARE(toggle.sizeHint(), QSize(36, 22));
+            QCOMPARE(toggle.size(), QSize(36, 22));
+            const Picture on(toggle, ground);
+            COMPARE_COLOR(on.at(4, 11), EBApps::family(app).accent.current());
+            COMPARE_COLOR(on.at(30, 11), EBKit::knob().current());
+            COMPARE_COLOR(on.at(35, 11), EBApps::family(app).accent.current());
+            COMPARE_COLOR(on.at(0.3, 0.3), ground);
+            toggle.setIsOn(false);
+            const Picture off(toggle, ground);
+            COMPARE_COLOR(off.at(4, 11), EBKit::knob().current());
+            COMPARE_COLOR(off.at(30, 11), over(EBKit::track().current(), ground));
+            COMPARE_COLOR(off.at(2.5, 11), over(EBKit::lineStrong().current(), EBKit::knob().current()));
+        }
+    }
+
+    void aClickTurnsItAndTells()
+    {
+        EBKitSwitch toggle = made(false);
+        QTest::mouseClick(&toggle, Qt::LeftButton, {}, {30, 11});
+        QVERIFY(toggle.isOn());
+        QCOMPARE(m_told, QList<bool>({true}));
+        QTest::mouseClick(&toggle, Qt::LeftButton, {}, {30, 11});
+        QVERIFY(!toggle.isOn());
+        QCOMPARE(m_told, QList<bool>({true, false}));
+    }
+
+    void onlyAWholeClickCounts()
+    {
+        EBKitSwitch toggle = made(false);
+        QTest::mouseClick(&toggle, Qt::RightButton, {}, {30, 11});
+        QTest::mousePress(&toggle, Qt::LeftButton, {}, {30, 11});
+        QTest::mouseMove(&toggle, {30, 60});
+        QTest::mouseRelease(&toggle, Qt::LeftButton, {}, {30, 60});
+        // Cut off by the half circle at the end.
+        QTest::mouseClick(&toggle, Qt::LeftButton, {}, {0, 1});
+        QVERIFY(!toggle.isOn());
+        QCOMPARE(m_told, QList<bool>());
+    }
+
+    void spaceAndReturnTurnIt()
+    {
+        EBKitSwitch toggle = made(false);
+        QTest::keyPress(&toggle, Qt::Key_Space);
+        QVERIFY(!toggle.isOn());
+        QTest::keyRelease(&toggle, Qt::Key_Space);
+        QVERIFY(toggle.isOn());
+        QTest::keyClick(&toggle, Qt::Key_Return);
+        QVERIFY(!toggle.isOn());
+        QTest::keyClick(&toggle, Qt::Key_Enter);
+        QVERIFY(toggle.isOn());
+        QTest::keyClick(&toggle, Qt::Key_A);
+        QCOMPARE(m_told, QList<bool>({true, false, true}));
+    }
+
+    void aHeldKeyTurnsItOnce()
+    {
+        EBKitSwitch toggle = made(false);
+        for (const bool repeated : {false, true, true}) {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), repeated);
+            QCoreApplication::sendEvent(&toggle, &event);
+        }
+        QCOMPARE(m_told, QList<bool>({true}));
+    }
+
+    void settingItTellsNobody()
+    {
+        EBKitSwitch toggle = made(false);
+        toggle.setIsOn(true);
+        QVERIFY(toggle.isOn());
+        QCOMPARE(m_told, QList<bool>());
+    }
+
+    void itNeedsNobodyToTell()
+    {
+        EBKitSwitch toggle(false, EBKitApps::of(EBApp::corvane), QStringLiteral("Show"), {});
+        toggle.press();
+        QVERIFY(toggle.isOn());
+    }
+
+    void aDisabledSwitchStays()
+    {
+        EBKitSwitch toggle = made(false);
+        toggle.setEnabled(false);
+        clickInVain(toggle, {30, 11});
+        toggle.press();
+        QVERIFY(!toggle.isOn());
+        QCOMPARE(m_told, QList<bool>());
+    }
+
+    void itSlidesUnlessMotionIsReduced()
+    {
+        EBKitSwitch toggle = made(false);
+        toggle.press();
+        COMPARE_COLOR(Picture(toggle, ground).at(4, 11), EBKit::indigo().current());
+
+        m_platform.look.setReduceMotion(false);
+        toggle.press();
+        QVERIFY(!toggle.isOn());
+        // It has only just set off.
+        COMPARE_COLOR(Picture(toggle, ground).at(4, 11), EBKit::indigo().current());
+        QTRY_VERIFY(isNear(Picture(toggle, ground).at(4, 11), EBKit::knob().current()));
+    }
+
+    void aMirroredSwitchIsOnAtTheLeft()
+    {
+        EBKitSwitch toggle = made(true);
+        toggle.setLayoutDirection(Qt::RightToLeft);
+        COMPARE_COLOR(Picture(toggle, ground).at(4, 11), EBKit::knob().current());
+        COMPARE_COLOR(Picture(toggle, ground).at(32, 11), EBKit::indigo().current());
+    }
+
+private:
+    EBKitSwitch made(bool isOn)
+    {
+        return EBKitSwitch(isOn, EBKitApps::of(EBApp::corvane), QStringLiteral("Show"),
+                           [this](bool now) { m_told.append(now); });
+    }
+
+    FakePlatform &m_platform = FakePlatform::install();
+    QList<bool> m_told;
+};
+
+QTEST_MAIN(TestEBKitSwitch)
+#include "tst_ebkitswitch.moc"
