@@ -91,6 +91,13 @@ QEasingCurve sampled(const Oscillator &oscillator, qreal seconds)
     return curve;
 }
 
+QEasingCurve bezier(QPointF first, QPointF second)
+{
+    QEasingCurve curve(QEasingCurve::BezierSpline);
+    curve.addCubicBezierSegment(first, second, QPointF(1, 1));
+    return curve;
+}
+
 }
 
 int Motion::duration(qreal seconds)
@@ -102,9 +109,12 @@ int Motion::duration(qreal seconds)
 
 QEasingCurve Motion::easeOut()
 {
-    QEasingCurve curve(QEasingCurve::BezierSpline);
-    curve.addCubicBezierSegment(QPointF(0, 0), QPointF(0.58, 1), QPointF(1, 1));
-    return curve;
+    return bezier(QPointF(0, 0), QPointF(0.58, 1));
+}
+
+QEasingCurve Motion::easeInOut()
+{
+    return bezier(QPointF(0.42, 0), QPointF(0.58, 1));
 }
 
 MotionSpring Motion::spring(qreal response, qreal dampingFraction)

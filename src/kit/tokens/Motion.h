@@ -23,6 +23,8 @@ class Motion : public QObject {
     QML_SINGLETON
     /// Sets off at once and comes to rest gently.
     Q_PROPERTY(QEasingCurve easeOut READ easeOut CONSTANT)
+    /// Sets off and comes to rest gently.
+    Q_PROPERTY(QEasingCurve easeInOut READ easeInOut CONSTANT)
 public:
     using QObject::QObject;
 
@@ -31,6 +33,7 @@ public:
     Q_INVOKABLE static int duration(qreal seconds);
 
     static QEasingCurve easeOut();
+    static QEasingCurve easeInOut();
 
     /// A damped oscillator let go at 0 and pulled to 1. `response` is the period of its undamped swing in
     /// seconds; a `dampingFraction` of 1 comes to rest without overshooting, less overshoots, more creeps.

@@ -1,0 +1,24 @@
+import QtQuick
+import Embera.Tokens
+import Embera.Controls
+
+/// The second action of a loud screen: nothing but its title.
+Pressable {
+    id: button
+
+    implicitWidth: implicitContentWidth
+    implicitHeight: implicitContentHeight
+
+    contentItem: LoudText {
+        text: button.text
+        role: "small"
+        opacity: 0.8
+        Accessible.ignored: true
+    }
+
+    FocusRing {
+        control: button
+        radius: 6
+        strokeColor: EBEnvironment.onLoud
+    }
+}
