@@ -20,6 +20,9 @@ Item {
     property real maximizeShare: showMaximize ? 1 : 0
     /// From one button to the next, a whole number of device pixels: the gaps between the buttons look the same.
     readonly property real step: Math.round((diameter + spacing) * Screen.devicePixelRatio) / Screen.devicePixelRatio
+    /// Where the row stands, seen from the top left corner of the window it hangs over: the middle of Close is 3 points
+    /// to the left of that corner and 2 above it.
+    readonly property point hang: Qt.point(-3 - diameter / 2, -2 - diameter / 2)
 
     implicitWidth: diameter + step * (minimizeShare + maximizeShare)
     implicitHeight: diameter

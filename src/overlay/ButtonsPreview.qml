@@ -49,8 +49,8 @@ EBWell {
             title: qsTr("Start page")
         }
         ButtonCluster {
-            x: fake.x - 3 - preview.diameter / 2
-            y: fake.y - 2 - preview.diameter / 2
+            x: fake.x + hang.x
+            y: fake.y + hang.y
             theme: preview.theme
             diameter: preview.diameter
             showMinimize: preview.showMinimize

@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Glyphs
 import Embera.Controls
 import Embera.Rows
 import Corvane.Overlay
@@ -12,6 +13,8 @@ WindowFace {
     property string app
     /// The window's title.
     property string title
+    /// The raw string of the application's glyph; without one none is shown.
+    property string glyph
 
     contentTop: chip.y + chip.height + (compact ? 6 : 7)
     LayoutMirroring.enabled: false
@@ -25,6 +28,17 @@ WindowFace {
         text: fake.app
         small: true
         Accessible.ignored: true
+    }
+    Glyph {
+        anchors {
+            right: parent.right
+            rightMargin: fake.margin
+            verticalCenter: caption.verticalCenter
+        }
+        name: fake.glyph
+        size: fake.compact ? 13 : 16
+        color: EB.inkMuted
+        visible: name !== ""
     }
     ContinuousRectangle {
         id: chip

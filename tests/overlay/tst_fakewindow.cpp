@@ -1,4 +1,5 @@
 #include "EBKit.h"
+#include "Glyph.h"
 #include "OverlayView.h"
 #include "WindowFace.h"
 
@@ -12,6 +13,7 @@ private slots:
     void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void itsTextsAreACaptionAndALabelOnAChip();
+    void itsGlyphStandsBesideTheCaption();
     void itIsACardWithABorderAndRoundCorners_data();
     void itIsACardWithABorderAndRoundCorners();
     void theCornersAreSmallerInTheCompactForm();
@@ -56,6 +58,24 @@ void FakeWindowTest::itsTextsAreACaptionAndALabelOnAChip()
     QVERIFY(isNear(view.pixel(label, {-3, label->height() / 2}),
                    over(EBKit::chip().current(), EBKit::surface().current())));
     QVERIFY(view.rectOf(caption).bottom() <= view.rectOf(label).top());
+}
+
+void FakeWindowTest::itsGlyphStandsBesideTheCaption()
+{
+    OverlayView plain("FakeWindow", properties(true, {128, 74}), 0);
+    QVERIFY(plain.all<Glyph>().isEmpty());
+    QVariantMap withGlyph = properties(true, {128, 74});
+    withGlyph.insert("glyph", "globe");
+    OverlayView view("FakeWindow", withGlyph, 0);
+    const auto glyphs = view.all<Glyph>();
+    QCOMPARE(glyphs.size(), 1);
+    QCOMPARE(glyphs.constFirst()->name(), "globe");
+    QVERIFY(isNear(glyphs.constFirst()->color(), EBKit::inkMuted().current()));
+    const QRectF caption = view.rectOf(view.textItem("BROWSER"));
+    const QRectF glyph = view.rectOf(glyphs.constFirst());
+    QCOMPARE(glyph.right(), 128.0 - view.all<WindowFace>().constFirst()->margin());
+    QVERIFY(std::abs(glyph.center().y() - caption.center().y()) <= 1);
+    QVERIFY(caption.right() < glyph.left());
 }
 
 void FakeWindowTest::itIsACardWithABorderAndRoundCorners_data()

@@ -1,0 +1,191 @@
+import QtQuick
+import QtQuick.Templates as T
+import Embera.Tokens
+import Embera.Controls
+import Corvane.Overlay
+import Corvane.Demo
+
+/// The place of one pretend window: the window itself as long as it is visible, and the overlay buttons over its corner
+/// while it is hovered. Having the keyboard focus counts as being hovered, so that all can be practised without a
+/// pointer.
+Item {
+    id: cell
+
+    required property DemoModel model
+    required property demoWin win
+    /// The buttons as the store has them; an unknown text reads as the default.
+    property string theme
+    property string size
+    property bool showMinimize: false
+    property bool showMaximize: false
+
+    readonly property bool isVisible: win.isVisible
+    readonly property bool isFull: win.state === "full"
+    readonly property bool isHovered: isVisible && model?.hovered === win.id
+
+    function perform(hotkey: string) {
+        model.apply(hotkey, win.id);
+    }
+
+    /// The buttons that stick out across the corner belong to the window while they are there.
+    function followPointer() {
+        if (overWindow.hovered || (isHovered && overButtons.hovered))
+            model.enter(win.id);
+        else
+            model?.leave(win.id);
+    }
+
+    implicitWidth: 128
+    implicitHeight: 74
+    z: isHovered || isFull ? 2 : 1
+    // Only while it holds the focus for a window that is gone: the next Tab goes on from here.
+    activeFocusOnTab: activeFocus
+    // What nobody sees is not hovered.
+    onVisibleChanged: if (!visible)
+        model?.leave(win.id)
+    Component.onDestruction: model?.leave(win.id)
+
+    HoverHandler {
+        id: overWindow
+
+        onHoveredChanged: cell.followPointer()
+    }
+    // Below the buttons.
+    FocusRing {
+        control: element
+        radius: 9 + KitMetrics.ringGap + KitMetrics.ringWidth
+    }
+    Item {
+        id: body
+
+        width: parent.width
+        height: parent.height
+        y: cell.win.state === "minimized" ? 120 : 0
+        opacity: cell.isVisible ? 1 : 0
+
+        Behavior on y {
+            DemoSpring {
+                model: cell.model
+            }
+        }
+        Behavior on opacity {
+            DemoSpring {
+                model: cell.model
+            }
+        }
+
+        FakeWindow {
+            anchors.fill: parent
+            compact: true
+            app: cell.win.app
+            title: cell.win.title
+            glyph: cell.win.glyph
+        }
+        FullScreenBadge {
+            anchors {
+                right: parent.right
+                bottom: parent.bottom
+                margins: 7
+            }
+            opacity: cell.isFull ? 1 : 0
+            visible: opacity > 0
+
+            Behavior on opacity {
+                DemoSpring {
+                    model: cell.model
+                }
+            }
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            radius: 9
+            strokeColor: EB.ink
+            strokeWidth: 2
+            opacity: cell.isHovered ? 1 : 0
+            visible: opacity > 0
+
+            Behavior on opacity {
+                DemoSpring {
+                    model: cell.model
+                }
+            }
+        }
+        // Below the buttons, which are pictures. It takes the press from a window that moves by its background.
+        MouseArea {
+            x: cluster.x
+            y: cluster.y
+            width: cluster.width
+            height: cluster.height
+            enabled: cell.isHovered
+            onClicked: mouse => {
+                const button = cluster.childAt(mouse.x, mouse.y) as DemoButton;
+                if (button)
+                    cell.perform(button.kind);
+            }
+        }
+        ButtonCluster {
+            id: cluster
+
+            /// How much of the cluster is there: between 0 and 1, a little beyond while it swings.
+            property real share: cell.isHovered ? 1 : 0
+
+            x: hang.x
+            y: hang.y
+            theme: cell.theme
+            // The table of the sizes, scaled to the miniature: 16, 20 and 25.6 points.
+            diameter: 0.8 * ButtonChoices.diameter(cell.size)
+            spacing: 3
+            showMinimize: cell.showMinimize
+            showMaximize: cell.showMaximize
+            transformOrigin: Item.Left
+            scale: 0.3 + 0.7 * share
+            opacity: share
+            visible: share > 0
+
+            Behavior on share {
+                DemoSpring {
+                    model: cell.model
+                }
+            }
+            HoverHandler {
+                id: overButtons
+
+                enabled: cell.isHovered
+                blocking: true
+                onHoveredChanged: cell.followPointer()
+            }
+        }
+    }
+    T.Control {
+        id: element
+
+        readonly property int accessibleRole: Accessible.Grouping
+        readonly property list<AccessibleAction> accessibleActions: [
+            AccessibleAction {
+                name: qsTr("Close")
+                onPerformed: cell.perform("close")
+            },
+            AccessibleAction {
+                name: qsTr("Minimize")
+                onPerformed: cell.perform("minimize")
+            },
+            AccessibleAction {
+                name: qsTr("Full screen")
+                onPerformed: cell.perform("maximize")
+            }
+        ]
+
+        anchors.fill: parent
+        visible: cell.isVisible
+        hoverEnabled: false
+        focusPolicy: Qt.TabFocus
+        //: %1 is the name of an application, %2 the title of its window.
+        Accessible.name: cell.isFull ? qsTr("%1 window, %2, full screen").arg(cell.win.app).arg(cell.win.title) :
+                                       //: %1 is the name of an application, %2 the title of its window.
+                                       qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
+        Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
+        onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.model?.leave(cell.win.id)
+        onVisibleChanged: if (!visible && activeFocus)
+            cell.forceActiveFocus(Qt.OtherFocusReason)
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "GlyphName.h"
+
+#include <QObject>
+#include <qqmlregistration.h>
+
+/// What can become of a pretend window.
+#define DEMO_STATES(STATE) STATE(normal) STATE(closed) STATE(minimized) STATE(hidden) STATE(full)
+
+enum class DemoState {
+#define STATE(name) name,
+    DEMO_STATES(STATE)
+#undef STATE
+};
+
+/// The state's raw string, which is its case name.
+QString rawValue(DemoState state);
+
+/// One pretend window.
+struct DemoWin {
+    Q_GADGET
+    QML_VALUE_TYPE(demoWin)
+    /// Stable, and equal to the place in the list at first.
+    Q_PROPERTY(int id MEMBER id)
+    /// The pretend application's name; windows of one application share it exactly.
+    Q_PROPERTY(QString app MEMBER app)
+    Q_PROPERTY(QString title MEMBER title)
+    /// The application's icon, and what has become of the window, both by their raw strings.
+    Q_PROPERTY(QString glyph READ glyphName)
+    Q_PROPERTY(QString state READ stateName)
+    Q_PROPERTY(bool isVisible READ isVisible)
+public:
+    int id = -1;
+    QString app;
+    QString title;
+    GlyphName glyph = GlyphName::wins;
+    DemoState state = DemoState::normal;
+
+    QString glyphName() const { return rawValue(glyph); }
+    QString stateName() const { return rawValue(state); }
+    bool isVisible() const { return state == DemoState::normal || state == DemoState::full; }
+    bool operator==(const DemoWin &other) const = default;
+};

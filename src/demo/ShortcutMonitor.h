@@ -1,0 +1,34 @@
+#pragma once
+
+#include "DemoModel.h"
+#include "KeyMonitor.h"
+
+#include <QPointer>
+
+#include <memory>
+
+/// Takes the agent's shortcuts away from this application while they are practised: every one that is pressed goes to
+/// the model and nowhere else, and a held key counts once. All other keys go their way.
+class ShortcutMonitor : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    /// Without a model the shortcuts are taken away and nothing more.
+    Q_PROPERTY(DemoModel *model MEMBER m_model NOTIFY modelChanged)
+    /// Whether the practice is on the screen. Nothing is listened to otherwise.
+    Q_PROPERTY(bool active READ active WRITE setActive NOTIFY activeChanged)
+public:
+    using QObject::QObject;
+
+    bool active() const { return m_monitor != nullptr; }
+    void setActive(bool active);
+
+signals:
+    void modelChanged();
+    void activeChanged();
+
+private:
+    bool handle(const KeyDown &key);
+
+    QPointer<DemoModel> m_model;
+    std::unique_ptr<KeyMonitor> m_monitor;
+};
