@@ -6,6 +6,7 @@
 
 #include <QDBusMessage>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -19,6 +20,7 @@ namespace {
 const QString program = QStringLiteral(CORVANE_AGENT_PROGRAM);
 const QString enabledKey = QStringLiteral("agent.launchAtLogin");
 const QString waitingKey = QStringLiteral("agent.launchAtLoginNeedsApproval");
+const QString trustedKey = QStringLiteral("agent.accessibilityTrusted");
 constexpr int startTime = 30000; // milliseconds; the sanitizers and a busy machine make it long
 
 /// Posts a command as the application does.
@@ -63,6 +65,9 @@ private slots:
     void commandsArePrintedInOrder();
     void whatIsNoCommandIsPrintedAndChangesNothing();
     void aRequestForThePermissionGrantsNothingByItself();
+    void withATimeARequestGrantsThePermissionAfterIt();
+    void aTimeThatIsNoneEndsTheAgent_data();
+    void aTimeThatIsNoneEndsTheAgent();
 
     void aFreshAgentReportsThatItIsNoLoginItem();
     void registeringWritesADesktopEntry();
@@ -103,7 +108,7 @@ private:
 void AgentTest::init()
 {
     QTest::failOnWarning(QRegularExpression(".*"));
-    for (const QString &key : {enabledKey, waitingKey})
+    for (const QString &key : {enabledKey, waitingKey, trustedKey})
         m_store.setValue(key, QVariant());
     QDir(m_autostart).removeRecursively();
 }
@@ -213,6 +218,39 @@ void AgentTest::aRequestForThePermissionGrantsNothingByItself()
     post("requestAccessibility");
     finish();
     QCOMPARE(writes.keys, QStringList());
+}
+
+void AgentTest::withATimeARequestGrantsThePermissionAfterIt()
+{
+    start({"--grant-after", "0.3"});
+    finish();
+    QVERIFY(!m_store.value(trustedKey).isValid());
+    QElapsedTimer sinceRequest;
+    sinceRequest.start();
+    post("requestAccessibility");
+    QTRY_COMPARE(m_store.value(trustedKey), QVariant(true));
+    QVERIFY(sinceRequest.elapsed() >= 300);
+    // Withdrawn and requested again, it is granted again.
+    m_store.setValue(trustedKey, false);
+    post("requestAccessibility");
+    QTRY_COMPARE(m_store.value(trustedKey), QVariant(true));
+}
+
+void AgentTest::aTimeThatIsNoneEndsTheAgent_data()
+{
+    QTest::addColumn<QString>("time");
+    for (const char *time : {"soon", "-1", "", "nan", "inf", "3601"})
+        QTest::newRow(*time ? time : "empty") << QString(time);
+}
+
+void AgentTest::aTimeThatIsNoneEndsTheAgent()
+{
+    QFETCH(QString, time);
+    Program agent(program, QProcessEnvironment::systemEnvironment());
+    QVERIFY(agent.start({"--headless", "--grant-after", time}));
+    QVERIFY(agent.waitForExit());
+    QCOMPARE(agent.exitCode(), 1);
+    QCOMPARE(agent.complaints(), QStringList("--grant-after takes a number of seconds from 0 to 3600."));
 }
 
 void AgentTest::aFreshAgentReportsThatItIsNoLoginItem()

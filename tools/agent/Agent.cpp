@@ -1,6 +1,7 @@
 #include "Agent.h"
 
 #include "Platform.h"
+#include "Report.h"
 #include "Shared.h"
 
 #include <QJsonDocument>
@@ -9,14 +10,6 @@
 #include <cstdio>
 
 namespace {
-
-/// Writes a key only when it says something new: every write wakes whoever watches the store.
-void report(const QString &key, bool value)
-{
-    const QVariant stored = Shared::store().value(key);
-    if (stored.typeId() != QMetaType::Bool || stored.toBool() != value)
-        Shared::store().setValue(key, value);
-}
 
 void print(const QVariantMap &userInfo)
 {

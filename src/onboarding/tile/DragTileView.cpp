@@ -1,0 +1,56 @@
+#include "DragTileView.h"
+
+#include "IconImage.h"
+
+#include <QCursor>
+#include <QDrag>
+#include <QMimeData>
+#include <QQuickWindow>
+
+namespace {
+
+/// Where the dragged picture leaves the view.
+constexpr QPointF pictureCorner(12, 10);
+constexpr int pictureSide = 56;
+
+}
+
+DragTileView::DragTileView(const QUrl &appURL, const QIcon &icon, QQuickItem *content)
+    : m_appURL(appURL), m_icon(icon), m_content(content)
+{
+    setAcceptedMouseButtons(Qt::LeftButton);
+    setCursor(Qt::OpenHandCursor);
+    content->setParent(this);
+    content->setParentItem(this);
+    // Behind the view itself, which therefore is the first to be asked about the pointer.
+    content->setZ(-1);
+}
+
+void DragTileView::geometryChange(const QRectF &now, const QRectF &before)
+{
+    QQuickItem::geometryChange(now, before);
+    m_content->setSize(now.size());
+}
+
+QDrag *DragTileView::makeDrag(QPointF point)
+{
+    auto *data = new QMimeData;
+    data->setUrls({m_appURL});
+    auto *drag = new QDrag(this);
+    drag->setMimeData(data);
+    drag->setPixmap(IconImage::picture(m_icon, pictureSide, window()->effectiveDevicePixelRatio()));
+    drag->setHotSpot((point - pictureCorner).toPoint());
+    return drag;
+}
+
+void DragTileView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_isDragging)
+        return;
+    // The button is let go over another window, and nobody here will hear of it.
+    ungrabMouse();
+    m_isDragging = true;
+    makeDrag(event->position())->exec(Qt::CopyAction, Qt::CopyAction);
+    m_isDragging = false;
+    emit dragEnded();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "CrispItem.h"
+
+#include <QIcon>
+
+/// Lets QML hand icons on.
+struct IconValue {
+    Q_GADGET
+    QML_FOREIGN(QIcon)
+    QML_VALUE_TYPE(icon)
+};
+
+/// An application's icon, as large as the item whatever sizes it comes in. Absent from accessibility.
+class IconImage : public CrispItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QIcon icon READ icon WRITE setIcon NOTIFY iconChanged)
+public:
+    using CrispItem::CrispItem;
+
+    QIcon icon() const { return m_icon; }
+    void setIcon(const QIcon &icon);
+
+    /// A picture of `side` × `side` points for a screen of that scale.
+    static QPixmap picture(const QIcon &icon, int side, qreal scale);
+
+signals:
+    void iconChanged();
+
+protected:
+    void paint(QPainter *painter) override;
+
+private:
+    QIcon m_icon;
+};

@@ -1,0 +1,11 @@
+#include "Report.h"
+
+#include "Shared.h"
+#include "UserDefaults.h"
+
+void report(const QString &key, bool value)
+{
+    const QVariant stored = Shared::store().value(key);
+    if (stored.typeId() != QMetaType::Bool || stored.toBool() != value)
+        Shared::store().setValue(key, value);
+}
