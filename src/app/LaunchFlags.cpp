@@ -31,3 +31,9 @@ bool LaunchFlags::about()
     static const bool given = isGiven("--about");
     return given;
 }
+
+bool LaunchFlags::replay()
+{
+    static const bool given = isGiven("--replay");
+    return given;
+}

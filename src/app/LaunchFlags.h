@@ -13,4 +13,7 @@ bool onboarding();
 /// "--about": show only the About window.
 bool about();
 
+/// "--replay": the onboarding guide is shown once more, to somebody who knows it.
+bool replay();
+
 }

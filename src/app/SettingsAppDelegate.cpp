@@ -1,24 +1,32 @@
 #include "SettingsAppDelegate.h"
 
+#include "AboutWindow.h"
 #include "Accessibility.h"
 #include "EBKitFonts.h"
 #include "EBSettingsWindowController.h"
 #include "EBType.h"
 #include "GeneralActions.h"
+#include "GuideWindowController.h"
 #include "LaunchFlags.h"
 #include "Platform.h"
 #include "SettingsPages.h"
+#include "Shared.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
 
 namespace {
 
-/// Loads the faces that the settings window is set in. The kit's body becomes the face of whatever sets none
-/// of its own, so that no other is loaded for that.
-void loadFaces()
+/// The kit's body becomes the face of whatever sets none of its own, so that no other is loaded for that.
+void chooseBodyFace()
 {
     QGuiApplication::setFont(EBTypes::font(EBTypeRole::body));
+}
+
+/// Loads the faces that the settings window is set in.
+void loadFaces()
+{
+    chooseBodyFace();
     const QFont medium = EBTypes::systemFont(13, QFont::Medium);
     for (const QFont &font :
          {EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
@@ -39,13 +47,42 @@ SettingsAppDelegate::~SettingsAppDelegate() = default;
 
 void SettingsAppDelegate::applicationDidFinishLaunching()
 {
-    if (LaunchFlags::onboarding() || LaunchFlags::about()) {
-        EBKitFonts::registerFonts();
-        // This build has neither window yet, and a process without one would linger unseen.
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    if (LaunchFlags::onboarding()) {
+        openOnboarding();
+        return;
+    }
+    if (LaunchFlags::about()) {
+        openAbout();
         return;
     }
     openSettings();
+}
+
+void SettingsAppDelegate::openOnboarding()
+{
+    EBKitFonts::registerFonts();
+    chooseBodyFace();
+    Platform::current().appearance().settle();
+    const auto run = LaunchFlags::replay() ? OnboardingFlow::Run::replay : OnboardingFlow::Run::first;
+    m_guide = std::make_unique<GuideWindowController>(m_engine, run, &SettingsAppDelegate::finishOnboarding);
+    m_guide->window().center();
+    m_guide->window().makeKeyAndOrderFront();
+}
+
+void SettingsAppDelegate::finishOnboarding()
+{
+    Shared::store().setValue(Shared::Key::onboardingCompleted, true);
+    Shared::send(Shared::Command::applySettings);
+    QCoreApplication::quit();
+}
+
+void SettingsAppDelegate::openAbout()
+{
+    EBKitFonts::registerFonts();
+    chooseBodyFace();
+    Platform::current().appearance().settle();
+    m_about = std::make_unique<AboutWindow>(m_engine);
+    m_about->makeKeyAndOrderFront();
 }
 
 void SettingsAppDelegate::openSettings()

@@ -6,7 +6,9 @@
 
 #include <memory>
 
+class AboutWindow;
 class EBSettingsWindowController;
+class GuideWindowController;
 
 /// Decides at launch which window this process is for, opens it and owns it.
 class SettingsAppDelegate : public QObject {
@@ -25,8 +27,15 @@ public:
     static void openGuide();
 
 private:
+    void openOnboarding();
+    void openAbout();
     void openSettings();
 
+    /// However the onboarding ended: it is not shown by itself again, and the agent applies what was chosen.
+    static void finishOnboarding();
+
     ViewEngine m_engine;
+    std::unique_ptr<GuideWindowController> m_guide;
+    std::unique_ptr<AboutWindow> m_about;
     std::unique_ptr<EBSettingsWindowController> m_settings;
 };

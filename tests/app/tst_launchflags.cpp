@@ -21,14 +21,14 @@ void TestLaunchFlags::flagsAreWholeWords_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("flags");
-    QTest::newRow("none") << QStringList{} << QByteArray("- -");
-    QTest::newRow("onboarding") << QStringList{"--onboarding"} << QByteArray("onboarding -");
-    QTest::newRow("about") << QStringList{"--about"} << QByteArray("- about");
-    QTest::newRow("both") << QStringList{"--about", "--onboarding"} << QByteArray("onboarding about");
-    QTest::newRow("among others") << QStringList{"--replay", "x", "--onboarding"} << QByteArray("onboarding -");
-    QTest::newRow("another case") << QStringList{"--Onboarding", "--ABOUT"} << QByteArray("- -");
-    QTest::newRow("with a value") << QStringList{"--onboarding=1", "--about="} << QByteArray("- -");
-    QTest::newRow("part of it") << QStringList{"--onboard", "-about", "about"} << QByteArray("- -");
+    QTest::newRow("none") << QStringList{} << QByteArray("- - -");
+    QTest::newRow("onboarding") << QStringList{"--onboarding"} << QByteArray("onboarding - -");
+    QTest::newRow("about") << QStringList{"--about"} << QByteArray("- about -");
+    QTest::newRow("both") << QStringList{"--about", "--onboarding"} << QByteArray("onboarding about -");
+    QTest::newRow("among others") << QStringList{"--replay", "x", "--onboarding"} << QByteArray("onboarding - replay");
+    QTest::newRow("another case") << QStringList{"--Onboarding", "--ABOUT"} << QByteArray("- - -");
+    QTest::newRow("with a value") << QStringList{"--onboarding=1", "--about="} << QByteArray("- - -");
+    QTest::newRow("part of it") << QStringList{"--onboard", "-about", "about", "--replays"} << QByteArray("- - -");
 }
 
 void TestLaunchFlags::flagsAreWholeWords()
@@ -46,7 +46,8 @@ int main(int argc, char *argv[])
     QCoreApplication application(argc, argv);
     LaunchFlags::setArguments(argc, argv);
     if (argc > 1 && qstrcmp(argv[1], "print-flags") == 0) {
-        std::printf("%s %s\n", LaunchFlags::onboarding() ? "onboarding" : "-", LaunchFlags::about() ? "about" : "-");
+        std::printf("%s %s %s\n", LaunchFlags::onboarding() ? "onboarding" : "-", LaunchFlags::about() ? "about" : "-",
+                    LaunchFlags::replay() ? "replay" : "-");
         return 0;
     }
     TestLaunchFlags test;

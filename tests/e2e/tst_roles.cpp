@@ -1,4 +1,7 @@
+#include "BundleCopy.h"
 #include "EndToEndTest.h"
+
+#include <X11/keysym.h>
 
 using namespace Qt::StringLiterals;
 
@@ -6,32 +9,144 @@ using namespace Qt::StringLiterals;
 class TestRoles : public EndToEndTest {
     Q_OBJECT
 
+private:
+    /// A property list with these keys.
+    static QByteArray plist(const QByteArray &keys)
+    {
+        return "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict>" + keys + "</dict></plist>";
+    }
+
 private slots:
-    void aRoleWithoutAWindowEndsAtOnce_data();
-    void aRoleWithoutAWindowEndsAtOnce();
+    void aboutOpensOnlyTheAboutWindow();
+    void aboutShowsTheVersionWithTheBuild();
+    void theAgentsKeyDecidesAboutUpdates_data();
+    void theAgentsKeyDecidesAboutUpdates();
+    void checkingForUpdatesIsACommand();
+    void closingTheAboutWindowEndsTheProcess_data();
+    void closingTheAboutWindowEndsTheProcess();
+    void onboardingGoesBeforeAbout_data();
+    void onboardingGoesBeforeAbout();
     void argumentsOfTheToolkitAreIgnored_data();
     void argumentsOfTheToolkitAreIgnored();
     void theTabVariableOpensThatPage_data();
     void theTabVariableOpensThatPage();
 };
 
-void TestRoles::aRoleWithoutAWindowEndsAtOnce_data()
+void TestRoles::aboutOpensOnlyTheAboutWindow()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("About") << QStringList{u"--about"_s};
-    QTest::newRow("guide") << QStringList{u"--onboarding"_s};
-    QTest::newRow("guide once more") << QStringList{u"--onboarding"_s, u"--replay"_s};
-    QTest::newRow("both") << QStringList{u"--about"_s, u"--onboarding"_s};
+    QVERIFY(open({.arguments = {u"--about"_s}}));
+    FIND(website, ATSPI_ROLE_PUSH_BUTTON, "Website ↗\uFE0E");
+    QCOMPARE(TopLevel::ofProcess(desktop().x(), program().processId()).size(), 1);
+    QCOMPARE(window()->title(), u"About Corvane"_s);
+    const QSize size(460, 380);
+    QCOMPARE(window()->geometry().size(), size);
+    QTRY_COMPARE(window()->minimumSize().value_or(QSize()), size);
+    QTRY_COMPARE(window()->maximumSize().value_or(QSize()), size);
+    const QSize space = desktop().x().size() - size;
+    QCOMPARE(window()->geometry().topLeft(), QPoint(space.width() / 2, space.height() / 2));
+    QTRY_VERIFY(window()->hasInputFocus());
+    FIND(minimize, ATSPI_ROLE_PUSH_BUTTON, "Minimize");
+    FIND(zoom, ATSPI_ROLE_PUSH_BUTTON, "Zoom");
+    QVERIFY(!minimize.has(ATSPI_STATE_ENABLED));
+    QVERIFY(!zoom.has(ATSPI_STATE_ENABLED));
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"Corvane"_s));
+    QCOMPARE(store().readAll(), QVariantMap());
 }
 
-void TestRoles::aRoleWithoutAWindowEndsAtOnce()
+void TestRoles::aboutShowsTheVersionWithTheBuild()
+{
+    const BundleCopy bundle(defaultExecutable());
+    QVERIFY(bundle.isValid());
+    QVERIFY(bundle.write(u"Info.plist"_s,
+                         plist("<key>CFBundleShortVersionString</key><string>1.4</string>"
+                               "<key>CFBundleVersion</key><string>212</string>")));
+    QVERIFY(open({.arguments = {u"--about"_s}, .executable = bundle.executable()}));
+    QVERIFY(shows(u"1.4 (212)"_s));
+}
+
+void TestRoles::theAgentsKeyDecidesAboutUpdates_data()
+{
+    QTest::addColumn<int>("length");
+    QTest::addColumn<bool>("offered");
+    QTest::newRow("44 characters") << 44 << true;
+    QTest::newRow("43 characters") << 43 << false;
+    QTest::newRow("45 characters") << 45 << false;
+    QTest::newRow("no agent's dictionary") << 0 << false;
+}
+
+void TestRoles::theAgentsKeyDecidesAboutUpdates()
+{
+    QFETCH(int, length);
+    QFETCH(bool, offered);
+    const BundleCopy bundle(defaultExecutable());
+    QVERIFY(bundle.isValid());
+    if (length > 0) {
+        const QByteArray key = "<key>SUPublicEDKey</key><string>" + QByteArray(length, 'k') + "</string>";
+        // The agent's own dictionary, around the application.
+        QVERIFY(bundle.write(u"../../../Info.plist"_s, plist(key)));
+    }
+    QVERIFY(open({.arguments = {u"--about"_s}, .executable = bundle.executable()}));
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Website ↗\uFE0E"_s));
+    QCOMPARE(!application().find(ATSPI_ROLE_PUSH_BUTTON, u"Check for Updates"_s).isNull(), offered);
+    QVERIFY(shows(u"Made by Vexmoor"_s));
+}
+
+void TestRoles::checkingForUpdatesIsACommand()
+{
+    QVERIFY(open({.arguments = {u"--about"_s}}));
+    FIND(updates, ATSPI_ROLE_PUSH_BUTTON, "Check for Updates");
+    pointer().click(updates.extents().center());
+    QVERIFY(commands().waitForCount(1));
+    QVERIFY(updates.doAction(u"Press"_s));
+    QVERIFY(commands().waitForCount(2));
+    for (const HeardCommand &heard : commands().heard()) {
+        QCOMPARE(heard.command, u"checkForUpdates"_s);
+        QVERIFY(!heard.value);
+        QCOMPARE(heard.extras, QVariantMap());
+    }
+    QCOMPARE(store().readAll(), QVariantMap());
+}
+
+void TestRoles::closingTheAboutWindowEndsTheProcess_data()
+{
+    using Close = std::function<void(TestRoles &)>;
+    QTest::addColumn<Close>("close");
+    QTest::newRow("window manager") << Close([](TestRoles &test) { test.window()->close(); });
+    QTest::newRow("close button") << Close([](TestRoles &test) {
+        test.pointer().click(test.find(ATSPI_ROLE_PUSH_BUTTON, u"Close"_s).extents().center());
+    });
+    QTest::newRow("Ctrl+W") << Close([](TestRoles &test) { test.keyboard().press(XK_w, {XK_Control_L}); });
+    QTest::newRow("Ctrl+Q") << Close([](TestRoles &test) { test.keyboard().press(XK_q, {XK_Control_L}); });
+    QTest::newRow("Escape") << Close([](TestRoles &test) { test.keyboard().press(XK_Escape); });
+}
+
+void TestRoles::closingTheAboutWindowEndsTheProcess()
+{
+    QFETCH(std::function<void(TestRoles &)>, close);
+    QVERIFY(open({.arguments = {u"--about"_s}}));
+    QTRY_VERIFY(window()->hasInputFocus());
+    close(*this);
+    QVERIFY(program().waitForExit());
+    QCOMPARE(program().exitCode(), 0);
+}
+
+void TestRoles::onboardingGoesBeforeAbout_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("about first") << QStringList{u"--about"_s, u"--onboarding"_s};
+    QTest::newRow("onboarding first") << QStringList{u"--onboarding"_s, u"--about"_s};
+}
+
+void TestRoles::onboardingGoesBeforeAbout()
 {
     QFETCH(QStringList, arguments);
-    QVERIFY(!launch({.arguments = arguments}));
-    QVERIFY(!program().isRunning());
-    QCOMPARE(program().exitCode(), 0);
-    QCOMPARE(store().readAll(), QVariantMap());
-    QCOMPARE(commands().heard().size(), 0);
+    QVERIFY(open({.arguments = arguments}));
+    QCOMPARE(TopLevel::ofProcess(desktop().x(), program().processId()).size(), 1);
+    QVERIFY(window()->title() != u"About Corvane"_s);
+    // The guide does not end with its window; it is left.
+    QTRY_VERIFY(window()->hasInputFocus());
+    keyboard().press(XK_Escape);
+    QVERIFY(program().waitForExit());
 }
 
 void TestRoles::argumentsOfTheToolkitAreIgnored_data()

@@ -104,8 +104,10 @@ void EBWindow::fixSize()
 
 void EBWindow::makeKeyAndOrderFront()
 {
-    if (isVisible())
-        raise();
+    // A new window comes up in front; one that was hidden comes back where it was among the others.
+    const bool isNew = !handle();
     show();
+    if (!isNew)
+        raise();
     requestActivate();
 }

@@ -24,7 +24,7 @@ Item {
             left: parent.left
             top: parent.top
             leftMargin: 22
-            topMargin: 20
+            topMargin: 16
         }
         spacing: 8
 

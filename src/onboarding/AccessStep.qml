@@ -1,0 +1,57 @@
+import QtQuick
+import Embera.Controls
+import Embera.Rows
+import Embera.Screens
+import Corvane.Onboarding
+
+/// The permission that the agent needs.
+EBStepScreen {
+    id: screen
+
+    required property OnboardingFlow flow
+
+    app: "corvane"
+    steps: flow.steps
+    current: 2
+    kicker: flow.kicker("access")
+    title: qsTr("One permission, then you're done")
+    text: flow.trusted ? qsTr("Corvane can now see which window you point at.")
+                       : qsTr("macOS asks you first before Corvane can tell which window the pointer is on. Nothing is recorded or sent anywhere.")
+
+    EBRow {
+        glyph: "key"
+        title: qsTr("Accessibility")
+        detail: screen.flow.trusted ? qsTr("Allowed in System Settings.")
+              : screen.flow.accessRequested ? qsTr("Switch on Corvane in the list. Not there? Drag in the tile under System Settings.")
+              : qsTr("Opens Privacy & Security in System Settings.")
+
+        EBStatus {
+            state: screen.flow.trusted ? "allowed" : "waiting"
+        }
+    }
+
+    actions: [
+        EBButton {
+            visible: !screen.flow.trusted
+            text: screen.flow.accessRequested ? qsTr("Open Again") : qsTr("Open System Settings")
+            size: "sm"
+            onClicked: screen.flow.requestAccess()
+        },
+        EBButton {
+            visible: !screen.flow.trusted
+            text: qsTr("Skip")
+            variant: "secondary"
+            size: "sm"
+            onClicked: screen.flow.next()
+        },
+        EBButton {
+            visible: screen.flow.trusted
+            text: qsTr("Continue")
+            size: "sm"
+            onClicked: screen.flow.next()
+        },
+        BackButton {
+            flow: screen.flow
+        }
+    ]
+}

@@ -1,0 +1,112 @@
+import QtQuick
+import Embera.Controls
+import Embera.Rows
+import Embera.Screens
+import Corvane.Overlay
+import Corvane.Shared
+import Corvane.Onboarding
+
+/// The look of the buttons, kept in the store as it is chosen.
+EBStageScreen {
+    id: screen
+
+    required property OnboardingFlow flow
+    readonly property string theme: ButtonChoices.theme(storedTheme.value)
+    readonly property string size: ButtonChoices.size(storedSize.value)
+
+    app: "corvane"
+    kicker: flow.kicker("customize")
+    title: qsTr("Make it yours")
+    text: qsTr("Optional. Pick a look and a size; you can change them any time in Settings.")
+
+    AppStorage {
+        id: storedTheme
+        key: Key.buttonTheme
+    }
+    AppStorage {
+        id: storedSize
+        key: Key.buttonSizeOption
+    }
+    AppStorage {
+        id: showMinimize
+        key: Key.showMinimizeButton
+    }
+    AppStorage {
+        id: showMaximize
+        key: Key.showMaximizeButton
+    }
+    Row {
+        width: parent.width
+        height: screen.room
+        spacing: 14
+
+        ButtonsPreview {
+            width: 176
+            theme: screen.theme
+            size: screen.size
+            showMinimize: showMinimize.value
+            showMaximize: showMaximize.value
+            windowSize: Qt.size(128, 76)
+            buttonScale: 1
+        }
+        EBGroup {
+            width: parent.width - 176 - parent.spacing
+
+            Item {
+                width: parent.width
+                implicitHeight: tiles.height + 2 * 12
+
+                ThemeTiles {
+                    id: tiles
+
+                    x: 12
+                    y: 12
+                    width: parent.width - 2 * 12
+                    compact: true
+                    themeRaw: screen.theme
+                    onChosen: themeRaw => storedTheme.value = themeRaw
+                }
+            }
+            EBRule { }
+            EBRow {
+                title: qsTr("Size")
+
+                EBSegmented {
+                    label: qsTr("Size")
+                    options: ButtonChoices.sizes
+                    selection: screen.size
+                    onSelected: value => storedSize.value = value
+                }
+            }
+            EBRule { }
+            EBSwitchRow {
+                title: qsTr("Minimize button")
+                isOn: showMinimize.value
+                onFlipped: value => showMinimize.value = value
+            }
+            EBRule { }
+            EBSwitchRow {
+                title: qsTr("Full screen button")
+                isOn: showMaximize.value
+                onFlipped: value => showMaximize.value = value
+            }
+        }
+    }
+
+    actions: [
+        EBButton {
+            text: qsTr("Looks Good")
+            size: "sm"
+            onClicked: screen.flow.looksGood()
+        },
+        EBButton {
+            text: qsTr("Keep the Defaults")
+            variant: "secondary"
+            size: "sm"
+            onClicked: screen.flow.keepTheDefaults()
+        },
+        BackButton {
+            flow: screen.flow
+        }
+    ]
+}

@@ -1,0 +1,62 @@
+#include "GuideWindowController.h"
+
+#include "GuideVisibility.h"
+#include "Platform.h"
+#include "ViewEngine.h"
+
+#include <QEvent>
+
+namespace {
+
+constexpr QSize guideSize(560, 388); // points
+constexpr std::int64_t escapeKey = 53;
+
+}
+
+GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow::Run run,
+                                             std::function<void()> onFinish)
+    : m_onFinish(std::move(onFinish)),
+      m_flow(run, [this] { finish(); }),
+      m_window(guideSize, {.miniaturizeButtonEnabled = false, .movableByWindowBackground = true})
+{
+    m_window.setTitle(tr("Welcome to Corvane"));
+    m_window.center();
+    m_window.installEventFilter(this);
+    m_window.host(ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
+                                   {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}}));
+    m_keyMonitor = Platform::current().monitorKeyDown([this](const KeyDown &key) {
+        const bool isEscape = key.keyCode == escapeKey;
+        if (isEscape)
+            finish();
+        return isEscape;
+    });
+    m_observer = GuideVisibility::observe(this, [this](bool visible) { setVisible(visible); });
+}
+
+GuideWindowController::~GuideWindowController() = default;
+
+void GuideWindowController::finish()
+{
+    if (m_finished)
+        return;
+    m_finished = true;
+    m_keyMonitor.reset();
+    disconnect(m_observer);
+    m_window.hide();
+    m_onFinish();
+}
+
+bool GuideWindowController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close)
+        finish();
+    return QObject::eventFilter(watched, event);
+}
+
+void GuideWindowController::setVisible(bool visible)
+{
+    if (visible)
+        m_window.makeKeyAndOrderFront();
+    else
+        m_window.hide();
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "EBWindow.h"
+#include "KeyMonitor.h"
+#include "OnboardingFlow.h"
+
+#include <functional>
+#include <memory>
+
+/// The window that carries the onboarding. It steps aside and comes back as the guide's visibility is announced, and
+/// however the onboarding ends, it ends here, once.
+class GuideWindowController : public QObject {
+    Q_OBJECT
+public:
+    /// `onFinish` is run once, when the onboarding ends. The window is made and centred, and not shown yet.
+    GuideWindowController(QQmlEngine &engine, OnboardingFlow::Run run, std::function<void()> onFinish);
+    ~GuideWindowController() override;
+
+    EBWindow &window() { return m_window; }
+    OnboardingFlow &flow() { return m_flow; }
+    bool finished() const { return m_finished; }
+
+    /// Ends the onboarding: the window goes, and nothing that is announced or typed later has any effect. Every further
+    /// call does nothing.
+    void finish();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void setVisible(bool visible);
+
+    std::function<void()> m_onFinish;
+    bool m_finished = false;
+    // Before the window, whose views look at it until they are gone.
+    OnboardingFlow m_flow;
+    EBWindow m_window;
+    std::unique_ptr<KeyMonitor> m_keyMonitor;
+    QMetaObject::Connection m_observer;
+};

@@ -1,0 +1,165 @@
+#include "OnboardingFlow.h"
+
+#include "GuideVisibility.h"
+#include "Platform.h"
+#include "Shared.h"
+
+namespace {
+
+constexpr double tileDelay = 0.8; // seconds, in which System Settings comes up
+constexpr double advanceDelay = 1.0; // seconds, in which the person sees that the permission has arrived
+
+OnboardingStep firstStep()
+{
+    return OnboardingSteps::fromText(qEnvironmentVariable("CV_STEP")).value_or(OnboardingStep::welcome);
+}
+
+bool initialLaunchAtLogin(OnboardingFlow::Run run)
+{
+    const QVariant stored = Shared::store().value(Shared::Key::agentLaunchAtLogin);
+    const bool isKnown = run == OnboardingFlow::Run::replay && stored.typeId() == QMetaType::Bool;
+    return !isKnown || stored.toBool();
+}
+
+bool showsOptionalButton()
+{
+    return Shared::value(Shared::Key::showMinimizeButton).toBool()
+        || Shared::value(Shared::Key::showMaximizeButton).toBool();
+}
+
+}
+
+OnboardingFlow::OnboardingFlow(Run run, std::function<void()> finish)
+    : m_finish(std::move(finish)),
+      m_step(firstStep()),
+      m_launchAtLogin(initialLaunchAtLogin(run)),
+      m_reduceMotion(Platform::current().appearance().shouldReduceMotion())
+{
+    connect(&m_demo, &DemoModel::doneChanged, this, &OnboardingFlow::hintChanged);
+    connect(&Shared::store(), &UserDefaults::changed, this, &OnboardingFlow::follow);
+    m_trusted = Shared::value(Shared::Key::agentAccessibilityTrusted).toBool();
+}
+
+QStringList OnboardingFlow::steps()
+{
+    QStringList words;
+    for (const OnboardingStep step : OnboardingSteps::allCases)
+        words.append(OnboardingSteps::word(step));
+    return words;
+}
+
+QString OnboardingFlow::kicker(const QString &caseName)
+{
+    const auto step = OnboardingSteps::fromCaseName(caseName);
+    return step ? OnboardingSteps::kicker(*step) : QString();
+}
+
+QString OnboardingFlow::hint() const
+{
+    if (!m_demo.done().contains(DemoModel::Task::close)) {
+        return showsOptionalButton() ? tr("Click a button, or press ⌘W to close it.")
+                                     : tr("Click the cross, or press ⌘W to close it.");
+    }
+    if (!m_demo.done().contains(DemoModel::Task::minimize))
+        return tr("Now hover another window and press ⌘M to minimize it.");
+    if (!m_demo.done().contains(DemoModel::Task::fullscreen))
+        return tr("Press ⌘F on a window to take it full screen.");
+    return tr("That's all there is to it. It works just like this in Mission Control.");
+}
+
+void OnboardingFlow::go(OnboardingStep step)
+{
+    if (step == m_step)
+        return;
+    m_step = step;
+    if (m_step != OnboardingStep::access)
+        m_dragTile.hide();
+    emit stepChanged();
+}
+
+void OnboardingFlow::goBy(int steps)
+{
+    if (const auto step = OnboardingSteps::fromRawValue(static_cast<int>(m_step) + steps))
+        go(*step);
+}
+
+void OnboardingFlow::next()
+{
+    goBy(1);
+}
+
+void OnboardingFlow::back()
+{
+    goBy(-1);
+}
+
+void OnboardingFlow::skipSetup()
+{
+    m_dragTile.hide();
+    m_finish();
+}
+
+void OnboardingFlow::requestAccess()
+{
+    if (!m_accessRequested) {
+        m_accessRequested = true;
+        emit accessRequestedChanged();
+    }
+    GuideVisibility::post(false);
+    Shared::send(Shared::Command::requestAccessibility);
+    Platform::current().mainQueue().after(tileDelay, this, [this] {
+        // Whoever has moved on in the meantime, or has the permission, has no use for the tile.
+        if (m_step == OnboardingStep::access && !m_trusted)
+            m_dragTile.show();
+    });
+}
+
+void OnboardingFlow::looksGood()
+{
+    Shared::send(Shared::Command::applySettings);
+    next();
+}
+
+void OnboardingFlow::keepTheDefaults()
+{
+    using namespace Shared;
+    for (const QString &key :
+         {Key::buttonTheme, Key::buttonSizeOption, Key::showMinimizeButton, Key::showMaximizeButton})
+        store().setValue(key, Contract::defaultValue(key));
+    looksGood();
+}
+
+void OnboardingFlow::finishSetup(bool startAtLogin, bool openMissionControl)
+{
+    Shared::send(Shared::Command::setLaunchAtLogin, startAtLogin);
+    Shared::send(Shared::Command::applySettings);
+    if (openMissionControl)
+        Platform::current().workspace().openMissionControl();
+    m_finish();
+}
+
+void OnboardingFlow::follow(const QString &key)
+{
+    using namespace Shared;
+    const auto concerns = [&key](const QString &name) { return key.isEmpty() || key == name; };
+    if (concerns(Key::showMinimizeButton) || concerns(Key::showMaximizeButton))
+        emit hintChanged();
+    if (concerns(Key::agentAccessibilityTrusted))
+        setTrusted(value(Key::agentAccessibilityTrusted).toBool());
+}
+
+void OnboardingFlow::setTrusted(bool trusted)
+{
+    if (trusted == m_trusted)
+        return;
+    m_trusted = trusted;
+    emit trustedChanged();
+    if (!trusted || m_step != OnboardingStep::access)
+        return;
+    m_dragTile.hide();
+    GuideVisibility::post(true);
+    Platform::current().mainQueue().after(advanceDelay, this, [this] {
+        if (m_step == OnboardingStep::access)
+            go(OnboardingStep::customize);
+    });
+}

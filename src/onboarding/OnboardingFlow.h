@@ -1,0 +1,95 @@
+#pragma once
+
+#include "DemoModel.h"
+#include "DragTileController.h"
+#include "OnboardingStep.h"
+
+#include <QObject>
+#include <QStringList>
+#include <qqmlregistration.h>
+
+#include <functional>
+
+/// The onboarding's course: which step is shown and what its buttons do. The views draw it; the agent hears of it by
+/// commands and answers through the store.
+class OnboardingFlow : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The flow belongs to the guide window")
+    /// The case name of the step, "welcome".
+    Q_PROPERTY(QString step READ stepName NOTIFY stepChanged)
+    /// What all the steps are called.
+    Q_PROPERTY(QStringList steps READ steps CONSTANT)
+    /// The practice of the second step.
+    Q_PROPERTY(DemoModel *demo READ demo CONSTANT)
+    /// What to try next in the practice.
+    Q_PROPERTY(QString hint READ hint NOTIFY hintChanged)
+    /// The agent has the Accessibility permission.
+    Q_PROPERTY(bool trusted READ trusted NOTIFY trustedChanged)
+    Q_PROPERTY(bool accessRequested READ accessRequested NOTIFY accessRequestedChanged)
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin CONSTANT)
+    /// Whether less motion was asked for when the flow began; later changes are not followed.
+    Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion CONSTANT)
+public:
+    /// Whether the person has been through the guide before. A replay takes what the agent reports as the wish to start
+    /// at login; the first run takes the wish for granted.
+    enum class Run { first, replay };
+
+    /// `finish` is run when the flow ends. The flow begins at the step that the environment variable CV_STEP names by
+    /// its raw value, and at the welcome for any other text.
+    OnboardingFlow(Run run, std::function<void()> finish);
+
+    OnboardingStep step() const { return m_step; }
+    QString stepName() const { return OnboardingSteps::caseName(m_step); }
+    static QStringList steps();
+    DemoModel *demo() { return &m_demo; }
+    QString hint() const;
+    bool trusted() const { return m_trusted; }
+    bool accessRequested() const { return m_accessRequested; }
+    bool launchAtLogin() const { return m_launchAtLogin; }
+    DragTileController &dragTile() { return m_dragTile; }
+
+    void go(OnboardingStep step);
+
+    /// The line over the title of the step with that case name; empty for any other text. A screen that is fading out
+    /// keeps its own, so this does not follow the flow.
+    Q_INVOKABLE static QString kicker(const QString &caseName);
+
+    /// To the following or the preceding step; nothing at the end.
+    Q_INVOKABLE void next();
+    Q_INVOKABLE void back();
+
+    /// Ends the flow at once: nothing is stored and nothing is sent.
+    Q_INVOKABLE void skipSetup();
+
+    /// Steps aside, asks the agent for the permission and, a moment later, shows the tile to drag.
+    Q_INVOKABLE void requestAccess();
+
+    /// The two ways on from the choice of a look: with what was chosen, or with the defaults.
+    Q_INVOKABLE void looksGood();
+    Q_INVOKABLE void keepTheDefaults();
+
+    /// Ends the flow: tells the agent whether to start at login and to apply the settings and, if wished, opens the
+    /// desktop's window overview.
+    Q_INVOKABLE void finishSetup(bool startAtLogin, bool openMissionControl);
+
+signals:
+    void stepChanged();
+    void hintChanged();
+    void trustedChanged();
+    void accessRequestedChanged();
+
+private:
+    void goBy(int steps);
+    void follow(const QString &key);
+    void setTrusted(bool trusted);
+
+    std::function<void()> m_finish;
+    OnboardingStep m_step;
+    DemoModel m_demo;
+    DragTileController m_dragTile;
+    bool m_trusted = false;
+    bool m_accessRequested = false;
+    const bool m_launchAtLogin;
+    const bool m_reduceMotion;
+};

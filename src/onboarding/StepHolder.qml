@@ -1,0 +1,28 @@
+import QtQuick
+import Embera.Tokens
+import Corvane.Onboarding
+
+/// Makes a step's screen when the step begins and drops it when it has faded out. Two screens cross-fade while the step
+/// changes, and only the new one can be used.
+Loader {
+    id: holder
+
+    required property OnboardingFlow flow
+    /// The step's case name.
+    required property string step
+    readonly property bool isCurrent: flow.step === step
+
+    anchors.fill: parent
+    active: isCurrent || opacity > 0
+    enabled: isCurrent
+    focus: isCurrent
+    opacity: isCurrent ? 1 : 0
+
+    Behavior on opacity {
+        NumberAnimation {
+            // As it was asked for when the flow began.
+            duration: holder.flow.reduceMotion ? 0 : 250
+            easing: Motion.easeInOut
+        }
+    }
+}

@@ -1,0 +1,360 @@
+#include "EndToEndTest.h"
+#include "Processes.h"
+
+#include <X11/keysym.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString trusted = u"agent.accessibilityTrusted"_s;
+const QString launchAtLogin = u"agent.launchAtLogin"_s;
+const QString completed = u"onboardingCompleted"_s;
+constexpr QSize guideSize(560, 388);
+constexpr QSize tileSize(330, 76);
+
+}
+
+/// The guide from the first screen to the end of the process, with the reference agent beside it.
+class TestOnboarding : public EndToEndTest {
+    Q_OBJECT
+
+private:
+    /// Starts the reference agent and waits until it listens.
+    bool startAgent(const QStringList &arguments = {});
+    Accessible agent() const { return Accessible::application(m_agent->processId()); }
+    Accessible findInAgent(AtspiRole role, const QString &name) const;
+
+    bool openGuide(const QHash<QString, QString> &environment = {}, const QStringList &more = {});
+
+    /// The program's window of that size, once it is on the screen.
+    std::optional<TopLevel> windowOf(QSize size) const;
+
+    bool press(const QString &button) const;
+    void click(const Accessible &element) const { pointer().click(element.extents().center()); }
+    bool clickButton(const QString &name) const;
+    Accessible cell(const QString &name) const { return find(ATSPI_ROLE_PANEL, name); }
+
+    /// Takes the tile by the pointer to the middle of `target` and lets go there.
+    void dragTile(const TopLevel &tile, const Accessible &target) const;
+
+    /// What was sent, in order: "setLaunchAtLogin true".
+    QStringList sent() const;
+    bool ends();
+
+    std::unique_ptr<Program> m_agent;
+
+private slots:
+    void cleanup();
+
+    void theWholeJourneyByPointerAndKeyboard();
+    void theWholeJourneyThroughAccessibilityAlone();
+    void aShortWayOutSendsOneCommand_data();
+    void aShortWayOutSendsOneCommand();
+    void escapeLeavesFromEveryStep_data();
+    void escapeLeavesFromEveryStep();
+    void shortcutsOfThePracticeDoNotReachTheWindow();
+    void notStartingAtLoginIsSent();
+    void aReplayKnowsWhatTheAgentReports();
+    void theGuideComesBackWhenSystemSettingsNeverOpens();
+    void theGuideNeedsNoAgent();
+};
+
+bool TestOnboarding::startAgent(const QStringList &arguments)
+{
+    m_agent = std::make_unique<Program>(QStringLiteral(CORVANE_AGENT_PROGRAM), desktop().environment());
+    return m_agent->start(arguments) && store().waitFor(launchAtLogin, false, 20000);
+}
+
+void TestOnboarding::cleanup()
+{
+    EndToEndTest::cleanup();
+    if (!m_agent)
+        return;
+    const std::unique_ptr<Program> agent = std::move(m_agent);
+    QVERIFY(agent->terminate());
+    const QStringList complaints = agent->complaints();
+    QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(u'\n')));
+}
+
+Accessible TestOnboarding::findInAgent(AtspiRole role, const QString &name) const
+{
+    Accessible found;
+    const bool appeared = QTest::qWaitFor(
+        [&] {
+            found = agent().find(role, name);
+            return !found.isNull();
+        },
+        20000);
+    return appeared ? found : Accessible();
+}
+
+bool TestOnboarding::openGuide(const QHash<QString, QString> &environment, const QStringList &more)
+{
+    return open({.arguments = QStringList{u"--onboarding"_s} + more, .environment = environment});
+}
+
+std::optional<TopLevel> TestOnboarding::windowOf(QSize size) const
+{
+    std::optional<TopLevel> found;
+    const auto isThere = [&] {
+        const QList<TopLevel> windows = TopLevel::ofProcess(desktop().x(), program().processId());
+        for (const TopLevel &candidate : windows) {
+            if (candidate.isViewable() && candidate.geometry().size() == size)
+                found = candidate;
+        }
+        return found.has_value();
+    };
+    return QTest::qWaitFor(isThere, 20000) ? found : std::nullopt;
+}
+
+bool TestOnboarding::press(const QString &button) const
+{
+    const Accessible element = find(ATSPI_ROLE_PUSH_BUTTON, button);
+    return element && element.doAction(u"Press"_s);
+}
+
+bool TestOnboarding::clickButton(const QString &name) const
+{
+    const Accessible element = find(ATSPI_ROLE_PUSH_BUTTON, name);
+    if (element)
+        click(element);
+    return !element.isNull();
+}
+
+void TestOnboarding::dragTile(const TopLevel &tile, const Accessible &target) const
+{
+    const QPoint from = tile.geometry().center();
+    const QPoint to = target.extents().center();
+    pointer().move(from);
+    pointer().press();
+    // Each position is offered to the window under the pointer, which has to answer before the next one.
+    for (int step = 1; step <= 20; ++step) {
+        pointer().move(from + (to - from) * step / 20);
+        application().name();
+        agent().name();
+    }
+    pointer().release();
+}
+
+QStringList TestOnboarding::sent() const
+{
+    QStringList list;
+    for (const HeardCommand &heard : commands().heard())
+        list.append(heard.value ? heard.command + u' ' + heard.value->toString() : heard.command);
+    return list;
+}
+
+bool TestOnboarding::ends()
+{
+    return program().waitForExit() && program().exitCode() == 0;
+}
+
+void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
+{
+    QVERIFY(startAgent());
+    QVERIFY(openGuide());
+    QCOMPARE(window()->title(), u"Welcome to Corvane"_s);
+    QCOMPARE(window()->geometry().size(), guideSize);
+    keyboard().press(XK_Return);
+
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"Give it a try"_s));
+    const Accessible first = cell(u"Browser window, Start page"_s);
+    QVERIFY(first);
+    pointer().move(first.extents().center());
+    // The close button hangs over the window's corner; beside its cross it is red.
+    const QPoint button = first.extents().topLeft() - QPoint(3, 9);
+    QVERIFY(screen().waitForPixel(button, QColor("#EC4640")));
+    pointer().click(button);
+    QVERIFY(shows(u"Now hover another window and press ⌘M to minimize it."_s));
+    pointer().move(cell(u"Ideas window, Sketches"_s).extents().center());
+    keyboard().press(XK_m, {XK_Control_L});
+    QVERIFY(shows(u"Press ⌘F on a window to take it full screen."_s));
+    pointer().move(cell(u"Tasks window, This week"_s).extents().center());
+    keyboard().press(XK_f, {XK_Control_L});
+    QVERIFY(shows(u"That's all there is to it. It works just like this in Mission Control."_s));
+    QVERIFY(cell(u"Tasks window, This week, full screen"_s));
+    QVERIFY(clickButton(u"Continue"_s));
+
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"One permission, then you're done"_s));
+    QVERIFY(clickButton(u"Open System Settings"_s));
+    const Accessible list = findInAgent(ATSPI_ROLE_PANEL, u"No applications"_s);
+    QVERIFY(list);
+    const auto tile = windowOf(tileSize);
+    QVERIFY(tile);
+    dragTile(*tile, list);
+    QVERIFY(store().waitFor(trusted, true));
+    QVERIFY(windowOf(guideSize));
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
+
+    const Accessible soft = find(ATSPI_ROLE_PUSH_BUTTON, u"Soft look"_s);
+    QVERIFY(soft);
+    click(soft);
+    QVERIFY(store().waitFor(u"buttonTheme"_s, u"soft"_s));
+    const Accessible minimize = find(ATSPI_ROLE_CHECK_BOX, u"Minimize button"_s);
+    QVERIFY(minimize);
+    click(minimize);
+    QVERIFY(store().waitFor(u"showMinimizeButton"_s, true));
+    QVERIFY(clickButton(u"Looks Good"_s));
+
+    QVERIFY(clickButton(u"Open Mission Control"_s));
+    QVERIFY(ends());
+    QVERIFY(commands().waitForCount(5));
+    QCOMPARE(sent(),
+             (QStringList{u"requestAccessibility"_s, u"applySettings"_s, u"setLaunchAtLogin true"_s, u"applySettings"_s,
+                          u"applySettings"_s}));
+    QVERIFY(store().waitFor(launchAtLogin, true));
+    QCOMPARE(store().readAll(),
+             (QVariantMap{{completed, true},
+                          {u"buttonTheme"_s, u"soft"_s},
+                          {u"showMinimizeButton"_s, true},
+                          {trusted, true},
+                          {launchAtLogin, true},
+                          {u"agent.launchAtLoginNeedsApproval"_s, false}}));
+}
+
+void TestOnboarding::theWholeJourneyThroughAccessibilityAlone()
+{
+    QVERIFY(startAgent({u"--listed"_s}));
+    QVERIFY(openGuide());
+    QVERIFY(press(u"Get started"_s));
+
+    QVERIFY(cell(u"Browser window, Start page"_s).doAction(u"Close"_s));
+    QVERIFY(shows(u"Now hover another window and press ⌘M to minimize it."_s));
+    QVERIFY(cell(u"Ideas window, Sketches"_s).doAction(u"Minimize"_s));
+    QVERIFY(shows(u"Press ⌘F on a window to take it full screen."_s));
+    QVERIFY(cell(u"Tasks window, This week"_s).doAction(u"Full screen"_s));
+    QVERIFY(cell(u"Tasks window, This week, full screen"_s));
+    QVERIFY(press(u"Reset windows"_s));
+    QVERIFY(cell(u"Browser window, Start page"_s));
+    QVERIFY(shows(u"That's all there is to it. It works just like this in Mission Control."_s));
+    QVERIFY(press(u"Continue"_s));
+
+    QVERIFY(shows(u"Step 3 of 5, Permission, current"_s));
+    QVERIFY(press(u"Open System Settings"_s));
+    const Accessible permission = findInAgent(ATSPI_ROLE_CHECK_BOX, u"Corvane"_s);
+    QVERIFY(permission);
+    QVERIFY(permission.doAction(u"Toggle"_s));
+    QVERIFY(store().waitFor(trusted, true));
+
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
+    QVERIFY(press(u"Keep the Defaults"_s));
+    QVERIFY(press(u"Open Mission Control"_s));
+    QVERIFY(ends());
+    QVERIFY(commands().waitForCount(5));
+    QCOMPARE(sent(),
+             (QStringList{u"requestAccessibility"_s, u"applySettings"_s, u"setLaunchAtLogin true"_s, u"applySettings"_s,
+                          u"applySettings"_s}));
+    QCOMPARE(store().read(completed), true);
+    QCOMPARE(store().read(u"buttonTheme"_s), u"classic"_s);
+    QCOMPARE(store().read(u"buttonSizeOption"_s), u"medium"_s);
+    QCOMPARE(store().read(u"showMinimizeButton"_s), false);
+    QCOMPARE(store().read(u"showMaximizeButton"_s), false);
+}
+
+void TestOnboarding::aShortWayOutSendsOneCommand_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("Escape") << u"Escape"_s;
+    QTest::newRow("close button") << u"Close"_s;
+    QTest::newRow("skip") << u"Skip setup"_s;
+    QTest::newRow("Ctrl+W") << u"Ctrl+W"_s;
+    QTest::newRow("window manager") << u"window manager"_s;
+}
+
+void TestOnboarding::aShortWayOutSendsOneCommand()
+{
+    QFETCH(QString, way);
+    QVERIFY(openGuide());
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Get started"_s));
+    if (way == u"Escape"_s)
+        keyboard().press(XK_Escape);
+    else if (way == u"Ctrl+W"_s)
+        keyboard().press(XK_w, {XK_Control_L});
+    else if (way == u"window manager"_s)
+        window()->close();
+    else
+        QVERIFY(clickButton(way));
+    QVERIFY(ends());
+    QVERIFY(commands().waitForCount(1));
+    QCOMPARE(sent(), QStringList{u"applySettings"_s});
+    QCOMPARE(commands().heard().first().stored.value(completed), true);
+    QCOMPARE(store().readAll(), (QVariantMap{{completed, true}}));
+}
+
+void TestOnboarding::escapeLeavesFromEveryStep_data()
+{
+    QTest::addColumn<QString>("step");
+    for (const char *step : {"1", "2", "3", "4"})
+        QTest::newRow(step) << QString::fromLatin1(step);
+}
+
+void TestOnboarding::escapeLeavesFromEveryStep()
+{
+    QFETCH(QString, step);
+    QVERIFY(openGuide({{u"CV_STEP"_s, step}}));
+    keyboard().press(XK_Escape);
+    QVERIFY(ends());
+    QVERIFY(commands().waitForCount(1));
+    QCOMPARE(sent(), QStringList{u"applySettings"_s});
+}
+
+void TestOnboarding::shortcutsOfThePracticeDoNotReachTheWindow()
+{
+    QVERIFY(openGuide({{u"CV_STEP"_s, u"1"_s}}));
+    QVERIFY(cell(u"Browser window, Start page"_s));
+    pointer().move(window()->geometry().bottomRight() - QPoint(250, 8));
+    keyboard().press(XK_w, {XK_Control_L});
+    keyboard().press(XK_q, {XK_Control_L});
+    settle();
+    QVERIFY(program().isRunning());
+    QVERIFY(cell(u"Browser window, Start page"_s));
+    QVERIFY(press(u"Continue"_s));
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"One permission, then you're done"_s));
+    QVERIFY(disappears(ATSPI_ROLE_HEADING, u"Give it a try"_s));
+    keyboard().press(XK_w, {XK_Control_L});
+    QVERIFY(ends());
+}
+
+void TestOnboarding::notStartingAtLoginIsSent()
+{
+    QVERIFY(openGuide({{u"CV_STEP"_s, u"4"_s}}));
+    QVERIFY(clickButton(u"Don't start at login"_s));
+    QVERIFY(ends());
+    QVERIFY(commands().waitForCount(3));
+    QCOMPARE(sent(), (QStringList{u"setLaunchAtLogin false"_s, u"applySettings"_s, u"applySettings"_s}));
+}
+
+void TestOnboarding::aReplayKnowsWhatTheAgentReports()
+{
+    store().write(launchAtLogin, false);
+    QVERIFY(openGuide({{u"CV_STEP"_s, u"4"_s}}, {u"--replay"_s}));
+    QVERIFY(shows(u"Swipe up with three fingers or press F3 to open Mission Control, then hover any window."_s));
+    QVERIFY(clickButton(u"Not now"_s));
+    QVERIFY(ends());
+    QVERIFY(commands().waitForCount(3));
+    QCOMPARE(sent(), (QStringList{u"setLaunchAtLogin false"_s, u"applySettings"_s, u"applySettings"_s}));
+}
+
+void TestOnboarding::theGuideComesBackWhenSystemSettingsNeverOpens()
+{
+    QVERIFY(openGuide({{u"CV_STEP"_s, u"2"_s}}));
+    QVERIFY(press(u"Open System Settings"_s));
+    QVERIFY(QTest::qWaitFor([this] { return !window(); }));
+    QVERIFY(windowOf(guideSize));
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Open Again"_s));
+    QCOMPARE(sent(), QStringList{u"requestAccessibility"_s});
+}
+
+void TestOnboarding::theGuideNeedsNoAgent()
+{
+    QVERIFY(openGuide({{u"CV_STEP"_s, u"2"_s}}));
+    QVERIFY(press(u"Skip"_s));
+    QVERIFY(press(u"Looks Good"_s));
+    QVERIFY(press(u"Open Mission Control"_s));
+    QVERIFY(ends());
+    QCOMPARE(store().readAll(), (QVariantMap{{completed, true}}));
+}
+
+QTEST_GUILESS_MAIN(TestOnboarding)
+#include "tst_onboarding.moc"

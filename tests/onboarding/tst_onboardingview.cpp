@@ -1,0 +1,378 @@
+#include "Accessibility.h"
+#include "FakePlatform.h"
+#include "NamedItems.h"
+#include "OnboardingFlow.h"
+#include "Shared.h"
+#include "ViewEngine.h"
+
+#include <QQuickWindow>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+/// The five screens of the onboarding, in a window without a display.
+class TestOnboardingView : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
+    void init();
+    void cleanup();
+
+    void theViewHasItsSize();
+    void theWelcomeSaysWhatTheProductDoes();
+    void returnBeginsTheGuide();
+    void skipSetupEndsIt();
+    void theTryItStepHasThePracticeTheChipsAndNoWayBack();
+    void resetBringsTheWindowsBackAndKeepsWhatWasPractised();
+    void theHintIsTheText();
+    void theAccessStepExplainsThePermission();
+    void theAccessStepChangesOnceThePermissionWasAskedFor();
+    void theAccessStepShowsThePermission();
+    void theButtonsOfTheAccessStepGoOnAndBack();
+    void theCustomizeStepShowsAndStoresTheLook();
+    void theCustomizeStepShowsTheDefaultsForWhatNobodyKnows();
+    void theButtonsOfTheCustomizeStepGoOnAndBack();
+    void theLastStepFollowsTheWishToStartAtLogin_data();
+    void theLastStepFollowsTheWishToStartAtLogin();
+    void theLastStepEndsTheFlow();
+    void stepsCrossFadeInAQuarterOfASecond();
+    void withLessMotionStepsChangeAtOnce();
+    void onlyTheCurrentScreenIsThere();
+
+private:
+    void make(OnboardingStep step, OnboardingFlow::Run run = OnboardingFlow::Run::first);
+    bool shows(const QString &name) { return !NamedItems::all(m_window->contentItem(), name).isEmpty(); }
+    QQuickItem *control(const QString &name, QAccessible::Role role = QAccessible::Button)
+    {
+        return NamedItems::first(m_window->contentItem(), name, role);
+    }
+    void click(QQuickItem *item);
+    QString step() const { return m_flow->stepName(); }
+    QStringList commands() const;
+
+    /// The screens that exist at this moment, by their step.
+    QStringList screens() const;
+    qreal opacityOf(const QString &step) const;
+
+    FakePlatform *m_platform = nullptr;
+    FakeUserDefaults *m_store = nullptr;
+    std::unique_ptr<ViewEngine> m_engine;
+    std::unique_ptr<OnboardingFlow> m_flow;
+    std::unique_ptr<QQuickWindow> m_window;
+    QQuickItem *m_view = nullptr;
+    int m_finished = 0;
+};
+
+void TestOnboardingView::init()
+{
+    QTest::failOnWarning(QRegularExpression(".*"));
+    m_platform = &FakePlatform::install();
+    m_platform->look.setReduceMotion(true);
+    m_store = &m_platform->suite(Shared::suiteName);
+    m_engine = std::make_unique<ViewEngine>();
+    m_finished = 0;
+    QAccessible::setActive(true);
+    installKitAccessibility();
+}
+
+void TestOnboardingView::cleanup()
+{
+    m_window.reset();
+    m_flow.reset();
+    m_engine.reset();
+}
+
+void TestOnboardingView::make(OnboardingStep step, OnboardingFlow::Run run)
+{
+    m_flow = std::make_unique<OnboardingFlow>(run, [this] { ++m_finished; });
+    m_flow->go(step);
+    m_window = std::make_unique<QQuickWindow>();
+    m_window->resize(560, 388);
+    m_view = ViewEngine::make(*m_engine, "qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml",
+                              {{"flow", QVariant::fromValue(m_flow.get())}});
+    m_view->setParent(m_window->contentItem());
+    m_view->setParentItem(m_window->contentItem());
+    m_view->setSize(m_window->size());
+    m_window->show();
+    m_window->requestActivate();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestOnboardingView::click(QQuickItem *item)
+{
+    QVERIFY(item);
+    QSignalSpy frames(m_window.get(), &QQuickWindow::frameSwapped);
+    m_window->update();
+    QTRY_VERIFY(!frames.isEmpty());
+    const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
+}
+
+QStringList TestOnboardingView::commands() const
+{
+    QStringList list;
+    for (const auto &post : m_platform->notifications.posts)
+        list.append(post.userInfo.value("command").toString());
+    return list;
+}
+
+QStringList TestOnboardingView::screens() const
+{
+    QStringList steps;
+    for (const QQuickItem *holder : m_view->childItems()) {
+        if (holder->property("item").value<QQuickItem *>())
+            steps.append(holder->property("step").toString());
+    }
+    return steps;
+}
+
+qreal TestOnboardingView::opacityOf(const QString &step) const
+{
+    for (const QQuickItem *holder : m_view->childItems()) {
+        if (holder->property("step").toString() == step)
+            return holder->opacity();
+    }
+    return -1;
+}
+
+void TestOnboardingView::theViewHasItsSize()
+{
+    make(OnboardingStep::welcome);
+    QCOMPARE(m_view->implicitWidth(), 560);
+    QCOMPARE(m_view->implicitHeight(), 388);
+}
+
+void TestOnboardingView::theWelcomeSaysWhatTheProductDoes()
+{
+    make(OnboardingStep::welcome);
+    QVERIFY(shows(QString::fromUtf8("Welcome · 01 / 05")));
+    QVERIFY(
+        shows("Close, minimize and full-screen windows right in Mission Control. Hover a window for its buttons, or "
+              "use the shortcuts you already know."));
+    click(control("Get started"));
+    QCOMPARE(step(), "tryIt");
+    QCOMPARE(commands(), QStringList());
+}
+
+void TestOnboardingView::returnBeginsTheGuide()
+{
+    make(OnboardingStep::welcome);
+    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QCOMPARE(step(), "tryIt");
+}
+
+void TestOnboardingView::skipSetupEndsIt()
+{
+    make(OnboardingStep::welcome);
+    click(control("Skip setup"));
+    QCOMPARE(m_finished, 1);
+    QCOMPARE(commands(), QStringList());
+    QVERIFY(m_store->values.isEmpty());
+}
+
+void TestOnboardingView::theTryItStepHasThePracticeTheChipsAndNoWayBack()
+{
+    make(OnboardingStep::tryIt);
+    QVERIFY(shows(QString::fromUtf8("Step 02 · Try it")));
+    QVERIFY(control("Give it a try", QAccessible::Heading));
+    QVERIFY(shows("Browser window, Start page"));
+    QVERIFY(shows("Browser window, Docs"));
+    QVERIFY(!control("Back"));
+    const QQuickItem *reset = control("Reset windows");
+    QVERIFY(reset);
+    QCOMPARE(reset->size(), QSizeF(24, 24));
+    click(control("Continue"));
+    QCOMPARE(step(), "access");
+}
+
+void TestOnboardingView::resetBringsTheWindowsBackAndKeepsWhatWasPractised()
+{
+    make(OnboardingStep::tryIt);
+    m_flow->demo()->apply(Hotkey::close, 2);
+    click(control("Reset windows"));
+    QCOMPARE(m_flow->demo()->wins().at(2).state, DemoModel::State::normal);
+    QVERIFY(m_flow->demo()->done().contains(DemoModel::Task::close));
+}
+
+void TestOnboardingView::theHintIsTheText()
+{
+    make(OnboardingStep::tryIt);
+    QVERIFY(shows(QString::fromUtf8("Click the cross, or press ⌘W to close it.")));
+    m_store->setValue("showMinimizeButton", true);
+    QVERIFY(shows(QString::fromUtf8("Click a button, or press ⌘W to close it.")));
+    m_flow->demo()->apply(Hotkey::close, 2);
+    QVERIFY(shows(QString::fromUtf8("Now hover another window and press ⌘M to minimize it.")));
+}
+
+void TestOnboardingView::theAccessStepExplainsThePermission()
+{
+    make(OnboardingStep::access);
+    QVERIFY(shows(QString::fromUtf8("Step 03 · Permission")));
+    QVERIFY(control("One permission, then you're done", QAccessible::Heading));
+    QVERIFY(shows("macOS asks you first before Corvane can tell which window the pointer is on. Nothing is recorded or "
+                  "sent anywhere."));
+    QVERIFY(shows("Accessibility"));
+    QVERIFY(shows("Opens Privacy & Security in System Settings."));
+    QVERIFY(shows("Waiting"));
+    QVERIFY(shows("Step 2 of 5, Try it, done"));
+    QVERIFY(shows("Step 3 of 5, Permission, current"));
+    QVERIFY(shows("Step 4 of 5, Make it yours"));
+    QVERIFY(!control("Continue"));
+}
+
+void TestOnboardingView::theAccessStepChangesOnceThePermissionWasAskedFor()
+{
+    make(OnboardingStep::access);
+    click(control("Open System Settings"));
+    QCOMPARE(commands(), QStringList{"requestAccessibility"});
+    QVERIFY(shows("Switch on Corvane in the list. Not there? Drag in the tile under System Settings."));
+    QVERIFY(!control("Open System Settings"));
+    click(control("Open Again"));
+    QCOMPARE(commands(), (QStringList{"requestAccessibility", "requestAccessibility"}));
+}
+
+void TestOnboardingView::theAccessStepShowsThePermission()
+{
+    m_store->setValue("agent.accessibilityTrusted", true);
+    make(OnboardingStep::access);
+    QVERIFY(shows("Corvane can now see which window you point at."));
+    QVERIFY(shows("Allowed in System Settings."));
+    QVERIFY(shows("Allowed"));
+    QVERIFY(!control("Open System Settings"));
+    QVERIFY(!control("Skip"));
+    click(control("Continue"));
+    QCOMPARE(step(), "customize");
+}
+
+void TestOnboardingView::theButtonsOfTheAccessStepGoOnAndBack()
+{
+    make(OnboardingStep::access);
+    click(control("Back"));
+    QCOMPARE(step(), "tryIt");
+    m_flow->next();
+    click(control("Skip"));
+    QCOMPARE(step(), "customize");
+    QCOMPARE(commands(), QStringList());
+}
+
+void TestOnboardingView::theCustomizeStepShowsAndStoresTheLook()
+{
+    make(OnboardingStep::customize);
+    QVERIFY(shows(QString::fromUtf8("Step 04 · Make it yours")));
+    QVERIFY(control("Make it yours", QAccessible::Heading));
+    QVERIFY(shows("Optional. Pick a look and a size; you can change them any time in Settings."));
+    click(control("Soft look"));
+    QCOMPARE(m_store->values.value("buttonTheme"), "soft");
+    click(control("Large", QAccessible::RadioButton));
+    QCOMPARE(m_store->values.value("buttonSizeOption"), "large");
+    click(control("Minimize button", QAccessible::CheckBox));
+    QCOMPARE(m_store->values.value("showMinimizeButton"), true);
+    click(control("Full screen button", QAccessible::CheckBox));
+    QCOMPARE(m_store->values.value("showMaximizeButton"), true);
+    QCOMPARE(commands(), QStringList());
+}
+
+void TestOnboardingView::theCustomizeStepShowsTheDefaultsForWhatNobodyKnows()
+{
+    m_store->setValue("buttonTheme", "nobody's");
+    m_store->setValue("buttonSizeOption", "nobody's");
+    make(OnboardingStep::customize);
+    const auto state = [this](const QString &name, QAccessible::Role role) {
+        return QAccessible::queryAccessibleInterface(control(name, role))->state();
+    };
+    QVERIFY(state("Classic look", QAccessible::Button).selected);
+    QVERIFY(state("Medium", QAccessible::RadioButton).checked);
+    QCOMPARE(m_store->values.value("buttonTheme"), "nobody's");
+}
+
+void TestOnboardingView::theButtonsOfTheCustomizeStepGoOnAndBack()
+{
+    make(OnboardingStep::customize);
+    click(control("Back"));
+    QCOMPARE(step(), "access");
+    m_flow->next();
+    click(control("Looks Good"));
+    QCOMPARE(step(), "done");
+    QCOMPARE(commands(), QStringList{"applySettings"});
+    m_flow->back();
+    m_store->setValue("buttonTheme", "mono");
+    click(control("Keep the Defaults"));
+    QCOMPARE(step(), "done");
+    QCOMPARE(m_store->values.value("buttonTheme"), "classic");
+    QCOMPARE(commands(), (QStringList{"applySettings", "applySettings"}));
+}
+
+void TestOnboardingView::theLastStepFollowsTheWishToStartAtLogin_data()
+{
+    QTest::addColumn<bool>("launch");
+    QTest::addColumn<QString>("copy");
+    QTest::addColumn<QString>("secondary");
+    const QString copy = "Swipe up with three fingers or press F3 to open Mission Control, then hover any window.";
+    QTest::newRow("yes") << true << copy + " Corvane starts at login."
+                         << "Don't start at login";
+    QTest::newRow("no") << false << copy << "Not now";
+}
+
+void TestOnboardingView::theLastStepFollowsTheWishToStartAtLogin()
+{
+    QFETCH(bool, launch);
+    QFETCH(QString, copy);
+    QFETCH(QString, secondary);
+    m_store->setValue("agent.launchAtLogin", launch);
+    make(OnboardingStep::done, OnboardingFlow::Run::replay);
+    QVERIFY(shows(QString::fromUtf8("All set · 05 / 05")));
+    QVERIFY(shows(copy));
+    QVERIFY(!control("Back"));
+    click(control(secondary));
+    QCOMPARE(commands(), (QStringList{"setLaunchAtLogin", "applySettings"}));
+    QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(false));
+    QCOMPARE(m_finished, 1);
+    QCOMPARE(m_platform->space.missionControlOpened, 0);
+}
+
+void TestOnboardingView::theLastStepEndsTheFlow()
+{
+    make(OnboardingStep::done);
+    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QCOMPARE(commands(), (QStringList{"setLaunchAtLogin", "applySettings"}));
+    QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(true));
+    QCOMPARE(m_platform->space.missionControlOpened, 1);
+    QCOMPARE(m_finished, 1);
+}
+
+void TestOnboardingView::stepsCrossFadeInAQuarterOfASecond()
+{
+    m_platform->look.setReduceMotion(false);
+    make(OnboardingStep::access);
+    QTRY_COMPARE(opacityOf("access"), 1);
+    m_flow->next();
+    QCOMPARE(screens(), (QStringList{"access", "customize"}));
+    QTRY_VERIFY(opacityOf("access") < 1 && opacityOf("access") > 0);
+    QVERIFY(std::abs(opacityOf("access") + opacityOf("customize") - 1) < 0.01);
+    QTRY_COMPARE(screens(), QStringList{"customize"});
+    QCOMPARE(opacityOf("customize"), 1);
+}
+
+void TestOnboardingView::withLessMotionStepsChangeAtOnce()
+{
+    make(OnboardingStep::access);
+    m_flow->next();
+    QTRY_COMPARE(opacityOf("access"), 0);
+    QCOMPARE(opacityOf("customize"), 1);
+    QTRY_COMPARE(screens(), QStringList{"customize"});
+}
+
+void TestOnboardingView::onlyTheCurrentScreenIsThere()
+{
+    make(OnboardingStep::welcome);
+    for (const OnboardingStep step : OnboardingSteps::allCases) {
+        m_flow->go(step);
+        QTRY_COMPARE(screens(), QStringList{OnboardingSteps::caseName(step)});
+    }
+}
+
+QTEST_MAIN(TestOnboardingView)
+#include "tst_onboardingview.moc"
