@@ -83,7 +83,7 @@ void TestGallery::itListsItsScenesOneALine()
         QVERIFY2(scenes.contains(QLatin1String(scene)), scene);
     QCOMPARE(QSet<QString>(scenes.begin(), scenes.end()).size(), scenes.size());
     for (const QString &scene : scenes)
-        QVERIFY2(QRegularExpression(QStringLiteral("^[a-z]+(-[a-z]+)*$")).match(scene).hasMatch(), qPrintable(scene));
+        QVERIFY2(QRegularExpression(QStringLiteral("^[a-z]+(-[a-z0-9]+)*$")).match(scene).hasMatch(), qPrintable(scene));
 }
 
 void TestGallery::itHelps()
@@ -91,7 +91,7 @@ void TestGallery::itHelps()
     const Result result = run({QStringLiteral("--help")});
     QCOMPARE(result.exitCode, 0);
     for (const char *option :
-         {"--list", "--render", "--out", "--dark", "--high-contrast", "--app", "--scale", "--font"})
+         {"--list", "--render", "--show", "--out", "--dark", "--high-contrast", "--app", "--scale", "--font"})
         QVERIFY2(result.output.contains(QLatin1String(option)), option);
 }
 
@@ -166,6 +166,11 @@ void TestGallery::aWrongCommandLineIsRefused_data()
 
     const QString out = QStringLiteral(" --out ") + file(QStringLiteral("refused.png"));
     QTest::newRow("an unknown scene") << QStringLiteral("--render nothing") + out << QStringLiteral("nothing");
+    QTest::newRow("an unknown scene to show") << QStringLiteral("--show nothing") << QStringLiteral("nothing");
+    QTest::newRow("drawing and showing") << QStringLiteral("--render buttons --show buttons") + out
+                                         << QStringLiteral("exclude");
+    QTest::newRow("an appearance of the desktop's")
+        << QStringLiteral("--show buttons --dark") << QStringLiteral("desktop");
     QTest::newRow("a scene in capitals") << QStringLiteral("--render Buttons") + out << QStringLiteral("Buttons");
     QTest::newRow("no file") << QStringLiteral("--render buttons") << QStringLiteral("--out");
     QTest::newRow("no scene") << out.trimmed() << QStringLiteral("--render");

@@ -8,8 +8,8 @@
 #include "SceneTable.h"
 #include "ViewEngine.h"
 
+#include <QApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -206,7 +206,7 @@ void TestGolden::aPictureWithFewColorsIsCloseToItsOriginal()
 int main(int argc, char *argv[])
 {
     const PictureScreen screen(currentScale());
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     TestGolden test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -39,6 +39,11 @@ QVariantList Catalogue::apps() const
     return apps;
 }
 
+QList<Zone> Catalogue::calmZones() const
+{
+    return {{130, 120, 60, 50}, {400, 280, 0, 70}};
+}
+
 QVariantList Catalogue::scenes() const
 {
     QVariantList entries;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DotLayout.h"
+
 #include <QObject>
 #include <QVariantList>
 #include <qqmlregistration.h>
@@ -15,6 +17,8 @@ class Catalogue : public QObject {
     Q_PROPERTY(QVariantList tokens READ tokens NOTIFY appearanceChanged)
     /// Every product as {value, title}: its raw string and its name.
     Q_PROPERTY(QVariantList apps READ apps CONSTANT)
+    /// Two places a dot field keeps clear.
+    Q_PROPERTY(QList<Zone> calmZones READ calmZones CONSTANT)
     /// The rows of the table of scenes.
     Q_PROPERTY(QVariantList scenes READ scenes CONSTANT)
 public:
@@ -23,6 +27,7 @@ public:
     QStringList glyphs() const;
     QVariantList tokens() const;
     QVariantList apps() const;
+    QList<Zone> calmZones() const;
     QVariantList scenes() const;
 
 signals:

@@ -11,6 +11,7 @@ constexpr qreal largestScale = 4;
 
 const QString list = QStringLiteral("list");
 const QString render = QStringLiteral("render");
+const QString show = QStringLiteral("show");
 const QString out = QStringLiteral("out");
 const QString dark = QStringLiteral("dark");
 const QString highContrast = QStringLiteral("high-contrast");
@@ -22,10 +23,11 @@ const QString help = QStringLiteral("help");
 void declareOptions(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(QStringLiteral(
-        "Shows every glyph, token, control and screen. Without --list or --render it opens a window to browse them."));
+        "Shows every glyph, token, control and screen. Unless told otherwise it opens a window to browse them."));
     parser.addOptions({
         {list, QStringLiteral("Print the names of the scenes, one a line.")},
         {render, QStringLiteral("Draw one scene without a display."), QStringLiteral("name")},
+        {show, QStringLiteral("Open one scene alone, on the real desktop and its store."), QStringLiteral("name")},
         {out, QStringLiteral("The PNG file to draw into."), QStringLiteral("file")},
         {dark, QStringLiteral("The dark appearance.")},
         {highContrast, QStringLiteral("The appearance of high contrast.")},
@@ -42,7 +44,14 @@ GalleryOptions::Action actionOf(const QCommandLineParser &parser)
         return GalleryOptions::Action::help;
     if (parser.isSet(list))
         return GalleryOptions::Action::list;
+    if (parser.isSet(show))
+        return GalleryOptions::Action::show;
     return parser.isSet(render) ? GalleryOptions::Action::render : GalleryOptions::Action::browse;
+}
+
+QString sceneOf(const QCommandLineParser &parser)
+{
+    return parser.value(parser.isSet(show) ? show : render);
 }
 
 /// What is wrong with the options as a whole; empty when nothing is.
@@ -50,8 +59,12 @@ QString faultOf(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("\"%1\" is no option.").arg(parser.positionalArguments().constFirst());
-    if (parser.isSet(render) && !SceneTable::find(parser.value(render)))
-        return QStringLiteral("There is no scene \"%1\"; --list names them all.").arg(parser.value(render));
+    if (parser.isSet(render) && parser.isSet(show))
+        return QStringLiteral("--render and --show exclude each other.");
+    if ((parser.isSet(render) || parser.isSet(show)) && !SceneTable::find(sceneOf(parser)))
+        return QStringLiteral("There is no scene \"%1\"; --list names them all.").arg(sceneOf(parser));
+    if (parser.isSet(show) && (parser.isSet(dark) || parser.isSet(highContrast)))
+        return QStringLiteral("--show takes its appearance from the desktop.");
     if (parser.isSet(render) && parser.value(out).isEmpty())
         return QStringLiteral("--render needs the file to draw into: --out FILE.");
     if (parser.isSet(out) && !parser.isSet(render))
@@ -91,7 +104,7 @@ std::variant<GalleryOptions, QString> GalleryOptions::parse(const QStringList &a
         return parser.errorText();
 
     GalleryOptions options{.action = actionOf(parser),
-                           .scene = parser.value(render),
+                           .scene = sceneOf(parser),
                            .file = parser.value(out),
                            .dark = parser.isSet(::dark),
                            .highContrast = parser.isSet(::highContrast),

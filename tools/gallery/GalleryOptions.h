@@ -8,10 +8,10 @@
 
 /// What the command line asks of the gallery.
 struct GalleryOptions {
-    enum class Action { browse, list, render, help };
+    enum class Action { browse, list, render, show, help };
 
     Action action = Action::browse;
-    /// The scene to draw, or to begin with; one of the table.
+    /// The scene to draw or to show; one of the table.
     QString scene;
     QString file;
     bool dark = false;

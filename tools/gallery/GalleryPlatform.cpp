@@ -5,9 +5,23 @@
 
 #include <QDir>
 
+namespace {
+
+/// Time passes in the gallery: what a scene has delayed happens.
+class GalleryPlatform : public FakePlatform {
+public:
+    MainQueue &mainQueue() override { return m_queue; }
+
+private:
+    MainQueue m_queue;
+};
+
+}
+
 FakePlatform &installGalleryPlatform(const QString &fontsFolder)
 {
-    FakePlatform &platform = FakePlatform::install();
+    Platform::install(std::make_unique<GalleryPlatform>());
+    auto &platform = static_cast<FakePlatform &>(Platform::current());
     for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
         const QString file = face + QStringLiteral(".ttf");
         platform.main.resources.insert(file, QUrl::fromLocalFile(QDir(fontsFolder).filePath(file)));

@@ -33,7 +33,7 @@ ScenePicture::ScenePicture(QQmlEngine &engine, FakePlatform &platform, const Gal
     hints->setUseHoverEffects(true);
 }
 
-QImage ScenePicture::draw(const SceneEntry &entry) const
+QImage ScenePicture::draw(const SceneEntry &entry)
 {
     QQuickWindow window;
     window.setColor(EBKit::paper().current());
@@ -49,6 +49,8 @@ QImage ScenePicture::draw(const SceneEntry &entry) const
     window.grabWindow();
     window.resize(extentOf(*scene));
     scene->strikePose();
+    QCoreApplication::processEvents();
+    m_animations.finishAnimations();
     QCoreApplication::processEvents();
     // A pixel that the window covers only in part belongs to what lies behind it.
     const QSizeF pixels = QSizeF(window.size()) * window.devicePixelRatio();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AnimationClock.h"
+
 #include <QImage>
 
 class FakePlatform;
@@ -14,9 +16,10 @@ public:
     ScenePicture(QQmlEngine &engine, FakePlatform &platform, const GalleryLook &look);
 
     /// The scene in its pose.
-    QImage draw(const SceneEntry &entry) const;
+    QImage draw(const SceneEntry &entry);
 
 private:
     QQmlEngine &m_engine;
     const GalleryLook &m_look;
+    AnimationClock m_animations;
 };

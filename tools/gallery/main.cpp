@@ -1,16 +1,22 @@
+#include "Accessibility.h"
 #include "EBApp.h"
+#include "EBEnvironment.h"
+#include "EBKitFonts.h"
+#include "EBWindow.h"
 #include "FakePlatform.h"
+#include "FreedesktopPlatform.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryPlatform.h"
 #include "PictureFile.h"
 #include "PictureScreen.h"
+#include "Scene.h"
 #include "ScenePicture.h"
 #include "SceneTable.h"
 #include "ViewEngine.h"
 
+#include <QApplication>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <QQuickView>
 
 #include <cstdio>
@@ -54,7 +60,7 @@ struct Gallery {
         look.setApp(options.app);
     }
 
-    QGuiApplication application;
+    QApplication application;
     FakePlatform &platform;
     GalleryLook look;
     ViewEngine engine;
@@ -71,17 +77,46 @@ int render(int argc, char *argv[], const GalleryOptions &options)
     Gallery gallery(argc, argv, options);
     if (isMissing(options.font))
         return complain(QStringLiteral("There is no font \"%1\".").arg(options.font), misuse);
-    const ScenePicture picture(gallery.engine, gallery.platform, gallery.look);
+    ScenePicture picture(gallery.engine, gallery.platform, gallery.look);
     if (!PictureFile::write(picture.draw(*SceneTable::find(options.scene)), options.file))
         return complain(QStringLiteral("\"%1\" cannot be written.").arg(options.file), failure);
     return 0;
 }
 
+void chooseScale(qreal scale)
+{
+    if (scale != 1)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+int show(int argc, char *argv[], const GalleryOptions &options)
+{
+    chooseScale(options.scale);
+    QApplication application(argc, argv);
+    Platform::install(makeFreedesktopPlatform());
+    EBKitFonts::registerFonts();
+    installKitAccessibility();
+    if (isMissing(options.font))
+        return complain(QStringLiteral("There is no font \"%1\".").arg(options.font), misuse);
+    if (!options.font.isEmpty())
+        QGuiApplication::setFont(QFont(options.font));
+
+    ViewEngine engine;
+    auto *scene = ViewEngine::make<Scene>(engine, SceneTable::find(options.scene)->source.toString());
+    EBEnvironment::of(scene)->setEbApp(options.app);
+    const QSizeF size(scene->implicitWidth(), scene->implicitHeight());
+    EBWindow window(size.toSize(), {.miniaturizeButtonEnabled = true, .movableByWindowBackground = true});
+    window.setTitle(options.scene);
+    window.host(scene);
+    window.center();
+    window.makeKeyAndOrderFront();
+    return QGuiApplication::exec();
+}
+
 int browse(int argc, char *argv[], const GalleryOptions &options)
 {
-    if (options.scale != 1)
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    chooseScale(options.scale);
     Gallery gallery(argc, argv, options);
     if (isMissing(options.font))
         return complain(QStringLiteral("There is no font \"%1\".").arg(options.font), misuse);
@@ -114,6 +149,8 @@ int main(int argc, char *argv[])
         return help(argc, argv);
     case GalleryOptions::Action::render:
         return render(argc, argv, options);
+    case GalleryOptions::Action::show:
+        return show(argc, argv, options);
     case GalleryOptions::Action::browse:
         break;
     }

@@ -1,0 +1,6 @@
+import Corvane.Gallery
+
+/// The guide's last screen.
+GuideSheet {
+    step: "done"
+}

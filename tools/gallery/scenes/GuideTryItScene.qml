@@ -1,0 +1,6 @@
+import Corvane.Gallery
+
+/// The guide's practice, untouched.
+GuideSheet {
+    step: "tryIt"
+}

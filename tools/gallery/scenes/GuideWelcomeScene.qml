@@ -1,0 +1,6 @@
+import Corvane.Gallery
+
+/// The guide's first screen.
+GuideSheet {
+    step: "welcome"
+}

@@ -1,0 +1,4 @@
+import Corvane.Gallery
+
+/// The screen that opens a guide, as large as it is designed.
+LoudSheet {}
