@@ -5,7 +5,8 @@ import Embera.Rows
 import Corvane.Shared
 import Corvane.Agent
 
-/// The list of applications that may see and move the windows of others. It is empty until the agent is dropped onto it.
+/// The list of applications that may see and move the windows of others. It is empty until the agent is dropped onto
+/// it.
 Item {
     id: page
 

@@ -4,8 +4,8 @@ import Embera.Glyphs
 import Embera.Controls
 import Corvane.Onboarding.Tile
 
-/// What the tile shows: the application's icon, what to do with it, and an arrow that bobs towards the list above for as
-/// long as the tile is on the screen. One element for accessibility.
+/// What the tile shows: the application's icon, what to do with it, and an arrow that bobs towards the list above for
+/// as long as the tile is on the screen. One element for accessibility.
 ContinuousRectangle {
     id: tile
 
