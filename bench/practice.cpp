@@ -53,7 +53,6 @@ public:
         m_window.setColor(EBKit::paper().current());
         m_window.resize(windowSize);
         m_window.contentItem()->setSize(windowSize);
-        m_control.initialize();
         m_window.setRenderTarget(QQuickRenderTarget::fromPaintDevice(&m_picture));
     }
 

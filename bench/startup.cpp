@@ -68,6 +68,14 @@ void measureStart(Screen &screen, const QString &floor, const QString &applicati
     compare("first painted frame", "ms", median(floors), median(applications), 1.15);
 }
 
+Process::Activity tenSecondsOf(const Process &process)
+{
+    const Process::Activity before = process.activity();
+    std::this_thread::sleep_for(seconds(10));
+    const Process::Activity after = process.activity();
+    return {after.wakeups - before.wakeups, after.processor - before.processor};
+}
+
 struct Settled {
     double memory;
     Process::Activity idle;
@@ -82,10 +90,7 @@ Settled rest(Screen &screen, const QString &program)
     screen.waitForColor(paper, probe, seconds(20));
     std::this_thread::sleep_for(seconds(3));
     const double memory = process.memory();
-    const Process::Activity before = process.activity();
-    std::this_thread::sleep_for(seconds(10));
-    const Process::Activity after = process.activity();
-    return {memory, {after.wakeups - before.wakeups, after.processor - before.processor}};
+    return {memory, tenSecondsOf(process)};
 }
 
 void measureRest(Screen &screen, const QString &floor, const QString &application)
@@ -96,6 +101,21 @@ void measureRest(Screen &screen, const QString &floor, const QString &applicatio
     out << "idle for 10 s         floor " << least.idle.wakeups << " wake-ups, " << least.idle.processor
         << " ms  application " << ours.idle.wakeups << " wake-ups, " << ours.idle.processor << " ms  target 0\n";
     out.flush();
+}
+
+/// What each step of the guide does while nothing happens.
+void measureGuideAtRest(Screen &screen, const QString &application)
+{
+    for (int step = 0; step < 5; ++step) {
+        screen.waitUntilEmpty();
+        qputenv("CV_STEP", QByteArray::number(step));
+        const Process process(application, {QStringLiteral("--onboarding")});
+        std::this_thread::sleep_for(seconds(3));
+        const Process::Activity idle = tenSecondsOf(process);
+        out << "idle for 10 s, guide's step " << step + 1 << "  " << idle.wakeups << " wake-ups, " << idle.processor
+            << " ms  target 0\n";
+        out.flush();
+    }
 }
 
 /// Time from the news that another process has changed the store to the pixels that show it.
@@ -136,5 +156,6 @@ int main(int argc, char *argv[])
     measureStart(screen, programs.at(0), programs.at(1));
     measureRest(screen, programs.at(0), programs.at(1));
     measureStoreChange(screen, programs.at(1));
+    measureGuideAtRest(screen, programs.at(1));
     return 0;
 }

@@ -22,17 +22,12 @@ Item {
     readonly property bool isVisible: win.isVisible
     readonly property bool isFull: win.state === "full"
     readonly property bool isHovered: isVisible && model?.hovered === win.id
+    /// The buttons that stick out across the corner belong to the window while they are there, and no pointer enters it
+    /// because they go.
+    readonly property bool isUnderPointer: overWindow.hovered || overButtons.hovered
 
     function perform(hotkey: string) {
         model.apply(hotkey, win.id);
-    }
-
-    /// The buttons that stick out across the corner belong to the window while they are there.
-    function followPointer() {
-        if (overWindow.hovered || (isHovered && overButtons.hovered))
-            model.enter(win.id);
-        else
-            model?.leave(win.id);
     }
 
     implicitWidth: 128
@@ -40,6 +35,7 @@ Item {
     z: isHovered || isFull ? 2 : 1
     // Only while it holds the focus for a window that is gone: the next Tab goes on from here.
     activeFocusOnTab: activeFocus
+    onIsUnderPointerChanged: isUnderPointer ? model.enter(win.id) : model?.leave(win.id)
     // What nobody sees is not hovered.
     onVisibleChanged: if (!visible)
         model?.leave(win.id)
@@ -48,7 +44,7 @@ Item {
     HoverHandler {
         id: overWindow
 
-        onHoveredChanged: cell.followPointer()
+        enabled: cell.enabled
     }
     // Below the buttons.
     FocusRing {
@@ -150,9 +146,7 @@ Item {
             HoverHandler {
                 id: overButtons
 
-                enabled: cell.isHovered
-                blocking: true
-                onHoveredChanged: cell.followPointer()
+                enabled: cell.enabled && cell.isHovered
             }
         }
     }

@@ -33,7 +33,7 @@ Item {
     }
     ShortcutMonitor {
         model: surface.model
-        active: surface.visible && surface.Window.visibility !== Window.Hidden
+        active: surface.visible && surface.enabled && surface.Window.visibility !== Window.Hidden
     }
     Grid {
         id: grid

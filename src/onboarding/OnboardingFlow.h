@@ -19,7 +19,7 @@ class OnboardingFlow : public QObject {
     /// The case name of the step, "welcome".
     Q_PROPERTY(QString step READ stepName NOTIFY stepChanged)
     /// What all the steps are called.
-    Q_PROPERTY(QStringList steps READ steps CONSTANT)
+    Q_PROPERTY(QList<QString> steps READ steps CONSTANT)
     /// The practice of the second step.
     Q_PROPERTY(DemoModel *demo READ demo CONSTANT)
     /// What to try next in the practice.

@@ -15,36 +15,26 @@ Item {
     StepHolder {
         flow: view.flow
         step: "welcome"
-        sourceComponent: WelcomeStep {
-            flow: view.flow
-        }
+        screen: "WelcomeStep.qml"
     }
     StepHolder {
         flow: view.flow
         step: "tryIt"
-        sourceComponent: TryItStep {
-            flow: view.flow
-        }
+        screen: "TryItStep.qml"
     }
     StepHolder {
         flow: view.flow
         step: "access"
-        sourceComponent: AccessStep {
-            flow: view.flow
-        }
+        screen: "AccessStep.qml"
     }
     StepHolder {
         flow: view.flow
         step: "customize"
-        sourceComponent: CustomizeStep {
-            flow: view.flow
-        }
+        screen: "CustomizeStep.qml"
     }
     StepHolder {
         flow: view.flow
         step: "done"
-        sourceComponent: DoneStep {
-            flow: view.flow
-        }
+        screen: "DoneStep.qml"
     }
 }

@@ -10,6 +10,8 @@ Loader {
     required property OnboardingFlow flow
     /// The step's case name.
     required property string step
+    /// The file of the step's screen, which is given the flow.
+    required property url screen
     readonly property bool isCurrent: flow.step === step
 
     anchors.fill: parent
@@ -17,6 +19,7 @@ Loader {
     enabled: isCurrent
     focus: isCurrent
     opacity: isCurrent ? 1 : 0
+    Component.onCompleted: setSource(screen, {flow: flow})
 
     Behavior on opacity {
         NumberAnimation {

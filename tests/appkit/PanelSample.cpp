@@ -8,8 +8,9 @@
 #include "EBKitSectionLabel.h"
 #include "EBKitSeparator.h"
 #include "EBKitStatusPanel.h"
-#include "FakePlatform.h"
+#include "FreedesktopPlatform.h"
 #include "KitText.h"
+#include "Platform.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -51,7 +52,7 @@ QList<EBKitView *> views()
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    FakePlatform::install();
+    Platform::install(makeFreedesktopPlatform());
     QWidget bar;
     bar.setWindowTitle(u"Bar"_s);
     bar.setGeometry(200, 0, 600, 40);

@@ -2,6 +2,8 @@
 
 #include <X11/keysym.h>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 /// A panel on a real display, seen and used from outside.
@@ -10,6 +12,7 @@ class TestPanelSession : public EndToEndTest {
 
 private:
     bool openPanel();
+    QList<quint32> numbers(const TopLevel &window, const char *property) const;
     bool hasSaid(const QStringList &lines) const
     {
         return QTest::qWaitFor([&] { return program().standardOutput() == lines; }, 5000);
@@ -23,6 +26,7 @@ private slots:
     void aClickOnTheButtonOpensAndClosesIt();
     void aClickOutsideClosesIt();
     void thePanelStandsUnderTheButton();
+    void thePanelIsOnEveryDesktopAboveTheOthersAndInNoList();
 };
 
 bool TestPanelSession::openPanel()
@@ -120,6 +124,27 @@ void TestPanelSession::thePanelStandsUnderTheButton()
     QCOMPARE(panel.width(), 300);
     QCOMPARE(panel.top(), button.bottom() + 1 + 4);
     QCOMPARE(panel.center().x(), button.center().x());
+}
+
+QList<quint32> TestPanelSession::numbers(const TopLevel &window, const char *property) const
+{
+    const QByteArray bytes = desktop().x().property(window.id(), desktop().x().atom(property));
+    const auto *first = reinterpret_cast<const quint32 *>(bytes.constData());
+    return {first, first + bytes.size() / qsizetype(sizeof(quint32))};
+}
+
+void TestPanelSession::thePanelIsOnEveryDesktopAboveTheOthersAndInNoList()
+{
+    QVERIFY(openPanel());
+    const QList<TopLevel> windows = TopLevel::ofProcess(desktop().x(), program().processId());
+    const auto panel = std::find_if(windows.begin(), windows.end(),
+                                    [](const TopLevel &window) { return window.title() == u"Corvane"; });
+    QVERIFY(panel != windows.end());
+    const QList<quint32> states = numbers(*panel, "_NET_WM_STATE");
+    for (const char *state :
+         {"_NET_WM_STATE_STICKY", "_NET_WM_STATE_ABOVE", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
+        QVERIFY2(states.contains(desktop().x().atom(state)), state);
+    QCOMPARE(numbers(*panel, "_NET_WM_DESKTOP"), QList<quint32>{0xFFFFFFFF});
 }
 
 QTEST_GUILESS_MAIN(TestPanelSession)

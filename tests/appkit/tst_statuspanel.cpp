@@ -130,6 +130,7 @@ private slots:
         controller.open(m_button);
         QCOMPARE(controller.content().views().size(), 1);
         QCOMPARE(panel()->height(), 30 + 12);
+        QCOMPARE(panel()->windowTitle(), QString());
     }
 
     void itStandsUnderTheButton_data() { bothControllers(); }
@@ -166,6 +167,14 @@ private slots:
         QVERIFY(!controller->isOpen());
     }
 
+    void withoutAPlaceItOpensUnderThePointer()
+    {
+        const auto controller = std::make_unique<EBStatusPanel>(new QWidget, QSize(220, 140));
+        QCursor::setPos(400, 30);
+        controller->open(QRect());
+        QCOMPARE(panel()->geometry(), QRect(291, 35, 220, 140));
+    }
+
     void whileOpenTheButtonIsHighlighted_data() { bothControllers(); }
     void whileOpenTheButtonIsHighlighted()
     {
@@ -176,6 +185,38 @@ private slots:
         QCOMPARE(controller->button(), &m_button);
         controller->close();
         QVERIFY(!m_button.isDown());
+    }
+
+    void eachTimeItOpensItIsOnEveryWorkspace_data() { bothControllers(); }
+    void eachTimeItOpensItIsOnEveryWorkspace()
+    {
+        const auto controller = made();
+        m_platform.space.floating.clear();
+        controller->open(m_button);
+        QCOMPARE(m_platform.space.floating, QList<QWindow *>{panel()->windowHandle()});
+        controller->close();
+        controller->open(m_button);
+        QCOMPARE(m_platform.space.floating.size(), 2);
+    }
+
+    void whereNothingShinesThroughItsCornersAreCutOff()
+    {
+        EBKitStatusPanel controller;
+        controller.build = someViews;
+        controller.open(m_button);
+        QVERIFY(panel()->mask().isEmpty());
+        controller.close();
+        m_platform.space.blends = false;
+        controller.open(m_button);
+        const QRect card = panel()->rect();
+        QCOMPARE(panel()->mask().boundingRect(), card);
+        QVERIFY(panel()->mask().contains(QPoint(0, card.center().y())));
+        for (const QPoint &corner : {card.topLeft(), card.topRight(), card.bottomLeft(), card.bottomRight()})
+            QVERIFY(!panel()->mask().contains(corner));
+        controller.close();
+        m_platform.space.blends = true;
+        controller.open(m_button);
+        QVERIFY(panel()->mask().isEmpty());
     }
 
     void anyWidgetCanBeTheButton()
@@ -353,6 +394,18 @@ private slots:
         QTest::mouseRelease(&other, Qt::LeftButton, {}, QPoint(20, 20));
     }
 
+    void aViewWithAWindowOfItsOwnIsNotOutside()
+    {
+        auto *content = new QWidget;
+        content->setAttribute(Qt::WA_NativeWindow);
+        const auto controller = std::make_unique<EBStatusPanel>(content, QSize(220, 140));
+        controller->open(m_button);
+        QVERIFY(content->windowHandle() != panel()->windowHandle());
+        QTest::mousePress(content->windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
+        QVERIFY(controller->isOpen());
+        QTest::mouseRelease(content->windowHandle(), Qt::LeftButton, {}, QPoint(20, 20));
+    }
+
     void aMenuOfThePanelIsNotOutside()
     {
         auto *content = new QWidget;
@@ -418,6 +471,19 @@ private slots:
         QVERIFY(!panel());
         QVERIFY(!m_button.isDown());
         QCOMPARE(watch.closed, 0);
+    }
+
+    void whoeverIsToldMayEndTheController_data() { bothControllers(); }
+    void whoeverIsToldMayEndTheController()
+    {
+        auto controller = made();
+        controller->onClose = [&controller] { controller.reset(); };
+        controller->open(m_button);
+        QVERIFY(QTest::qWaitForWindowActive(panel()));
+        QTest::keyClick(panel(), Qt::Key_Escape);
+        QVERIFY(!controller);
+        QVERIFY(!panel());
+        QVERIFY(!m_button.isDown());
     }
 
     void anActionInThePanelMayCloseAndReopenIt()

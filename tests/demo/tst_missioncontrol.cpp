@@ -72,6 +72,7 @@ private slots:
     void movingStraightOnKeepsTheNewHover();
     void thePlaceOfAHiddenWindowIsHoveredToo();
     void aViewThatGoesIsLeft();
+    void aDisabledViewIsNeitherHoveredNorHears();
     void theButtonsBeyondTheCornerKeepTheHover();
     void theButtonsCoverTheNeighbour();
     void clickingAButtonActsOnItsWindow_data();
@@ -80,6 +81,7 @@ private slots:
     void anotherMouseButtonDoesNothing();
     void aButtonTakesItsPressFromTheWindow();
     void closingByTheButtonTakesTheButtonsAway();
+    void thePointerDoesNotEnterAWindowWhoseButtonItPressed();
 
     void aShortcutActsOnTheHoveredWindow();
     void aShortcutWithoutAHoverNudges();
@@ -116,7 +118,7 @@ private:
         return found.isEmpty() ? nullptr : found.constFirst();
     }
     /// What moves and fades as one: the window and all that belongs to it.
-    static QQuickItem *body(DemoView &view, int id) { return cell(view, id)->childItems().at(1); }
+    static QQuickItem *body(DemoView &view, int id) { return face(view, id)->parentItem(); }
     static QList<DemoButton *> buttons(DemoView &view, int id) { return view.all<DemoButton>(cell(view, id)); }
     static QStringList kinds(DemoView &view, int id)
     {
@@ -523,6 +525,23 @@ void TestMissionControl::aViewThatGoesIsLeft()
     QVERIFY(!view->model().hovered());
 }
 
+void TestMissionControl::aDisabledViewIsNeitherHoveredNorHears()
+{
+    const std::unique_ptr<DemoView> view(make(allButtons));
+    view->point(cell(*view, 4), {4, 4});
+    QCOMPARE(view->model().hovered(), std::optional(4));
+    view->root().setEnabled(false);
+    QVERIFY(!view->model().hovered());
+    hover(*view, 2);
+    QVERIFY(!view->model().hovered());
+    QVERIFY(!view->press(keyW));
+    QCOMPARE(view->platform().keyMonitorCount(), 0);
+    view->root().setEnabled(true);
+    QCOMPARE(view->platform().keyMonitorCount(), 1);
+    hover(*view, 3);
+    QCOMPARE(view->model().hovered(), std::optional(3));
+}
+
 void TestMissionControl::theButtonsBeyondTheCornerKeepTheHover()
 {
     const std::unique_ptr<DemoView> view(make(allButtons));
@@ -640,6 +659,21 @@ void TestMissionControl::closingByTheButtonTakesTheButtonsAway()
     QCOMPARE(view->model().hovered(), std::optional(4));
     view->pointAway();
     QVERIFY(!view->model().hovered());
+}
+
+void TestMissionControl::thePointerDoesNotEnterAWindowWhoseButtonItPressed()
+{
+    const std::unique_ptr<DemoView> view(make());
+    // The part of Close that lies over the window.
+    view->click(cell(*view, 4), {4, 4});
+    QCOMPARE(state(*view, 4), State::closed);
+    for (const QPointF at : {QPointF(6, 6), QPointF(40, 40)}) {
+        view->point(cell(*view, 4), at);
+        QVERIFY(!view->model().hovered());
+    }
+    view->press(keyM);
+    QCOMPARE(state(*view, 4), State::closed);
+    QCOMPARE(view->model().nudge(), 1);
 }
 
 void TestMissionControl::aShortcutActsOnTheHoveredWindow()

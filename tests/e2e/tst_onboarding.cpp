@@ -20,7 +20,7 @@ class TestOnboarding : public EndToEndTest {
     Q_OBJECT
 
 private:
-    /// Starts the reference agent and waits until it listens.
+    /// Starts the reference agent, without a login item from an earlier test, and waits until it listens.
     bool startAgent(const QStringList &arguments = {});
     Accessible agent() const { return Accessible::application(m_agent->processId()); }
     Accessible findInAgent(AtspiRole role, const QString &name) const;
@@ -51,6 +51,7 @@ private slots:
     void theWholeJourneyThroughAccessibilityAlone();
     void aShortWayOutSendsOneCommand_data();
     void aShortWayOutSendsOneCommand();
+    void quittingIsNoEndOfTheOnboarding();
     void escapeLeavesFromEveryStep_data();
     void escapeLeavesFromEveryStep();
     void shortcutsOfThePracticeDoNotReachTheWindow();
@@ -62,6 +63,7 @@ private slots:
 
 bool TestOnboarding::startAgent(const QStringList &arguments)
 {
+    QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/com.vexmoor.corvane.desktop"_s);
     m_agent = std::make_unique<Program>(QStringLiteral(CORVANE_AGENT_PROGRAM), desktop().environment());
     return m_agent->start(arguments) && store().waitFor(launchAtLogin, false, 20000);
 }
@@ -280,6 +282,17 @@ void TestOnboarding::aShortWayOutSendsOneCommand()
     QCOMPARE(sent(), QStringList{u"applySettings"_s});
     QCOMPARE(commands().heard().first().stored.value(completed), true);
     QCOMPARE(store().readAll(), (QVariantMap{{completed, true}}));
+}
+
+void TestOnboarding::quittingIsNoEndOfTheOnboarding()
+{
+    QVERIFY(openGuide());
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Get started"_s));
+    keyboard().press(XK_q, {XK_Control_L});
+    QVERIFY(ends());
+    commands().settle(program().processId());
+    QCOMPARE(sent(), QStringList());
+    QCOMPARE(store().readAll(), QVariantMap());
 }
 
 void TestOnboarding::escapeLeavesFromEveryStep_data()

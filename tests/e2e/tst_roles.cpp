@@ -1,5 +1,6 @@
 #include "BundleCopy.h"
 #include "EndToEndTest.h"
+#include "RootListener.h"
 
 #include <X11/keysym.h>
 
@@ -22,6 +23,8 @@ private slots:
     void theAgentsKeyDecidesAboutUpdates_data();
     void theAgentsKeyDecidesAboutUpdates();
     void checkingForUpdatesIsACommand();
+    void aWindowIsMovedByWhatTakesNoClick_data();
+    void aWindowIsMovedByWhatTakesNoClick();
     void closingTheAboutWindowEndsTheProcess_data();
     void closingTheAboutWindowEndsTheProcess();
     void onboardingGoesBeforeAbout_data();
@@ -105,6 +108,43 @@ void TestRoles::checkingForUpdatesIsACommand()
         QCOMPARE(heard.extras, QVariantMap());
     }
     QCOMPARE(store().readAll(), QVariantMap());
+}
+
+void TestRoles::aWindowIsMovedByWhatTakesNoClick_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("About, at its top") << QStringList{u"--about"_s} << QPoint(300, 10) << true;
+    QTest::newRow("About, on a text") << QStringList{u"--about"_s} << QPoint(60, 190) << true;
+    QTest::newRow("About, between texts and buttons") << QStringList{u"--about"_s} << QPoint(300, 320) << true;
+    QTest::newRow("About, on a button") << QStringList{u"--about"_s} << QPoint(80, 350) << false;
+    QTest::newRow("onboarding") << QStringList{u"--onboarding"_s} << QPoint(150, 250) << true;
+    QTest::newRow("settings, at its top") << QStringList() << QPoint(400, 10) << true;
+    QTest::newRow("settings, beside its heading") << QStringList() << QPoint(500, 60) << false;
+}
+
+void TestRoles::aWindowIsMovedByWhatTakesNoClick()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QPoint, place);
+    QFETCH(bool, expected);
+    const XConnection &x = desktop().x();
+    // What a window manager says of itself.
+    const xcb_atom_t supported = x.atom("_NET_SUPPORTED");
+    const xcb_atom_t moves = x.atom("_NET_WM_MOVERESIZE");
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, x.root(), supported, XCB_ATOM_ATOM, 32, 1, &moves);
+    const auto unsay = qScopeGuard([&] { xcb_delete_property(x, x.root(), supported); });
+    x.synchronise();
+    RootListener requests(desktop().display());
+    QVERIFY(open({.arguments = arguments}));
+    const QPoint at = window()->geometry().topLeft() + place;
+    pointer().move(at);
+    pointer().press();
+    const auto release = qScopeGuard([&] { pointer().release(); });
+    settle();
+    const int patience = expected ? 5000 : 0;
+    QCOMPARE(requests.waitForRequest(window()->id(), "_NET_WM_MOVERESIZE", quint32(at.x()), patience), expected);
 }
 
 void TestRoles::closingTheAboutWindowEndsTheProcess_data()

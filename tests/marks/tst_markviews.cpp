@@ -1,12 +1,14 @@
-#include "CrispItem.h"
+#include "ConstructionDrawing.h"
 #include "DotField.h"
 #include "EBEnvironment.h"
 #include "EBKit.h"
 #include "EBKitFonts.h"
+#include "EBType.h"
 #include "FakePlatform.h"
 #include "MarkGeometry.h"
 
 #include <QAccessible>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -80,6 +82,67 @@ QColor shown(const EBKitColor &token)
     return QColor(token.current().rgb());
 }
 
+class CountedField : public DotField {
+public:
+    int paintings = 0;
+
+protected:
+    void paint(QPainter *painter) override
+    {
+        ++paintings;
+        DotField::paint(painter);
+    }
+};
+
+class OpenDrawing : public ConstructionDrawing {
+public:
+    using ConstructionDrawing::paint;
+};
+
+struct Writing {
+    QString text;
+    QFont font;
+    QColor color;
+};
+
+/// Keeps what is written with a painter and drops what is drawn.
+class WritingDevice : public QPaintDevice, public QPaintEngine {
+public:
+    WritingDevice() : QPaintEngine(AllFeatures) { }
+
+    QList<Writing> writings;
+
+    QPaintEngine *paintEngine() const override { return const_cast<WritingDevice *>(this); }
+    Type type() const override { return User; }
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override { }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
+    void drawPath(const QPainterPath &) override { }
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { }
+    void drawTextItem(const QPointF &, const QTextItem &item) override
+    {
+        writings.append({item.text(), item.font(), painter()->pen().color()});
+    }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmWidth:
+            return room.width();
+        case PdmHeight:
+            return room.height();
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return int(devicePixelRatioFScale());
+        default:
+            return 96;
+        }
+    }
+};
+
 /// What a construction drawing of this size looks like.
 QByteArray construction(const char *app, int width, int height)
 {
@@ -114,13 +177,17 @@ private slots:
     void aDotFieldDrawsItsLayout();
     void dotsHaveFullyRoundEnds();
     void aDotFieldFollowsItsFields();
+    void aDotFieldIsDrawnOnceForEachChange();
     void aDotFieldIsAbsentFromAccessibility();
 
     void theDrawingFillsItsWellWithTheSunkColor();
+    void theGridIsDrawnInInk();
     void theDrawingShowsTheMarkUnstretched_data();
     void theDrawingShowsTheMarkUnstretched();
     void theDrawingHasCirclesAndNotesInThreeColors_data();
     void theDrawingHasCirclesAndNotesInThreeColors();
+    void theDrawingSaysWhatTheMarkIsBuiltOf_data();
+    void theDrawingSaysWhatTheMarkIsBuiltOf();
     void theDrawingUsesTheWholeWidthForItsNotes();
     void withoutRoomForThemThereAreNoNotes();
     void theDrawingFollowsTheAppearance();
@@ -312,6 +379,36 @@ void TestMarkViews::aDotFieldFollowsItsFields()
     }
 }
 
+void TestMarkViews::aDotFieldIsDrawnOnceForEachChange()
+{
+    QQuickWindow window;
+    window.resize(room);
+    CountedField field;
+    field.setParentItem(window.contentItem());
+    field.setArea({200, 200});
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.grabWindow();
+    int paintings = field.paintings;
+    QVERIFY(paintings > 0);
+
+    field.setOpacity(0.5);
+    field.setPosition({10, 10});
+    field.setArea({200, 200});
+    field.setSeed(field.seed());
+    field.setCalm(QList(field.calm()));
+    window.grabWindow();
+    QCOMPARE(field.paintings, paintings);
+
+    field.setSeed(3);
+    field.setDensity(0.4);
+    field.setCalm({{100, 100, 20, 30}});
+    window.grabWindow();
+    QCOMPARE(field.paintings, ++paintings);
+    window.grabWindow();
+    QCOMPARE(field.paintings, paintings);
+}
+
 void TestMarkViews::aDotFieldIsAbsentFromAccessibility()
 {
     View view("Item { Accessible.role: Accessible.Grouping; DotField { size: Qt.size(200, 200) } }");
@@ -327,6 +424,35 @@ void TestMarkViews::theDrawingFillsItsWellWithTheSunkColor()
     QCOMPARE(picture.pixelColor(3, 30), shown(EBKit::sunk()));
     QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::white));
     QCOMPARE(picture.pixelColor(411, 115), QColor(Qt::white));
+}
+
+void TestMarkViews::theGridIsDrawnInInk()
+{
+    for (const AppearanceName name : {AppearanceName::Aqua, AppearanceName::DarkAqua}) {
+        m_platform->look.setName(name);
+        View view(construction("embera", 412, 116));
+        const QImage picture = view.picture();
+        const auto blend = [](qreal opacity) {
+            const QColor ink = shown(EBKit::ink());
+            const QColor sunk = shown(EBKit::sunk());
+            const auto mixed = [opacity](int over, int under) {
+                return qRound(over * opacity + under * (1 - opacity));
+            };
+            return QColor(mixed(ink.red(), sunk.red()), mixed(ink.green(), sunk.green()),
+                          mixed(ink.blue(), sunk.blue()));
+        };
+        const auto hasLine = [&picture](const QColor &color) {
+            for (int x = 0; x < 412; ++x) {
+                const QColor pixel = picture.pixelColor(x, 30);
+                if (qAbs(pixel.red() - color.red()) <= 1 && qAbs(pixel.green() - color.green()) <= 1
+                    && qAbs(pixel.blue() - color.blue()) <= 1)
+                    return true;
+            }
+            return false;
+        };
+        QVERIFY(hasLine(blend(0.08)));
+        QVERIFY(hasLine(blend(0.22)));
+    }
 }
 
 void TestMarkViews::theDrawingShowsTheMarkUnstretched_data()
@@ -391,6 +517,37 @@ void TestMarkViews::theDrawingHasCirclesAndNotesInThreeColors()
     QVERIFY(count(picture, shown(EBKit::coral())) > 50);
     QVERIFY(count(picture, shown(EBKit::ink())) > 5000);
     QVERIFY(count(picture, shown(EBKit::sunk())) > 100000);
+}
+
+void TestMarkViews::theDrawingSaysWhatTheMarkIsBuiltOf_data()
+{
+    QTest::addColumn<QStringList>("notes");
+    QTest::newRow("quiller") << QStringList{"CIRCLE 15", "GAP 4", "PILL 15 × 53", "PILL 15 × 34"};
+    QTest::newRow("corvane") << QStringList{"PILL 15 × 53", "GAP 4", "PILL 34 × 15", "CIRCLE 34"};
+    QTest::newRow("parcelo") << QStringList{"PILL 15 × 34", "GAP 4", "CIRCLE 15", "PILL 53 × 15"};
+}
+
+void TestMarkViews::theDrawingSaysWhatTheMarkIsBuiltOf()
+{
+    QFETCH(QStringList, notes);
+    const QString app = QString::fromLatin1(QTest::currentDataTag());
+    OpenDrawing drawing;
+    drawing.setApp(app);
+    drawing.setSize({412, 116});
+    WritingDevice device;
+    QPainter painter(&device);
+    drawing.paint(&painter);
+    painter.end();
+    QCOMPARE(device.writings.size(), 1 + notes.size());
+    const Writing title = device.writings.takeFirst();
+    QCOMPARE(title.text, QStringLiteral("The %1 mark").arg(drawing.displayName()));
+    QCOMPARE(title.font.families(), EBTypes::font(EBTypeRole::heading).families());
+    QCOMPARE(title.color, EBKit::ink().current());
+    for (qsizetype i = 0; i < notes.size(); ++i) {
+        QCOMPARE(device.writings[i].text, notes[i]);
+        QCOMPARE(device.writings[i].font.families(), EBTypes::font(EBTypeRole::mono).families());
+        QCOMPARE(device.writings[i].color, EBKit::ink().current());
+    }
 }
 
 // On the light ground nothing but letters, and the mark, is this dark in every component.

@@ -27,6 +27,7 @@ private slots:
     void skipSetupEndsIt();
     void theTryItStepHasThePracticeTheChipsAndNoWayBack();
     void resetBringsTheWindowsBackAndKeepsWhatWasPractised();
+    void leavingThePracticeLeavesItsWindowAndItsKeys();
     void theHintIsTheText();
     void theAccessStepExplainsThePermission();
     void theAccessStepChangesOnceThePermissionWasAskedFor();
@@ -195,6 +196,38 @@ void TestOnboardingView::resetBringsTheWindowsBackAndKeepsWhatWasPractised()
     click(control("Reset windows"));
     QCOMPARE(m_flow->demo()->wins().at(2).state, DemoModel::State::normal);
     QVERIFY(m_flow->demo()->done().contains(DemoModel::Task::close));
+}
+
+void TestOnboardingView::leavingThePracticeLeavesItsWindowAndItsKeys()
+{
+    m_platform->look.setReduceMotion(false);
+    make(OnboardingStep::tryIt);
+    DemoModel &demo = *m_flow->demo();
+    for (const int times : {1, 2}) {
+        QTRY_COMPARE(opacityOf("tryIt"), 1);
+        const QQuickItem *sketches = control("Ideas window, Sketches", QAccessible::Grouping);
+        QVERIFY(sketches);
+        QTest::mouseMove(m_window.get(), sketches->mapToScene({60, 40}).toPoint());
+        QTRY_COMPARE(demo.hovered(), std::optional(1));
+        QCOMPARE(m_platform->keyMonitorCount(), 1);
+        demo.pulse(Hotkey::close);
+        m_flow->next();
+        // It still fades.
+        QCOMPARE(screens(), (QStringList{"tryIt", "access"}));
+        QVERIFY(!demo.hovered());
+        QCOMPARE(m_platform->keyMonitorCount(), 0);
+        m_platform->queue.advance(0.45);
+        QVERIFY(!demo.flash());
+        // Once while it fades and once when it is gone.
+        if (times == 2)
+            QTRY_COMPARE(screens(), QStringList{"access"});
+        QTest::mouseMove(m_window.get(), {550, 380});
+        m_flow->back();
+        QCOMPARE(screens().count("tryIt"), 1);
+        QCOMPARE(m_platform->keyMonitorCount(), 1);
+    }
+    QVERIFY(!demo.hovered());
+    QCOMPARE(demo.nudge(), 0);
 }
 
 void TestOnboardingView::theHintIsTheText()

@@ -28,6 +28,7 @@ private slots:
     void windowsComeFrontToBack();
     void onlyWindowsOnTheScreenCount();
     void theWindowManagersStackingIsTheOrder();
+    void withoutAStackingTheWindowManagersListCounts();
     void minimisedWindowsAreLeftOut_data();
     void minimisedWindowsAreLeftOut();
     void onlyTheCurrentDesktopCounts_data();
@@ -70,7 +71,7 @@ void X11WindowListTest::init()
 void X11WindowListTest::cleanup()
 {
     m_windows.clear();
-    for (const char *property : {"_NET_CLIENT_LIST_STACKING", "_NET_CURRENT_DESKTOP"})
+    for (const char *property : {"_NET_CLIENT_LIST_STACKING", "_NET_CLIENT_LIST", "_NET_CURRENT_DESKTOP"})
         xcb_delete_property(m_x, m_x.root(), m_x.atom(property));
     m_x.synchronise();
 }
@@ -142,6 +143,19 @@ void X11WindowListTest::theWindowManagersStackingIsTheOrder()
     QCOMPARE(bounds(), (QList{points({0, 0, 10, 10}), points({0, 0, 20, 20})}));
     setStacking({&one, &two});
     QCOMPARE(bounds(), (QList{points({0, 0, 20, 20}), points({0, 0, 10, 10})}));
+    setStacking({});
+    QVERIFY(list().isEmpty());
+}
+
+void X11WindowListTest::withoutAStackingTheWindowManagersListCounts()
+{
+    const X11TestWindow &frame = show({100, 100, 410, 340});
+    const X11TestWindow &client = show({0, 0, 400, 300});
+    xcb_reparent_window(m_x, client.id(), frame.id(), 5, 35);
+    client.map();
+    X11TestWindow::setNumbers(m_x, m_x.root(), "_NET_CLIENT_LIST", {client.id()});
+    QCOMPARE(bounds(), QList{points({105, 135, 400, 300})});
+    // The stacking goes first, even an empty one.
     setStacking({});
     QVERIFY(list().isEmpty());
 }
@@ -354,6 +368,10 @@ void X11WindowListTest::brokenPropertiesAreIgnored()
     window.setNumbers("WM_CLASS", {1, 2});
     QCOMPARE(bounds(), QList{points({100, 100, 400, 300})});
     QVERIFY(!list().constFirst().ownerIsSystemSettings);
+    // Margins beyond all measure neither overflow nor make the window a wide one.
+    window.setNumbers("_NET_FRAME_EXTENTS", {});
+    window.setNumbers("_GTK_FRAME_EXTENTS", {0x7FFFFFFF, 0x7FFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF});
+    QVERIFY(bounds().constFirst().width() < 0);
 }
 
 int main(int argc, char **argv)

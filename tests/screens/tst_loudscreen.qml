@@ -185,7 +185,7 @@ ScreenTestCase {
         screen.copy = "A text that goes on and on and on, and on. ".repeat(9);
         const column = textIn(screen, screen.copy).parent;
         tryVerify(() => column.height > 200);
-        compare(rect(column).y, 40);
+        compare(rect(column).y, 48);
     }
 
     function test_a_wide_button_widens_the_column_away_from_the_edge() {

@@ -48,6 +48,7 @@ void TestScreenFit::everyTextFits_data()
         QTest::addRow("stage screen, %s", qPrintable(font)) << font << stage << QSize(560, 388);
         QTest::addRow("loud screen, %s", qPrintable(font)) << font << loud << QSize(560, 388);
         QTest::addRow("wide loud screen, %s", qPrintable(font)) << font << loud << QSize(900, 388);
+        QTest::addRow("large loud screen, %s", qPrintable(font)) << font << loud << QSize(1120, 776);
         QTest::addRow("About screen, %s", qPrintable(font)) << font << about << QSize(460, 380);
     }
 }

@@ -44,7 +44,7 @@ ScreenTestCase {
             compare(rectIn(label(i), row).x, 16);
             fuzzyCompare(rectIn(dot(i).parent, row).y + 4, row.height / 2, 0.5);
             if (i > 0)
-                compare(row.y, rows()[i - 1].y + rows()[i - 1].height + 10);
+                tryVerify(() => row.y === rows()[i - 1].y + rows()[i - 1].height + 10);
         }
     }
 
@@ -147,6 +147,8 @@ ScreenTestCase {
 
     function test_markers_lead_from_right_to_left() {
         mirror();
+        for (const row of rows())
+            compare(row.x + row.width, list.width);
         compare(rectIn(dot(1).parent, rows()[1]).x, rows()[1].width - 8);
         compare(label(1).effectiveHorizontalAlignment, Text.AlignRight);
     }

@@ -2,6 +2,7 @@
 
 #include "EBKitFonts.h"
 
+#include <QGuiApplication>
 #include <QQuickItem>
 
 const QString SystemSettings::windowClass = QStringLiteral("com.vexmoor.corvane.systemsettings");
@@ -11,7 +12,7 @@ void SystemSettings::openAccessibility()
     if (!m_window) {
         EBKitFonts::registerFonts();
         m_window = std::make_unique<EBWindow>(QSize(480, 300), EBWindow::Style{.miniaturizeButtonEnabled = true});
-        m_window->setTitle(QStringLiteral("System Settings"));
+        m_window->setTitle(QGuiApplication::translate("SystemSettings", "System Settings"));
         m_window->host(ViewEngine::make(m_engine, QStringLiteral("qrc:/qt/qml/Corvane/Agent/AccessibilityPage.qml"),
                                         {{QStringLiteral("list"), QVariant::fromValue(&m_list)}}));
         m_window->center();

@@ -78,7 +78,7 @@ void EBKitMenuRow::draw(QPainter &painter)
         paintContinuousRect(&painter, QRectF(rect()), radius, EBKit::chip().current());
 
     if (m_glyph) {
-        const QRectF box = placed(centred(edge, KitMetric::discGlyph, KitMetric::discGlyph, height()));
+        const QRectF box = placed({edge, 0, KitMetric::discGlyph, qreal(height())});
         drawGlyph(painter, *m_glyph, KitMetric::discGlyph, m_title.color.current(), box);
     }
     qreal end = width() - edge;

@@ -1,10 +1,12 @@
 #include "EBKitRow.h"
 
+#include "EBKit.h"
 #include "KitDrawing.h"
 #include "KitMetrics.h"
 #include "KitText.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 
@@ -77,9 +79,21 @@ void EBKitRow::placeContent()
 
 void EBKitRow::draw(QPainter &painter)
 {
-    if (m_glyph)
-        drawDisc(painter, *m_glyph, discGlyph, m_discRect, m_on, m_app.color.current(), m_app.onColor.current());
+    if (m_glyph) {
+        drawDisc(painter);
+        drawGlyph(painter, *m_glyph, discGlyph, m_on ? m_app.onColor.current() : EBKit::ink().current(), m_discRect);
+    }
     KitText::draw(painter, m_title, m_titleRect, layoutDirection());
     if (m_detail)
         KitText::draw(painter, *m_detail, m_detailRect, layoutDirection());
+}
+
+void EBKitRow::drawDisc(QPainter &painter) const
+{
+    QPainterPath oval;
+    oval.addEllipse(m_on ? m_discRect : m_discRect.adjusted(0.5, 0.5, -0.5, -0.5));
+    if (m_on)
+        painter.fillPath(oval, m_app.color.current());
+    else
+        painter.strokePath(oval, QPen(EBKit::lineStrong().current(), 1.0));
 }

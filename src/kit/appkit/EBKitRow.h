@@ -40,6 +40,7 @@ protected:
 private:
     /// Where the texts begin, from the leading edge.
     qreal textStart() const;
+    void drawDisc(QPainter &painter) const;
 
     EBKitApp m_app;
     std::optional<EBKitGlyph> m_glyph;

@@ -1,8 +1,33 @@
 #include "EBKitStatusPanel.h"
 
+#include "ContinuousRect.h"
 #include "EBKitPanelHeader.h"
+#include "KitMetrics.h"
+#include "Platform.h"
 
 #include <QLayout>
+#include <QRegion>
+
+namespace {
+
+QString titleOf(const QList<EBKitView *> &views)
+{
+    for (const EBKitView *view : views) {
+        if (const auto *header = qobject_cast<const EBKitPanelHeader *>(view))
+            return header->name().string;
+    }
+    return {};
+}
+
+/// What is left of a panel of that size where its clear corners would be black; empty where they are clear.
+QRegion cutOut(const QSize &size)
+{
+    if (Platform::current().workspace().blendsWindows())
+        return {};
+    return continuousRect(QRectF(QPointF(), size), KitMetric::cardRadius).toFillPolygon().toPolygon();
+}
+
+}
 
 EBKitStatusPanel::EBKitStatusPanel(QObject *parent) : EBKitStatusPanel(new EBKitPanelView, parent) { }
 
@@ -17,12 +42,11 @@ QSize EBKitStatusPanel::prepare()
     m_content->stack(views);
     // Left to itself the window would give the keyboard to the first control, unseen.
     m_content->setFocus();
-    for (const EBKitView *view : views) {
-        if (const auto *header = qobject_cast<const EBKitPanelHeader *>(view))
-            panel().setWindowTitle(header->name().string);
-    }
+    panel().setWindowTitle(titleOf(views));
     const int width = panel().width();
     const QLayout &layout = *m_content->layout();
-    const int height = layout.hasHeightForWidth() ? layout.totalHeightForWidth(width) : layout.totalSizeHint().height();
-    return {width, height};
+    const QSize size(width,
+                     layout.hasHeightForWidth() ? layout.totalHeightForWidth(width) : layout.totalSizeHint().height());
+    panel().setMask(cutOut(size));
+    return size;
 }

@@ -24,7 +24,8 @@ bool OutsideMonitor::eventFilter(QObject *object, QEvent *event)
 
 bool OutsideMonitor::isInside(QObject *object) const
 {
-    for (const auto *window = qobject_cast<const QWindow *>(object); window; window = window->transientParent()) {
+    for (const auto *window = qobject_cast<const QWindow *>(object); window;
+         window = window->parent(QWindow::IncludeTransients)) {
         if (window == m_window.windowHandle())
             return true;
     }

@@ -1,10 +1,12 @@
 #include "PanelWindow.h"
 
+#include "Platform.h"
 #include "ViewAccessibility.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace {
 
@@ -33,6 +35,13 @@ bool PanelWindow::event(QEvent *event)
     if (event->type() == QEvent::WindowDeactivate && onResignKey)
         onResignKey();
     return handled;
+}
+
+void PanelWindow::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        Platform::current().workspace().floatOnAllSpaces(*windowHandle());
 }
 
 void PanelWindow::keyPressEvent(QKeyEvent *event)

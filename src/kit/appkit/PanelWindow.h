@@ -4,8 +4,8 @@
 
 #include <functional>
 
-/// The window of a status panel: borderless, above all others, with a clear background. It takes the keyboard focus all
-/// the same, and it is hidden rather than closed.
+/// The window of a status panel: borderless, above all others, on every workspace and in no list of windows, with a
+/// clear background. It takes the keyboard focus all the same, and it is hidden rather than closed.
 class PanelWindow : public QWidget {
     Q_OBJECT
 public:
@@ -20,6 +20,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 };

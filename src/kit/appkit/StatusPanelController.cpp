@@ -5,6 +5,7 @@
 #include "PanelPlacement.h"
 #include "PanelWindow.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -65,7 +66,8 @@ void StatusPanelController::open(const QRect &anchor)
     if (isOpen())
         return;
     m_button = nullptr;
-    show(anchor, screenAround(anchor));
+    const QRect place = anchor.isEmpty() ? QRect(QCursor::pos(), QSize(1, 1)) : anchor;
+    show(place, screenAround(place));
 }
 
 void StatusPanelController::toggle(QWidget &button)

@@ -34,7 +34,8 @@ public:
     /// has the property "highlighted". Does nothing while the panel is open.
     void open(QWidget &button);
 
-    /// Opens the panel under a place on the screen, such as the geometry of a tray icon.
+    /// Opens the panel under a place on the screen, such as the geometry of a tray icon. Not every desktop tells that:
+    /// an empty place stands for the pointer's.
     void open(const QRect &anchor);
 
     /// For a click on the button: opens a closed panel and closes an open one. A click that has just closed the panel,

@@ -23,10 +23,13 @@ constexpr qreal cornerRadius = 16;
 constexpr qreal titleSize = 15;
 // Between a text and what stands beside it, in points.
 constexpr qreal clearance = 6;
+// How far the ground is cleared around a text, in points.
+constexpr qreal plateMargin = 4;
+// How strong the grid's lines are, and those along the block.
+constexpr qreal gridOpacity = 0.08;
+constexpr qreal blockOpacity = 0.22;
 // Letters grow with a large drawing, as far as there is room for them, but far less than it does.
 constexpr qreal largestGrowth = 1.8;
-// Between a text and the outer circle at the text's height, which comes nearer above or below it.
-constexpr qreal circleClearance = 12;
 
 QColor color(Tone tone)
 {
@@ -39,6 +42,13 @@ QColor color(Tone tone)
         break;
     }
     return EBKit::coral().current();
+}
+
+QPen inkPen(qreal opacity)
+{
+    QColor ink = EBKit::ink().current();
+    ink.setAlphaF(float(opacity));
+    return QPen(ink, 1);
 }
 
 QFont sized(QFont font, qreal size)
@@ -74,7 +84,7 @@ private:
     void drawHorizontal(qreal y);
     void drawCallout(const Callout &callout, Tone tone);
     void drawText(QPointF leftEnd, qreal width, const QString &text);
-    qreal roomAt(qreal y) const;
+    qreal roomAt(qreal y, qreal height) const;
     qreal fittingGrowth(const QFont &font, const QString &text, QPointF position) const;
 
     QPainter *m_painter;
@@ -124,7 +134,7 @@ void Sheet::drawGrid()
     const qreal pitch = module * m_grid.m11();
     if (!(pitch > 1))
         return;
-    m_painter->setPen(QPen(EBKit::line().current(), 1));
+    m_painter->setPen(inkPen(gridOpacity));
     for (qreal away = pitch / 2; away < m_bounds.width() / 2; away += pitch) {
         drawVertical(center.x() - away);
         drawVertical(center.x() + away);
@@ -133,7 +143,7 @@ void Sheet::drawGrid()
         drawHorizontal(center.y() - away);
         drawHorizontal(center.y() + away);
     }
-    m_painter->setPen(QPen(EBKit::lineStrong().current(), 1));
+    m_painter->setPen(inkPen(blockOpacity));
     const QRectF block = m_grid.mapRect(MarkGeometry::block);
     drawVertical(block.left());
     drawVertical(block.right());
@@ -154,20 +164,22 @@ void Sheet::drawMark(EBApp app)
     }
 }
 
-// The width there is for a text beside the outer circle, at that height of the drawing space.
-qreal Sheet::roomAt(qreal y) const
+// The width there is beside the outer circle for a text `height` points high, with its middle at `y` in the drawing
+// space.
+qreal Sheet::roomAt(qreal y, qreal height) const
 {
     const qreal radius = MarkGeometry::block.width() / std::numbers::sqrt2 * m_grid.m11();
-    const qreal away = place({0, y}).y() - m_bounds.center().y();
+    const qreal away = std::max(std::abs(place({0, y}).y() - m_bounds.center().y()) - height / 2, 0.0);
     const qreal chord = std::sqrt(std::max(radius * radius - away * away, 0.0));
-    return m_bounds.width() / 2 - chord - circleClearance - titlePosition.x() * m_x;
+    return m_bounds.width() / 2 - chord - clearance - titlePosition.x() * m_x;
 }
 
 // How much larger than its font a text can be; below 1 there is no room for it.
 qreal Sheet::fittingGrowth(const QFont &font, const QString &text, QPointF position) const
 {
     const qreal wanted = std::clamp(std::sqrt(std::min(m_x, m_y)), 1.0, largestGrowth);
-    return std::min(roomAt(position.y()) / textWidth(font, text), wanted);
+    const qreal height = QFontMetricsF(font).capHeight() * wanted + 2 * plateMargin;
+    return std::min(roomAt(position.y(), height) / textWidth(font, text), wanted);
 }
 
 void Sheet::drawNotes(EBApp app)
@@ -214,7 +226,7 @@ void Sheet::drawText(QPointF leftEnd, qreal width, const QString &text)
 {
     const qreal capHeight = QFontMetricsF(m_painter->font()).capHeight();
     const QRectF plate(leftEnd.x(), leftEnd.y() - capHeight / 2, width, capHeight);
-    m_painter->fillRect(plate.adjusted(-4, -4, 4, 4), EBKit::sunk().current());
+    m_painter->fillRect(plate.adjusted(-plateMargin, -plateMargin, plateMargin, plateMargin), EBKit::sunk().current());
     m_painter->setPen(EBKit::ink().current());
     m_painter->drawText(plate.bottomLeft(), text);
 }

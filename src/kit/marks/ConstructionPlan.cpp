@@ -63,12 +63,12 @@ QList<Callout> ConstructionPlan::callouts(EBApp app)
     switch (app) {
     case EBApp::quiller:
         return {{{41, 60}, leftMiddle, circle(15)},
-                {{50.5, 74}, leftBottom, gap()},
+                {{50.5, 62}, leftBottom, gap()},
                 {{60, 41}, rightTop, pill(15, 53)},
                 {{79, 69.5}, rightBottom, pill(15, 34)}};
     case EBApp::corvane:
         return {{{41, 60}, leftMiddle, pill(15, 53)},
-                {{50.5, 82}, leftBottom, gap()},
+                {{50.5, 69.5}, leftBottom, gap()},
                 {{79, 41}, rightTop, pill(34, 15)},
                 {{75, 75}, rightBottom, circle(34)}};
     case EBApp::parcelo:

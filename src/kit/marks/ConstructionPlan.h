@@ -34,7 +34,7 @@ QList<Circle> circles(EBApp app);
 
 /// A note beside the mark, with a line that leads there.
 struct Callout {
-    /// A point on the mark, in grid units.
+    /// A point on the mark, or in the gap the note names, in grid units.
     QPointF from;
     /// Where the note stands, in the drawing space: in its left half this is the text's left end, in its right half the
     /// right end.

@@ -31,7 +31,7 @@ DotGrid::DotGrid(const QSizeF &size, double cell, double density)
       m_cell(cell),
       m_left((size.width() - cell * m_columns) / 2),
       m_top((size.height() - cell * m_rows) / 2),
-      m_free(std::size_t(stride()) * (std::size_t(m_rows) + 2)),
+      m_free(std::size_t(stride()) * (std::size_t(m_rows) + 1)),
       m_chances(std::size_t(m_columns) * std::size_t(m_rows), Mulberry32::multipleWithin(density))
 {
     for (int row = 0; row < m_rows; ++row)

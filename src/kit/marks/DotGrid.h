@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <vector>
 
-/// The cells of a dot field: where each stands, whether it is free, and how likely a mark begins there. Two columns and
-/// two rows that are never free stand behind the last ones, so that no bar has to look for the edge.
+/// The cells of a dot field: where each stands, whether it is free, and how likely a mark begins there. A column and a
+/// row that are never free stand behind the last ones, so that no bar has to look for the edge.
 class DotGrid {
 public:
     DotGrid(const QSizeF &size, double cell, double density);
@@ -20,7 +20,7 @@ public:
 
     /// Whether the cells of a row are open and not taken: 1 or 0 each. The next row begins `stride` further on.
     std::uint8_t *free(int row) { return m_free.data() + row * stride(); }
-    std::ptrdiff_t stride() const { return std::ptrdiff_t(m_columns) + 2; }
+    std::ptrdiff_t stride() const { return std::ptrdiff_t(m_columns) + 1; }
 
     /// The largest draw that begins a mark, for each cell of a row, in multiples of the generator.
     const std::uint32_t *chances(int row) const { return m_chances.data() + row * std::ptrdiff_t(m_columns); }

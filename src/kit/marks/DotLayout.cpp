@@ -42,7 +42,8 @@ constexpr std::uint32_t upright = Mulberry32::multipleWithin(0.2);
 constexpr std::uint32_t anyBar = Mulberry32::multipleWithin(0.34);
 constexpr std::uint32_t longBar = Mulberry32::multipleWithin(0.3);
 
-/// How many further cells a bar takes that begins at `cell` and runs in steps of `step`; the cells become taken.
+/// How many further cells a bar takes that begins at `cell` and runs in steps of `step`; the cells become taken. The
+/// next cell is free, so there is one behind it.
 int takeBar(std::uint8_t *cell, std::ptrdiff_t step, std::uint32_t draw)
 {
     const int more = draw <= longBar && cell[2 * step] ? 2 : 1;

@@ -7,7 +7,7 @@ Row {
 
     readonly property var placed: Array.from(children).filter(child => child.visible && !(child instanceof EBSpacer) && child.width > 0)
     /// What the actions leave of the row's width for a spacer, of which there is at most one; in points.
-    readonly property real free: width - placed.reduce((taken, child) => taken + child.width + spacing, 0)
+    readonly property real free: Math.max(0, width - placed.reduce((taken, child) => taken + child.width + spacing, 0))
 
     spacing: 10
     onChildrenChanged: Array.from(children).forEach(child => child.anchors.verticalCenter = verticalCenter)

@@ -132,8 +132,9 @@ FocusScope {
             right: parent.right
             rightMargin: 32 * screen.k
         }
-        // In the middle of its calm zone; a text too long for that goes on below, clear of the counter.
-        y: Math.max(40, 120 * screen.k - height / 2)
+        // In the middle of its calm zone; a text too long for that goes on below, clear of the counter and of the dots
+        // at the zone's round corner.
+        y: Math.max(48, 120 * screen.k - height / 2)
         width: Math.max(screen.geometry.m, main.implicitWidth)
         spacing: 16
 

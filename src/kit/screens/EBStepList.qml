@@ -38,6 +38,7 @@ Column {
             readonly property int place: list.place(index)
             readonly property color color: list.onLoud ? EBEnvironment.onLoud : place === 0 ? EB.ink : EB.inkMuted
 
+            anchors.left: parent?.left
             spacing: 8
             Accessible.role: Accessible.StaticText
             Accessible.name: list.spoken(index)

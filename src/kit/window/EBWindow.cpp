@@ -17,6 +17,19 @@ namespace {
 constexpr int titleBarHeight = 28;
 constexpr qreal resizeDuration = 0.2; // seconds
 
+/// Lies under the content and moves the window by the presses that nothing above it takes.
+class Handle : public QQuickItem {
+public:
+    explicit Handle(QQuickItem *parent) : QQuickItem(parent)
+    {
+        setAcceptedMouseButtons(Qt::LeftButton);
+        setZ(-1);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent *) override { window()->startSystemMove(); }
+};
+
 }
 
 EBWindow::EBWindow(QSize contentSize, Style style) : m_style(style)
@@ -35,11 +48,15 @@ EBWindow::EBWindow(QSize contentSize, Style style) : m_style(style)
 
 void EBWindow::host(QQuickItem *view)
 {
+    addItem(view);
+    auto *handle = new Handle(contentItem());
     // Before a window is shown it has its size already, and its content item has none.
-    const auto fill = [this, view] { view->setSize(size()); };
+    const auto fill = [this, view, handle] {
+        view->setSize(size());
+        handle->setSize({qreal(width()), qreal(m_style.movableByWindowBackground ? height() : titleBarHeight)});
+    };
     connect(this, &QWindow::widthChanged, view, fill);
     connect(this, &QWindow::heightChanged, view, fill);
-    addItem(view);
     fill();
     addChrome(qmlEngine(view));
 }
@@ -57,14 +74,6 @@ void EBWindow::addItem(QQuickItem *item)
     item->setParentItem(contentItem());
     if (QGuiApplication::isRightToLeft())
         QQmlProperty::write(item, QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(item));
-}
-
-void EBWindow::mousePressEvent(QMouseEvent *event)
-{
-    QQuickWindow::mousePressEvent(event);
-    const bool onHandle = m_style.movableByWindowBackground || event->position().y() < titleBarHeight;
-    if (!event->isAccepted() && event->button() == Qt::LeftButton && onHandle)
-        startSystemMove();
 }
 
 void EBWindow::center()

@@ -41,9 +41,6 @@ public:
     /// Shows the window in front of the others with the keyboard focus.
     void makeKeyAndOrderFront();
 
-protected:
-    void mousePressEvent(QMouseEvent *event) override;
-
 private:
     void addChrome(QQmlEngine *engine);
     void addItem(QQuickItem *item);

@@ -8,7 +8,8 @@ ViewEngine::ViewEngine()
 {
     // Alone in front: looking for our modules in the folders of the system first costs part of the start-up.
     setImportPathList(QStringList{QStringLiteral("qrc:/qt/qml")} + importPathList());
-    connect(this, &QQmlEngine::quit, qApp, &QCoreApplication::quit);
+    // Not by the application's own quit(), which closes the windows first: to some that is an answer of the person's.
+    connect(this, &QQmlEngine::quit, qApp, [] { QCoreApplication::exit(); });
 }
 
 void ViewEngine::prefetch(const QUrl &url)

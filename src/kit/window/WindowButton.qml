@@ -15,7 +15,8 @@ Pressable {
     focusPolicy: Qt.TabFocus
 
     background: ContinuousRectangle {
-        color: button.hovered ? EB.track : EB.chip
+        // Not translucent: it also stands on loud grounds, where its glyph would be lost.
+        color: Qt.tint(EB.paper, button.hovered ? EB.track : EB.chip)
         strokeColor: EB.lineStrong
         strokeWidth: 1
 

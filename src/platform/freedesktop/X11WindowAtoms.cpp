@@ -6,6 +6,7 @@ X11WindowAtoms::X11WindowAtoms(xcb_connection_t *connection)
 {
     const std::pair<const char *, xcb_atom_t *> names[] = {
         {"_NET_CLIENT_LIST_STACKING", &clientListStacking},
+        {"_NET_CLIENT_LIST", &clientList},
         {"_NET_CURRENT_DESKTOP", &currentDesktop},
         {"_NET_WM_DESKTOP", &desktop},
         {"_NET_WM_WINDOW_TYPE", &type},

@@ -9,6 +9,7 @@ struct X11WindowAtoms {
     explicit X11WindowAtoms(xcb_connection_t *connection);
 
     xcb_atom_t clientListStacking;
+    xcb_atom_t clientList;
     xcb_atom_t currentDesktop;
     xcb_atom_t desktop;
     xcb_atom_t type;

@@ -64,12 +64,12 @@ public:
     }
 
     /// A window manager may leave a window mapped that is minimised or on another desktop.
-    bool isOnScreen(const X11WindowAtoms &atoms, std::optional<quint32> currentDesktop) const
+    bool isOnScreen(const X11WindowAtoms &atoms, quint32 currentDesktop) const
     {
         const quint32 desktop = m_desktop.value(0, everyDesktop);
         return m_attributes && m_attributes->map_state == XCB_MAP_STATE_VIEWABLE && m_iconicState.value(0) != iconic
             && !m_state.contains(atoms.stateHidden)
-            && (!currentDesktop || desktop == everyDesktop || desktop == *currentDesktop);
+            && (desktop == everyDesktop || currentDesktop == everyDesktop || desktop == currentDesktop);
     }
 
     /// A dialog that belongs to no window is one to work in: so is the settings application of some desktops.
@@ -84,11 +84,11 @@ public:
     bool ownerIsSystemSettings() const { return SystemSettingsApps::haveWindowClass(X11::bytes(m_class.get())); }
 
     /// In pixels; none when the window has just gone.
-    std::optional<QRect> frame() const
+    std::optional<QRectF> frame() const
     {
         if (!m_geometry || !m_place)
             return std::nullopt;
-        const QRect inside(m_place->dst_x, m_place->dst_y, m_geometry->width, m_geometry->height);
+        const QRectF inside(m_place->dst_x, m_place->dst_y, m_geometry->width, m_geometry->height);
         return inside.marginsAdded(margins(m_frame)).marginsRemoved(margins(m_shadow));
     }
 
@@ -111,11 +111,11 @@ private:
     }
 
     /// The order of the property is left, right, top, bottom.
-    static QMargins margins(const QList<quint32> &extents)
+    static QMarginsF margins(const QList<quint32> &extents)
     {
         if (extents.size() != 4)
             return {};
-        return {int(extents[0]), int(extents[2]), int(extents[1]), int(extents[3])};
+        return {qreal(extents[0]), qreal(extents[2]), qreal(extents[1]), qreal(extents[3])};
     }
 
     X11::Reply<xcb_get_window_attributes_reply_t> m_attributes;
@@ -142,28 +142,28 @@ QList<quint32> childrenOfRoot(xcb_connection_t *x)
 
 /// The screen that shows the middle of a rectangle of pixels. Screens keep their place in pixels and are scaled around
 /// their own corner.
-const QScreen &screenAround(const QRect &pixels)
+const QScreen &screenAround(const QRectF &pixels)
 {
     const QList<QScreen *> screens = QGuiApplication::screens();
     const auto shows = [&](const QScreen *screen) {
         const QSizeF size = QSizeF(screen->size()) * screen->devicePixelRatio();
-        return QRectF(screen->geometry().topLeft(), size).contains(QRectF(pixels).center());
+        return QRectF(screen->geometry().topLeft(), size).contains(pixels.center());
     };
     const auto found = std::find_if(screens.begin(), screens.end(), shows);
     return found == screens.end() ? *QGuiApplication::primaryScreen() : **found;
 }
 
-QRectF points(const QRect &pixels)
+QRectF points(const QRectF &pixels)
 {
     const QScreen &screen = screenAround(pixels);
     const QPointF corner = screen.geometry().topLeft();
     const qreal scale = screen.devicePixelRatio();
-    return {(pixels.topLeft() - corner) / scale + corner, QSizeF(pixels.size()) / scale};
+    return {(pixels.topLeft() - corner) / scale + corner, pixels.size() / scale};
 }
 
 OnScreenWindow described(const Answers &answers, const X11WindowAtoms &atoms)
 {
-    const std::optional<QRect> frame = answers.frame();
+    const std::optional<QRectF> frame = answers.frame();
     return {answers.layer(atoms), answers.ownerIsSystemSettings(),
             frame ? std::optional(points(*frame)) : std::nullopt};
 }
@@ -181,13 +181,15 @@ QList<OnScreenWindow> X11WindowList::onScreenWindows()
     if (!m_atoms)
         m_atoms = std::make_unique<X11WindowAtoms>(x);
 
-    const auto askedList = X11::askProperty(x, X11::root(x), m_atoms->clientListStacking);
+    const auto askedStacking = X11::askProperty(x, X11::root(x), m_atoms->clientListStacking);
+    const auto askedClients = X11::askProperty(x, X11::root(x), m_atoms->clientList);
     const auto askedDesktop = X11::askProperty(x, X11::root(x), m_atoms->currentDesktop);
-    const auto stacking = X11::property(x, askedList);
-    const QList<quint32> desktops = X11::numbers(X11::property(x, askedDesktop).get());
-    const auto currentDesktop = desktops.isEmpty() ? std::nullopt : std::optional(desktops.constFirst());
-    // Both go from the bottom to the top.
-    const QList<quint32> windows = stacking ? X11::numbers(stacking.get()) : childrenOfRoot(x);
+    const auto stacking = X11::property(x, askedStacking);
+    const auto clients = X11::property(x, askedClients);
+    const quint32 currentDesktop = X11::numbers(X11::property(x, askedDesktop).get()).value(0, everyDesktop);
+    // Xfwm4 stacks nothing as long as there is a single window. All go from the bottom, or the oldest, to the top.
+    const auto &managed = stacking ? stacking : clients;
+    const QList<quint32> windows = managed ? X11::numbers(managed.get()) : childrenOfRoot(x);
 
     QList<Questions> asked;
     asked.reserve(windows.size());

@@ -2,11 +2,11 @@
 
 #include "WindowList.h"
 
-#include <optional>
+#include <memory>
 
 struct X11WindowAtoms;
 
-/// The windows on an X server: those its window manager stacks, and where there is none, those of the root window.
+/// The windows on an X server: those its window manager stacks or lists, and where there is none, those of the root window.
 /// On anything but X there are none. Each listing costs a few round trips, however many windows there are.
 class X11WindowList : public WindowList {
 public:
