@@ -16,7 +16,7 @@ bool ShortcutMonitor::handle(const KeyDown &key)
     const auto hotkey = Hotkeys::match(key.keyCode, key.flags);
     if (!hotkey)
         return false;
-    if (m_model)
+    if (!key.isARepeat && m_model)
         m_model->press(*hotkey);
     return true;
 }
