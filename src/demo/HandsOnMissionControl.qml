@@ -4,8 +4,8 @@ import Corvane.Shared
 import Corvane.Demo
 
 /// The pretend Mission Control: the model's windows in two rows of three, with the overlay buttons that the store
-/// describes over the hovered one. While it is on the screen the agent's shortcuts act on the model, and nothing else in
-/// the application hears them. It spans the available width.
+/// describes over the hovered one. While it is on the screen and enabled the agent's shortcuts act on the model, and
+/// nothing else in the application hears them. It spans the available width.
 Item {
     id: surface
 

@@ -13,6 +13,7 @@ Loader {
     /// The file of the step's screen, which is given the flow.
     required property url screen
     readonly property bool isCurrent: flow.step === step
+    readonly property bool accessibleHidden: !isCurrent
 
     anchors.fill: parent
     active: isCurrent || opacity > 0

@@ -30,6 +30,8 @@ private slots:
     void theHoveredWindowShowsTheButtonsOfTheStore();
     void clickingAButtonActsOnItsWindow();
     void theShortcutsActOnTheHoveredWindow();
+    void shortcutsArePlacesOfTheKeyboardInEveryLayout_data();
+    void shortcutsArePlacesOfTheKeyboardInEveryLayout();
     void aShortcutOverNoWindowShakesTheChipsAndChangesNothing();
     void aHeldKeyDoesNothingMore();
     void movingStraightOnKeepsTheNewHover();
@@ -146,6 +148,34 @@ void TestPractice::theShortcutsActOnTheHoveredWindow()
     QVERIFY(isGone(u"Browser window, Start page"_s));
     QCOMPARE(windows(), QStringList({u"Tasks window, This week"_s, u"Terminal window, zsh"_s, everyWindow.at(4)}));
     QVERIFY(shows(u"Practised: hover, close, minimize, fullscreen"_s));
+    QVERIFY(shows(u"Pressed over no window: 0"_s));
+}
+
+void TestPractice::shortcutsArePlacesOfTheKeyboardInEveryLayout_data()
+{
+    QTest::addColumn<QString>("layout");
+    // It types the letter of a shortcut and is none.
+    QTest::addColumn<quint32>("otherKey");
+    QTest::newRow("french") << u"fr"_s << quint32(KEY_SEMICOLON);
+    QTest::newRow("dvorak") << u"us(dvorak)"_s << quint32(KEY_Y);
+}
+
+void TestPractice::shortcutsArePlacesOfTheKeyboardInEveryLayout()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const quint32, otherKey);
+    const auto restored = qScopeGuard([this] { desktop().setKeyboardLayout(u"us"_s); });
+    QVERIFY(desktop().setKeyboardLayout(layout));
+    QVERIFY(openPractice());
+    QVERIFY(hover(u"Ideas window, Sketches"_s));
+    keyboard().pressPosition(otherKey, {XK_Control_L});
+    keyboard().pressPosition(KEY_W, {XK_Control_L});
+    QVERIFY(isGone(u"Ideas window, Sketches"_s));
+    QVERIFY(shows(u"Practised: hover, close"_s));
+    QVERIFY(hover(u"Terminal window, zsh"_s));
+    keyboard().pressPosition(KEY_M, {XK_Control_L});
+    QVERIFY(isGone(u"Terminal window, zsh"_s));
+    QVERIFY(shows(u"Practised: hover, close, minimize"_s));
     QVERIFY(shows(u"Pressed over no window: 0"_s));
 }
 

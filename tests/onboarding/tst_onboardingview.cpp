@@ -39,6 +39,15 @@ private slots:
     void theLastStepFollowsTheWishToStartAtLogin_data();
     void theLastStepFollowsTheWishToStartAtLogin();
     void theLastStepEndsTheFlow();
+    void everyStepCanBeLeftByTheKeyboardAlone();
+    void aStepBeginsWithTheFocusOnItsHeading_data();
+    void aStepBeginsWithTheFocusOnItsHeading();
+    void returnWorksWhileTheLastScreenFadesIn();
+    void valuesOfAnotherTypeCountAsAbsent_data();
+    void valuesOfAnotherTypeCountAsAbsent();
+    void theScreenThatFadesOutIsHiddenFromAssistiveTechnologies();
+    void nothingIsCutInAWideFace_data();
+    void nothingIsCutInAWideFace();
     void stepsCrossFadeInAQuarterOfASecond();
     void withLessMotionStepsChangeAtOnce();
     void onlyTheCurrentScreenIsThere();
@@ -51,6 +60,21 @@ private:
         return NamedItems::first(m_window->contentItem(), name, role);
     }
     void click(QQuickItem *item);
+    QAccessible::State stateOf(const QString &name, QAccessible::Role role = QAccessible::Button)
+    {
+        return QAccessible::queryAccessibleInterface(control(name, role))->state();
+    }
+
+    /// The accessible name of what has the keyboard focus.
+    QString focused() const
+    {
+        auto *focus = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+        return focus ? focus->text(QAccessible::Name) : QString();
+    }
+
+    /// Goes to that control by the Tab key, and presses it.
+    void pressByKeyboard(const QString &name, Qt::Key key);
+
     QString step() const { return m_flow->stepName(); }
     QStringList commands() const;
 
@@ -110,6 +134,15 @@ void TestOnboardingView::click(QQuickItem *item)
     QTRY_VERIFY(!frames.isEmpty());
     const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
+}
+
+void TestOnboardingView::pressByKeyboard(const QString &name, Qt::Key key)
+{
+    for (int tabs = 0; tabs < 12 && focused() != name; ++tabs)
+        QTest::keyClick(m_window.get(), Qt::Key_Tab);
+    QCOMPARE(focused(), name);
+    QVERIFY(m_window->activeFocusItem()->property("visualFocus").toBool());
+    QTest::keyClick(m_window.get(), key);
 }
 
 QStringList TestOnboardingView::commands() const
@@ -313,11 +346,8 @@ void TestOnboardingView::theCustomizeStepShowsTheDefaultsForWhatNobodyKnows()
     m_store->setValue("buttonTheme", "nobody's");
     m_store->setValue("buttonSizeOption", "nobody's");
     make(OnboardingStep::customize);
-    const auto state = [this](const QString &name, QAccessible::Role role) {
-        return QAccessible::queryAccessibleInterface(control(name, role))->state();
-    };
-    QVERIFY(state("Classic look", QAccessible::Button).selected);
-    QVERIFY(state("Medium", QAccessible::RadioButton).checked);
+    QVERIFY(stateOf("Classic look").selected);
+    QVERIFY(stateOf("Medium", QAccessible::RadioButton).checked);
     QCOMPARE(m_store->values.value("buttonTheme"), "nobody's");
 }
 
@@ -374,6 +404,137 @@ void TestOnboardingView::theLastStepEndsTheFlow()
     QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(true));
     QCOMPARE(m_platform->space.missionControlOpened, 1);
     QCOMPARE(m_finished, 1);
+}
+
+void TestOnboardingView::everyStepCanBeLeftByTheKeyboardAlone()
+{
+    make(OnboardingStep::welcome);
+    QTest::keyClick(m_window.get(), Qt::Key_Enter);
+    QCOMPARE(step(), "tryIt");
+    pressByKeyboard("Continue", Qt::Key_Space);
+    QCOMPARE(step(), "access");
+    pressByKeyboard("Back", Qt::Key_Return);
+    QCOMPARE(step(), "tryIt");
+    pressByKeyboard("Continue", Qt::Key_Return);
+    pressByKeyboard("Skip", Qt::Key_Space);
+    QCOMPARE(step(), "customize");
+    pressByKeyboard("Looks Good", Qt::Key_Space);
+    QCOMPARE(step(), "done");
+    pressByKeyboard("Don't start at login", Qt::Key_Return);
+    QCOMPARE(commands(), (QStringList{"applySettings", "setLaunchAtLogin", "applySettings"}));
+    QCOMPARE(m_platform->space.missionControlOpened, 0);
+    QCOMPARE(m_finished, 1);
+}
+
+void TestOnboardingView::aStepBeginsWithTheFocusOnItsHeading_data()
+{
+    QTest::addColumn<OnboardingStep>("step");
+    QTest::addColumn<QString>("heading");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("tryIt") << OnboardingStep::tryIt << "Give it a try"
+                           << "Browser window, Start page";
+    QTest::newRow("access") << OnboardingStep::access << "One permission, then you're done"
+                            << "Open System Settings";
+    QTest::newRow("customize") << OnboardingStep::customize << "Make it yours"
+                               << "Classic look";
+}
+
+void TestOnboardingView::aStepBeginsWithTheFocusOnItsHeading()
+{
+    QFETCH(OnboardingStep, step);
+    make(OnboardingStep::welcome);
+    m_flow->go(step);
+    QTEST(focused(), "heading");
+    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QTest::keyClick(m_window.get(), Qt::Key_Space);
+    QCOMPARE(m_flow->step(), step);
+    QTest::keyClick(m_window.get(), Qt::Key_Tab);
+    QTEST(focused(), "first");
+}
+
+void TestOnboardingView::returnWorksWhileTheLastScreenFadesIn()
+{
+    m_platform->look.setReduceMotion(false);
+    make(OnboardingStep::customize);
+    pressByKeyboard("Keep the Defaults", Qt::Key_Return);
+    QCOMPARE(screens(), (QStringList{"customize", "done"}));
+    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QCOMPARE(commands(), (QStringList{"applySettings", "setLaunchAtLogin", "applySettings"}));
+    QCOMPARE(m_finished, 1);
+}
+
+void TestOnboardingView::valuesOfAnotherTypeCountAsAbsent_data()
+{
+    QTest::addColumn<QVariant>("text");
+    QTest::addColumn<QVariant>("flag");
+    QTest::newRow("numbers") << QVariant(1.0) << QVariant(1.0);
+    QTest::newRow("the other way round") << QVariant(true) << QVariant("true");
+    QTest::newRow("lists") << QVariant(QStringList{"soft"}) << QVariant(QVariantList{true});
+}
+
+void TestOnboardingView::valuesOfAnotherTypeCountAsAbsent()
+{
+    QFETCH(QVariant, text);
+    QFETCH(QVariant, flag);
+    m_store->values = {
+        {"buttonTheme", text},        {"buttonSizeOption", text},           {"showMinimizeButton", flag},
+        {"showMaximizeButton", flag}, {"agent.accessibilityTrusted", flag}, {"agent.launchAtLogin", flag}};
+    const QVariantMap stored = m_store->values;
+    make(OnboardingStep::customize, OnboardingFlow::Run::replay);
+    QVERIFY(stateOf("Classic look").selected);
+    QVERIFY(stateOf("Medium", QAccessible::RadioButton).checked);
+    QVERIFY(!stateOf("Minimize button", QAccessible::CheckBox).checked);
+    QVERIFY(!stateOf("Full screen button", QAccessible::CheckBox).checked);
+    m_flow->back();
+    QVERIFY(control("Open System Settings"));
+    m_flow->back();
+    QVERIFY(shows(QString::fromUtf8("Click the cross, or press ⌘W to close it.")));
+    QVERIFY(m_flow->launchAtLogin());
+    QCOMPARE(m_store->values, stored);
+}
+
+void TestOnboardingView::theScreenThatFadesOutIsHiddenFromAssistiveTechnologies()
+{
+    m_platform->look.setReduceMotion(false);
+    make(OnboardingStep::access);
+    QVERIFY(!stateOf("Skip").invisible);
+    m_flow->next();
+    QVERIFY(stateOf("One permission, then you're done", QAccessible::Heading).invisible);
+    QVERIFY(stateOf("Skip").invisible);
+    QVERIFY(!stateOf("Make it yours", QAccessible::Heading).invisible);
+    m_flow->back();
+    QVERIFY(!stateOf("Skip").invisible);
+}
+
+void TestOnboardingView::nothingIsCutInAWideFace_data()
+{
+    QTest::addColumn<OnboardingStep>("step");
+    for (const OnboardingStep step : OnboardingSteps::allCases)
+        QTest::newRow(qPrintable(OnboardingSteps::caseName(step))) << step;
+}
+
+void TestOnboardingView::nothingIsCutInAWideFace()
+{
+    QFETCH(OnboardingStep, step);
+    const QFont usual = QGuiApplication::font();
+    const auto restore = qScopeGuard([&] { QGuiApplication::setFont(usual); });
+    QGuiApplication::setFont(QFont("DejaVu Sans"));
+    make(step);
+    const QRectF frame(0, 0, 560, 388);
+    QList<QQuickItem *> rest = {m_view};
+    int buttons = 0;
+    while (!rest.isEmpty()) {
+        const QQuickItem *item = rest.takeLast();
+        rest.append(item->childItems());
+        const auto *accessible = QAccessible::queryAccessibleInterface(const_cast<QQuickItem *>(item));
+        if (!accessible || !item->isVisible() || accessible->role() != QAccessible::Button)
+            continue;
+        ++buttons;
+        // With the ring that shows the focus.
+        const QRectF place = item->mapRectToScene(item->boundingRect()).adjusted(-4, -4, 4, 4);
+        QVERIFY2(frame.contains(place), qPrintable(accessible->text(QAccessible::Name)));
+    }
+    QVERIFY(buttons >= 2);
 }
 
 void TestOnboardingView::stepsCrossFadeInAQuarterOfASecond()

@@ -3,6 +3,7 @@
 #include "Tool.h"
 
 #include <QDir>
+#include <QWindow>
 
 class FreedesktopPlatformTest : public QObject {
     Q_OBJECT
@@ -20,6 +21,7 @@ private slots:
     void theMainBundleIsTheFolderOfTheExecutable();
     void aBundleIsNullWhereThereIsNoFolder();
     void everyServiceIsThereAndStaysTheSame();
+    void withoutAnXServerNoWindowIsOnTheScreen();
 
 private:
     PrivateSession &m_session;
@@ -80,6 +82,18 @@ void FreedesktopPlatformTest::everyServiceIsThereAndStaysTheSame()
     QCOMPARE(&platform.workspace(), &platform.workspace());
     QCOMPARE(&platform.appearance(), &platform.appearance());
     QCOMPARE(&platform.mainBundle(), &platform.mainBundle());
+    QCOMPARE(&platform.windowList(), &platform.windowList());
+    QCOMPARE(&platform.mainQueue(), &platform.mainQueue());
+}
+
+void FreedesktopPlatformTest::withoutAnXServerNoWindowIsOnTheScreen()
+{
+    QWindow window;
+    window.show();
+    QVERIFY(Platform::current().windowList().onScreenWindows().isEmpty());
+    // A panel is shown there as it is.
+    Platform::current().workspace().floatOnAllSpaces(window);
+    QVERIFY(Platform::current().workspace().blendsWindows());
 }
 
 int main(int argc, char **argv)

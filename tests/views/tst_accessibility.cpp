@@ -186,6 +186,17 @@ private slots:
         QCOMPARE(control->actionInterface()->actionNames(), QStringList());
     }
 
+    void whatIsHiddenFromAssistiveTechnologiesDoesNotShow()
+    {
+        const Interface button =
+            show(QStringLiteral("Item { property bool accessibleHidden: false; EBButton { text: 'Continue' } }"))
+                ->child(0);
+        QVERIFY(!button->state().invisible);
+        item(button)->parentItem()->setProperty("accessibleHidden", true);
+        QVERIFY(button->state().invisible);
+        QVERIFY(item(button)->isVisible());
+    }
+
     void disabledControlsTakeNoAction()
     {
         const Interface button = show(QStringLiteral("EBButton { text: 'Continue'; enabled: false }"))->child(0);

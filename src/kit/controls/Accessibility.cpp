@@ -12,6 +12,12 @@
 
 namespace {
 
+/// The item, or one around it, declares that it is hidden.
+bool isHidden(const QQuickItem *item)
+{
+    return item && (item->property("accessibleHidden").toBool() || isHidden(item->parentItem()));
+}
+
 /// What Qt says about an item, with the corrections. Qt's own interface of the item stays in Qt's cache and
 /// belongs to it, so it is looked up whenever it is needed: it may go first.
 class MendedItem : public QAccessibleInterface, public QAccessibleActionInterface {
@@ -38,6 +44,7 @@ public:
             state.focused = false;
         }
         state.focusable = state.focusable && takesFocus();
+        state.invisible = state.invisible || isHidden(m_item);
         return state;
     }
 

@@ -7,6 +7,7 @@
 /// - a tab or an item of a list that can be pressed says so;
 /// - an item made from a template has the role that its property `accessibleRole` names (a role of `Accessible`) where
 ///   it declares one: the templates overrule `Accessible.role`;
+/// - an item whose property `accessibleHidden` is true does not show, nor does anything in it;
 /// - an item offers the actions that its list `accessibleActions` holds (AccessibleAction);
 /// - the application has the name in its bundle.
 ///

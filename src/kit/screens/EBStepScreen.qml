@@ -107,6 +107,8 @@ Item {
                 role: "heading"
                 horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
+                // Read aloud when the screen comes up; Tab goes on from here.
+                focus: true
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }

@@ -18,6 +18,7 @@ public:
     const PrivateSession &session() const { return m_session; }
     const XConnection &x() const { return m_x; }
     QByteArray display() const { return m_display.name(); }
+    bool setKeyboardLayout(const QString &layout) const { return m_display.setKeyboardLayout(layout); }
 
     /// What a program started in this session gets.
     QProcessEnvironment environment() const;
