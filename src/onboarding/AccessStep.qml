@@ -30,28 +30,32 @@ EBStepScreen {
         }
     }
 
-    actions: [
+    // In a wide face the way back goes to a line of its own. Nothing shows of its padding, which may lie in the margin.
+    actions: Flow {
+        width: parent.width + 14
+        spacing: 10
+
         EBButton {
             visible: !screen.flow.trusted
             text: screen.flow.accessRequested ? qsTr("Open Again") : qsTr("Open System Settings")
             size: "sm"
             onClicked: screen.flow.requestAccess()
-        },
+        }
         EBButton {
             visible: !screen.flow.trusted
             text: qsTr("Skip")
             variant: "secondary"
             size: "sm"
             onClicked: screen.flow.next()
-        },
+        }
         EBButton {
             visible: screen.flow.trusted
             text: qsTr("Continue")
             size: "sm"
             onClicked: screen.flow.next()
-        },
+        }
         BackButton {
             flow: screen.flow
         }
-    ]
+    }
 }

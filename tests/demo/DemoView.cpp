@@ -4,23 +4,7 @@
 #include "EBKit.h"
 #include "Shared.h"
 
-#include <QQmlProperty>
 #include <QTest>
-
-#include <cmath>
-
-namespace {
-
-void collect(QQuickItem *item, QList<QQuickItem *> &found)
-{
-    if (!item->isVisible())
-        return;
-    found.append(item);
-    for (QQuickItem *child : item->childItems())
-        collect(child, found);
-}
-
-}
 
 DemoView::DemoView(const QString &name, const QVariantMap &properties, qreal width, const QVariantMap &stored)
     : m_platform(FakePlatform::install())
@@ -36,10 +20,7 @@ DemoView::DemoView(const QString &name, const QVariantMap &properties, qreal wid
     if (width > 0)
         m_root->setWidth(width);
     EBEnvironment::of(m_root.get())->setEbApp(EBApp::corvane);
-    m_window.show();
-    m_window.requestActivate();
-    if (!QTest::qWaitForWindowActive(&m_window))
-        qFatal("the window does not come up");
+    Views::bringUp(m_window);
     pointAway();
     m_window.grabWindow();
 }
@@ -51,9 +32,7 @@ FakeUserDefaults &DemoView::store()
 
 void DemoView::mirror()
 {
-    for (const char *property : {"LayoutMirroring.enabled", "LayoutMirroring.childrenInherit"})
-        QVERIFY(
-            QQmlProperty::write(m_window.contentItem(), QString::fromLatin1(property), true, qmlContext(m_root.get())));
+    Views::mirror(m_window, m_root.get());
     m_window.grabWindow();
 }
 
@@ -78,36 +57,19 @@ bool DemoView::press(std::int64_t keyCode, std::uint64_t flags, bool isARepeat)
     return m_platform.pressKey({keyCode, flags, isARepeat});
 }
 
-QColor DemoView::pixel(QQuickItem *item, QPointF at)
+QList<QQuickItem *> DemoView::typed(const char *type, QQuickItem *in) const
 {
-    const QPointF point = item->mapToScene(at);
-    return picture().pixelColor(int(std::floor(point.x())), int(std::floor(point.y())));
-}
-
-QList<QQuickItem *> DemoView::typed(const QString &type, QQuickItem *in) const
-{
-    QList<QQuickItem *> found;
-    for (QQuickItem *item : visibleItems(in)) {
-        if (QString::fromLatin1(item->metaObject()->className()).startsWith(type + QStringLiteral("_QML")))
-            found.append(item);
-    }
-    return found;
+    return Views::visible(in ? in : m_root.get(), type);
 }
 
 QList<QQuickItem *> DemoView::visibleItems(QQuickItem *in) const
 {
-    QList<QQuickItem *> found;
-    collect(in ? in : m_root.get(), found);
-    return found;
+    return Views::visible(in ? in : m_root.get());
 }
 
 QQuickItem *DemoView::textItem(const QString &text, QQuickItem *in) const
 {
-    for (QQuickItem *item : visibleItems(in)) {
-        if (item->inherits("QQuickText") && item->property("text") == text)
-            return item;
-    }
-    return nullptr;
+    return Views::text(in ? in : m_root.get(), text);
 }
 
 QRectF DemoView::rectOf(QQuickItem *item, QQuickItem *in) const

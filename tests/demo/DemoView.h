@@ -3,9 +3,7 @@
 #include "DemoModel.h"
 #include "FakePlatform.h"
 #include "ViewEngine.h"
-
-#include <QQuickItem>
-#include <QQuickWindow>
+#include "Views.h"
 
 #include <memory>
 
@@ -37,20 +35,15 @@ public:
     bool press(std::int64_t keyCode, std::uint64_t flags = Hotkeys::commandFlag, bool isARepeat = false);
 
     QImage picture() { return m_window.grabWindow(); }
-    QColor pixel(QQuickItem *item, QPointF at);
+    QColor pixel(QQuickItem *item, QPointF at) { return Views::pixel(m_window, item, at); }
 
     /// Every visible item of that class, in drawing order within each parent.
     template <typename Type> QList<Type *> all(QQuickItem *in = nullptr)
     {
-        QList<Type *> found;
-        for (QQuickItem *item : visibleItems(in)) {
-            if (auto *match = qobject_cast<Type *>(item))
-                found.append(match);
-        }
-        return found;
+        return Views::all<Type>(in ? in : m_root.get());
     }
     /// Every visible item of that QML type.
-    QList<QQuickItem *> typed(const QString &type, QQuickItem *in = nullptr) const;
+    QList<QQuickItem *> typed(const char *type, QQuickItem *in = nullptr) const;
     QList<QQuickItem *> visibleItems(QQuickItem *in = nullptr) const;
     QQuickItem *textItem(const QString &text, QQuickItem *in = nullptr) const;
 

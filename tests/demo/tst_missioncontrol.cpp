@@ -1,9 +1,10 @@
 #include "Accessibility.h"
+#include "AnimationClock.h"
+#include "Colors.h"
 #include "ContinuousRectangle.h"
 #include "DemoButton.h"
 #include "DemoView.h"
 #include "EBKit.h"
-#include "OverlayView.h"
 #include "WindowFace.h"
 
 #include <QAccessible>

@@ -1,8 +1,9 @@
+#include "AnimationClock.h"
+#include "Colors.h"
 #include "ContinuousRectangle.h"
 #include "DemoView.h"
 #include "EBKit.h"
 #include "EBType.h"
-#include "OverlayView.h"
 #include "ShortcutVocabulary.h"
 
 #include <QAccessible>

@@ -336,19 +336,30 @@ void TestGeneralPage::showGuideStartsTheGuideAnewAndEndsThisProcess()
     FIND(button, ATSPI_ROLE_PUSH_BUTTON, "Show Guide");
     QVERIFY(button.doAction(u"Press"_s));
 
-    QStringList arguments;
+    std::optional<Processes::Process> second;
     const auto secondRuns = [&] {
         const auto running = Processes::instancesOf(program().path());
         for (const Processes::Process &process : running) {
-            if (process.id != program().processId())
-                arguments = process.arguments;
+            if (process.id != program().processId() && !process.arguments.isEmpty())
+                second = process;
         }
-        return !arguments.isEmpty();
+        return second.has_value();
     };
     QVERIFY(QTest::qWaitFor(secondRuns, 20000));
-    QCOMPARE(arguments, QStringList({u"--onboarding"_s, u"--replay"_s}));
+    QCOMPARE(second->arguments, QStringList({u"--onboarding"_s, u"--replay"_s}));
     QVERIFY(program().waitForExit());
+    QCOMPARE(program().exitCode(), 0);
     QCOMPARE(store().readAll(), QVariantMap());
+
+    const auto guide = [&] { return TopLevel::ofProcess(desktop().x(), second->id); };
+    QTRY_VERIFY_WITH_TIMEOUT(guide().size() == 1 && guide().constFirst().isViewable(), 20000);
+    QCOMPARE(guide().constFirst().title(), u"Welcome to Corvane"_s);
+    Accessible skip;
+    QTRY_VERIFY_WITH_TIMEOUT(skip = Accessible::application(second->id).find(ATSPI_ROLE_PUSH_BUTTON, u"Skip setup"_s),
+                             20000);
+    QVERIFY(skip.doAction(u"Press"_s));
+    QTRY_VERIFY(Processes::instancesOf(program().path()).isEmpty());
+    QVERIFY(store().waitFor(u"onboardingCompleted"_s, true));
 }
 
 QTEST_GUILESS_MAIN(TestGeneralPage)

@@ -59,6 +59,8 @@ private slots:
     void aReplayKnowsWhatTheAgentReports();
     void theGuideComesBackWhenSystemSettingsNeverOpens();
     void theGuideNeedsNoAgent();
+    void everyStepIsWholeForAssistiveTechnologies_data();
+    void everyStepIsWholeForAssistiveTechnologies();
 };
 
 bool TestOnboarding::startAgent(const QStringList &arguments)
@@ -367,6 +369,49 @@ void TestOnboarding::theGuideNeedsNoAgent()
     QVERIFY(press(u"Open Mission Control"_s));
     QVERIFY(ends());
     QCOMPARE(store().readAll(), (QVariantMap{{completed, true}}));
+}
+
+void TestOnboarding::everyStepIsWholeForAssistiveTechnologies_data()
+{
+    QTest::addColumn<QString>("step");
+    QTest::addColumn<QStringList>("headings");
+    QTest::addColumn<QStringList>("buttons");
+    const QStringList chrome = {u"Close"_s, u"Minimize"_s, u"Zoom"_s};
+    QTest::newRow("welcome") << u"0"_s << QStringList() << QStringList{u"Get started"_s, u"Skip setup"_s} + chrome;
+    QTest::newRow("tryIt") << u"1"_s << QStringList{u"Give it a try"_s}
+                           << QStringList{u"Reset windows"_s, u"Continue"_s} + chrome;
+    QTest::newRow("access") << u"2"_s << QStringList{u"One permission, then you're done"_s}
+                            << QStringList{u"Open System Settings"_s, u"Skip"_s, u"Back"_s} + chrome;
+    QTest::newRow("customize") << u"3"_s << QStringList{u"Make it yours"_s}
+                               << QStringList{u"Classic look"_s,      u"Soft look"_s,     u"Graphite look"_s,
+                                              u"Mono look"_s,         u"No color look"_s, u"Looks Good"_s,
+                                              u"Keep the Defaults"_s, u"Back"_s}
+            + chrome;
+    QTest::newRow("done") << u"4"_s << QStringList()
+                          << QStringList{u"Open Mission Control"_s, u"Don't start at login"_s} + chrome;
+}
+
+void TestOnboarding::everyStepIsWholeForAssistiveTechnologies()
+{
+    QFETCH(QString, step);
+    QVERIFY(openGuide({{u"CV_STEP"_s, step}}));
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Zoom"_s));
+    settle();
+    const QRect frame = window()->geometry();
+    QStringList headings;
+    QStringList buttons;
+    const QList<Accessible> showing = application().findAll([](const Accessible &element) {
+        return element.role() != ATSPI_ROLE_APPLICATION && element.has(ATSPI_STATE_SHOWING);
+    });
+    for (const Accessible &element : showing) {
+        QVERIFY2(!element.name().isEmpty() && frame.contains(element.extents()), qPrintable(element.dump()));
+        if (element.role() == ATSPI_ROLE_HEADING)
+            headings.append(element.name());
+        if (element.role() == ATSPI_ROLE_PUSH_BUTTON)
+            buttons.append(element.name());
+    }
+    QTEST(headings, "headings");
+    QTEST(buttons, "buttons");
 }
 
 QTEST_GUILESS_MAIN(TestOnboarding)

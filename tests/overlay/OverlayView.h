@@ -1,13 +1,10 @@
 #pragma once
 
+#include "AnimationClock.h"
+#include "Colors.h"
 #include "FakePlatform.h"
 #include "ViewEngine.h"
-
-#include <QAnimationDriver>
-#include <QQuickItem>
-#include <QQuickWindow>
-
-#include <memory>
+#include "Views.h"
 
 /// One view of the overlay room, alone in a window, on a desktop in memory.
 class OverlayView {
@@ -20,26 +17,18 @@ public:
     QQuickItem &root() { return *m_root; }
 
     /// Lays everything in the window out from right to left.
-    void mirror();
+    void mirror() { Views::mirror(m_window, m_root); }
 
     /// The window as it is drawn now.
     QImage picture() { return m_window.grabWindow(); }
     /// The pixel at a point of an item.
-    QColor pixel(QQuickItem *item, QPointF at);
+    QColor pixel(QQuickItem *item, QPointF at) { return Views::pixel(m_window, item, at); }
 
     /// Every visible item of that class, in drawing order.
-    template <typename Type> QList<Type *> all()
-    {
-        QList<Type *> found;
-        for (QQuickItem *item : visibleItems()) {
-            if (auto *match = qobject_cast<Type *>(item))
-                found.append(match);
-        }
-        return found;
-    }
-    QList<QQuickItem *> visibleItems() const;
+    template <typename Type> QList<Type *> all() { return Views::all<Type>(m_root); }
+    QList<QQuickItem *> visibleItems() const { return Views::visible(m_root); }
     /// The visible text item that shows `text`.
-    QQuickItem *textItem(const QString &text) const;
+    QQuickItem *textItem(const QString &text) const { return Views::text(m_root, text); }
 
     /// An item's rectangle in the coordinates of the view.
     QRectF rectOf(QQuickItem *item) const { return item->mapRectToItem(m_root, item->boundingRect()); }
@@ -50,27 +39,3 @@ private:
     QQuickWindow m_window;
     QQuickItem *m_root = nullptr;
 };
-
-/// While it lives, animations move when the test says so, and only then.
-class AnimationClock : public QAnimationDriver {
-public:
-    AnimationClock() { install(); }
-
-    /// Moves what is being animated; something has to be.
-    void advance(int milliseconds);
-    qint64 elapsed() const override { return m_elapsed; }
-
-protected:
-    void start() override;
-
-private:
-    using QAnimationDriver::advance;
-
-    qint64 m_elapsed = 0;
-};
-
-/// What two colours, the upper one possibly translucent, look like together.
-QColor over(const QColor &upper, const QColor &ground, qreal opacity = 1);
-
-/// Whether two opaque colours differ by no more than rounding does.
-bool isNear(const QColor &actual, const QColor &expected, int tolerance = 2);

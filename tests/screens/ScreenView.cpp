@@ -3,31 +3,6 @@
 #include "EBKitFonts.h"
 
 #include <QQmlComponent>
-#include <QTest>
-
-namespace {
-
-void collect(QQuickItem *item, QList<QQuickItem *> &found)
-{
-    if (!item->isVisible())
-        return;
-    found.append(item);
-    for (QQuickItem *child : item->childItems())
-        collect(child, found);
-}
-
-bool isOfType(const QQuickItem *item, const QByteArray &type)
-{
-    for (const QMetaObject *meta = item->metaObject(); meta; meta = meta->superClass()) {
-        // A type written in QML has a suffix of the engine's.
-        const QByteArray name = meta->className();
-        if (name == type || (name.startsWith(type) && name.mid(type.size()).startsWith("_QML")))
-            return true;
-    }
-    return false;
-}
-
-}
 
 ScreenView::ScreenView(const QString &qml, QSize size) : m_platform(FakePlatform::install())
 {
@@ -49,35 +24,3 @@ ScreenView::ScreenView(const QString &qml, QSize size) : m_platform(FakePlatform
 }
 
 ScreenView::~ScreenView() = default;
-
-void ScreenView::show()
-{
-    m_window.show();
-    m_window.requestActivate();
-    if (!QTest::qWaitForWindowActive(&m_window))
-        qFatal("the window does not come up");
-    m_window.grabWindow();
-}
-
-QList<QQuickItem *> ScreenView::visibleItems() const
-{
-    QList<QQuickItem *> found;
-    collect(m_root, found);
-    return found;
-}
-
-QList<QQuickItem *> ScreenView::visibleItems(const char *type) const
-{
-    QList<QQuickItem *> found = visibleItems();
-    found.removeIf([type](const QQuickItem *item) { return !isOfType(item, type); });
-    return found;
-}
-
-QQuickItem *ScreenView::textItem(const QString &text) const
-{
-    for (QQuickItem *item : visibleItems("QQuickText")) {
-        if (item->property("text") == text)
-            return item;
-    }
-    return nullptr;
-}

@@ -1,4 +1,4 @@
-#include "OverlayView.h"
+#include "AnimationClock.h"
 #include "ScreenView.h"
 
 #include <QRegularExpression>

@@ -9,6 +9,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -48,6 +49,7 @@ private slots:
     void droppedOntoTheListItGrantsThePermission_data();
     void droppedOntoTheListItGrantsThePermission();
     void droppedElsewhereItGrantsNothing();
+    void theListRefusesAnotherApplication_data();
     void theListRefusesAnotherApplication();
 
 private:
@@ -61,7 +63,7 @@ private:
     void dragOntoTheList(QPoint grip);
     /// The picture of the icon is on the screen, which has the pointer for so long.
     bool isDragging() const;
-    QList<quint32> atoms(const char *property) const;
+    QList<quint32> numbers(const char *property) const;
 
     const Desktop &m_desktop;
     const Store m_store;
@@ -139,7 +141,7 @@ void DraggedTileTest::moveSettings(QPoint to) const
     m_desktop.x().synchronise();
 }
 
-QList<quint32> DraggedTileTest::atoms(const char *property) const
+QList<quint32> DraggedTileTest::numbers(const char *property) const
 {
     const QByteArray bytes = m_desktop.x().property(tile()->id(), m_desktop.x().atom(property));
     const auto *first = reinterpret_cast<const quint32 *>(bytes.constData());
@@ -186,11 +188,11 @@ void DraggedTileTest::theTileIsOnEveryDesktopAboveTheOthersAndInNoList()
 {
     openSystemSettings();
     startHost();
-    const QList<quint32> states = atoms("_NET_WM_STATE");
+    const QList<quint32> states = numbers("_NET_WM_STATE");
     for (const char *state :
          {"_NET_WM_STATE_STICKY", "_NET_WM_STATE_ABOVE", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"})
         QVERIFY2(states.contains(m_desktop.x().atom(state)), state);
-    QCOMPARE(atoms("_NET_WM_DESKTOP"), QList<quint32>{0xFFFFFFFF});
+    QCOMPARE(numbers("_NET_WM_DESKTOP"), QList<quint32>{0xFFFFFFFF});
     // Brought back over what was put in front of it.
     const auto isInFront = [&] {
         const XReply<xcb_query_tree_reply_t> tree(
@@ -209,7 +211,7 @@ void DraggedTileTest::theTileIsOnEveryDesktopAboveTheOthersAndInNoList()
     m_desktop.x().synchronise();
     QTRY_VERIFY(tile());
     QVERIFY(isInFront());
-    QVERIFY(atoms("_NET_WM_STATE").contains(m_desktop.x().atom("_NET_WM_STATE_STICKY")));
+    QVERIFY(numbers("_NET_WM_STATE").contains(m_desktop.x().atom("_NET_WM_STATE_STICKY")));
 }
 
 void DraggedTileTest::theTileNeverTakesTheKeyboard()
@@ -218,6 +220,8 @@ void DraggedTileTest::theTileNeverTakesTheKeyboard()
     QTRY_VERIFY(settings()->hasInputFocus());
     startHost();
     QVERIFY(settings()->hasInputFocus());
+    // Asks a window manager to leave the focus where it is.
+    QCOMPARE(numbers("_NET_WM_USER_TIME"), QList<quint32>{0});
     m_pointer.click(tile()->geometry().center());
     const Accessible host = Accessible::application(m_host->processId());
     // The host has handled the click when it answers.
@@ -319,12 +323,21 @@ void DraggedTileTest::droppedElsewhereItGrantsNothing()
     QVERIFY(!m_store.read(trusted).isValid());
 }
 
+void DraggedTileTest::theListRefusesAnotherApplication_data()
+{
+    QTest::addColumn<QString>("place");
+    // Outside a product's bundle the tile stands for the installed product, which is not there.
+    QTest::newRow("one that is missing") << "";
+    QTest::newRow("another copy") << "/Corvane.app/Contents/Helpers/Tile Host.app/Contents/MacOS";
+}
+
 void DraggedTileTest::theListRefusesAnotherApplication()
 {
     namespace files = std::filesystem;
-    // Outside the product's bundle the tile stands for the installed product, which is not this one.
+    QFETCH(QString, place);
     const QTemporaryDir elsewhere(QFileInfo(QStringLiteral(TILE_HOST_PROGRAM)).path() + "/../../../../../../t-XXXXXX");
-    const QString executable = elsewhere.filePath("tile-host");
+    QVERIFY(QDir().mkpath(elsewhere.path() + place));
+    const QString executable = elsewhere.path() + place + "/tile-host";
     std::error_code error;
     files::create_hard_link(files::path(TILE_HOST_PROGRAM), files::path(executable.toStdString()), error);
     QVERIFY2(!error, error.message().c_str());

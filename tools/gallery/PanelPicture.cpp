@@ -91,7 +91,7 @@ void PanelPicture::build()
                                 {});
     };
 
-    EBKitKeyRow *focused = keyRow(QStringLiteral("⌘M"), tr("Minimise"), false);
+    EBKitKeyRow *focused = keyRow(QStringLiteral("⌘M"), tr("Minimize"), false);
     EBKitKeyRow *disabled = keyRow(QStringLiteral("⌥⌘W"), tr("Close All"), true);
     EBKitMenuRow *hovered = entry(EBKitGlyph::gear, tr("Settings…"), QStringLiteral("⌘,"));
     auto *hoveredIcon = new EBKitIconButton(EBKitGlyph::info, tr("About"), {});

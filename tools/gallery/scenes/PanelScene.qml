@@ -59,7 +59,7 @@ Sheet {
                 }
             }
             EBRow {
-                title: qsTr("Minimise")
+                title: qsTr("Minimize")
 
                 KeyCap {
                     anchors.verticalCenter: parent?.verticalCenter
@@ -67,7 +67,7 @@ Sheet {
                 }
                 EBSwitch {
                     anchors.verticalCenter: parent?.verticalCenter
-                    label: qsTr("Minimise")
+                    label: qsTr("Minimize")
                 }
             }
             Row {
