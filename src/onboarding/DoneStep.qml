@@ -13,7 +13,7 @@ EBLoudScreen {
     button: qsTr("Open Mission Control")
     arrow: true
     hero: qsTr("Ready")
-    seed: 34
+    seed: 5
     secondary: flow.launchAtLogin ? qsTr("Don't start at login") : qsTr("Not now")
     onAction: flow.finishSetup(flow.launchAtLogin, true)
     onSecondaryAction: flow.finishSetup(false, false)

@@ -188,7 +188,9 @@ void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
     QVERIFY(tile);
     dragTile(*tile, list);
     QVERIFY(store().waitFor(trusted, true));
-    QVERIFY(windowOf(guideSize));
+    const auto back = windowOf(guideSize);
+    QVERIFY(back);
+    QTRY_VERIFY(back->hasInputFocus());
     QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
 
     const Accessible soft = find(ATSPI_ROLE_PUSH_BUTTON, u"Soft look"_s);

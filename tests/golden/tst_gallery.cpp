@@ -83,7 +83,8 @@ void TestGallery::itListsItsScenesOneALine()
         QVERIFY2(scenes.contains(QLatin1String(scene)), scene);
     QCOMPARE(QSet<QString>(scenes.begin(), scenes.end()).size(), scenes.size());
     for (const QString &scene : scenes)
-        QVERIFY2(QRegularExpression(QStringLiteral("^[a-z]+(-[a-z0-9]+)*$")).match(scene).hasMatch(), qPrintable(scene));
+        QVERIFY2(QRegularExpression(QStringLiteral("^[a-z]+(-[a-z0-9]+)*$")).match(scene).hasMatch(),
+                 qPrintable(scene));
 }
 
 void TestGallery::itHelps()

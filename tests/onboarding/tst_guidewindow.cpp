@@ -22,6 +22,7 @@ private slots:
     void theWindowHasTheSizeAndTheTitleOfTheGuide();
     void theWindowIsCentredAndNotShownYet();
     void theWindowCannotBeMiniaturizedOrResized();
+    void theCloseButtonStandsOutOnALoudScreen();
     void escapeEndsTheOnboardingOnEveryStep_data();
     void escapeEndsTheOnboardingOnEveryStep();
     void everyOtherKeyPassesThrough();
@@ -80,6 +81,17 @@ void TestGuideWindow::theWindowCannotBeMiniaturizedOrResized()
     QVERIFY(!window().miniaturizeButtonEnabled());
     QCOMPARE(window().minimumSize(), QSize(560, 388));
     QCOMPARE(window().maximumSize(), QSize(560, 388));
+}
+
+void TestGuideWindow::theCloseButtonStandsOutOnALoudScreen()
+{
+    showGuide();
+    const QPoint insideTheDisc(29, 18);
+    const QPoint besideIt(29, 12);
+    const QImage picture = window().grabWindow();
+    const qreal scale = picture.devicePixelRatio();
+    QVERIFY(picture.pixelColor(besideIt * scale).saturation() > 100);
+    QVERIFY(picture.pixelColor(insideTheDisc * scale).saturation() < 20);
 }
 
 void TestGuideWindow::escapeEndsTheOnboardingOnEveryStep_data()

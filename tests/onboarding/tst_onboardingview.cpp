@@ -40,6 +40,7 @@ private slots:
     void theButtonsOfTheCustomizeStepGoOnAndBack();
     void theLastStepFollowsTheWishToStartAtLogin_data();
     void theLastStepFollowsTheWishToStartAtLogin();
+    void theLastStepEndsTheFlow_data();
     void theLastStepEndsTheFlow();
     void everyStepCanBeLeftByTheKeyboardAlone();
     void aStepBeginsWithTheFocusOnItsHeading_data();
@@ -398,12 +399,21 @@ void TestOnboardingView::theLastStepFollowsTheWishToStartAtLogin()
     QCOMPARE(m_platform->space.missionControlOpened, 0);
 }
 
+void TestOnboardingView::theLastStepEndsTheFlow_data()
+{
+    QTest::addColumn<bool>("launch");
+    QTest::newRow("starting at login") << true;
+    QTest::newRow("not starting at login") << false;
+}
+
 void TestOnboardingView::theLastStepEndsTheFlow()
 {
-    make(OnboardingStep::done);
+    QFETCH(bool, launch);
+    m_store->setValue("agent.launchAtLogin", launch);
+    make(OnboardingStep::done, OnboardingFlow::Run::replay);
     QTest::keyClick(m_window.get(), Qt::Key_Return);
     QCOMPARE(commands(), (QStringList{"setLaunchAtLogin", "applySettings"}));
-    QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(true));
+    QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(launch));
     QCOMPARE(m_platform->space.missionControlOpened, 1);
     QCOMPARE(m_finished, 1);
 }

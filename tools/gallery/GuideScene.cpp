@@ -10,7 +10,7 @@ GuideScene::~GuideScene() = default;
 
 void GuideScene::open()
 {
-    m_controller = std::make_unique<GuideWindowController>(*qmlEngine(this), OnboardingFlow::Run::first, [] { });
+    m_controller = std::make_unique<GuideWindowController>(*qmlEngine(this), OnboardingFlow::Run::first, [] {});
     OnboardingFlow &flow = m_controller->flow();
     flow.go(OnboardingSteps::fromCaseName(m_step).value_or(OnboardingStep::welcome));
     if (m_accessRequested)

@@ -16,7 +16,7 @@ Pressable {
 
     background: ContinuousRectangle {
         // Not translucent: it also stands on loud grounds, where its glyph would be lost.
-        color: Qt.tint(EB.paper, button.hovered ? EB.track : EB.chip)
+        color: Qt.tint(EB.sunk, button.hovered ? EB.track : EB.chip)
         strokeColor: EB.lineStrong
         strokeWidth: 1
 

@@ -6,8 +6,8 @@
 
 struct X11WindowAtoms;
 
-/// The windows on an X server: those its window manager stacks or lists, and where there is none, those of the root window.
-/// On anything but X there are none. Each listing costs a few round trips, however many windows there are.
+/// The windows on an X server: those its window manager stacks or lists, and where there is none, those of the root
+/// window. On anything but X there are none. Each listing costs a few round trips, however many windows there are.
 class X11WindowList : public WindowList {
 public:
     X11WindowList();
