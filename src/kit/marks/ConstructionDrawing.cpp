@@ -9,6 +9,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -135,11 +136,14 @@ void Sheet::drawGrid()
     if (!(pitch > 1))
         return;
     m_painter->setPen(inkPen(gridOpacity));
-    for (qreal away = pitch / 2; away < m_bounds.width() / 2; away += pitch) {
+    const auto linesWithin = [pitch](qreal extent) { return qCeil(extent / 2 / pitch - 0.5); };
+    for (int line = 0; line < linesWithin(m_bounds.width()); ++line) {
+        const qreal away = (line + 0.5) * pitch;
         drawVertical(center.x() - away);
         drawVertical(center.x() + away);
     }
-    for (qreal away = pitch / 2; away < m_bounds.height() / 2; away += pitch) {
+    for (int line = 0; line < linesWithin(m_bounds.height()); ++line) {
+        const qreal away = (line + 0.5) * pitch;
         drawHorizontal(center.y() - away);
         drawHorizontal(center.y() + away);
     }

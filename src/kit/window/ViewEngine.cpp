@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QQmlComponent>
-#include <QQuickItem>
 
 ViewEngine::ViewEngine()
 {

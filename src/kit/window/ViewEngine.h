@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QUrl>
 #include <QVariantMap>
-
-class QQuickItem;
 
 /// The engine behind a process's windows. It finds the modules that are built into the program.
 class ViewEngine : public QQmlEngine {

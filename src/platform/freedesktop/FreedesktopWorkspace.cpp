@@ -76,7 +76,7 @@ QIcon iconInBundle(const PlistBundle &bundle)
         return {};
     for (const char *extension : {"", "svg", "png"}) {
         const QUrl file = bundle.urlForResource(name, QString::fromLatin1(extension));
-        const QIcon icon = file.isEmpty() ? QIcon() : iconInFile(file.toLocalFile());
+        QIcon icon = file.isEmpty() ? QIcon() : iconInFile(file.toLocalFile());
         if (!icon.isNull())
             return icon;
     }
@@ -108,7 +108,7 @@ QIcon FreedesktopWorkspace::iconForApplication(const QString &bundleIdentifier)
     if (known != m_icons.constEnd())
         return *known;
     const QString name = iconName(bundleIdentifier);
-    const QIcon icon = QDir::isAbsolutePath(name) ? iconInFile(name) : QIcon::fromTheme(name);
+    QIcon icon = QDir::isAbsolutePath(name) ? iconInFile(name) : QIcon::fromTheme(name);
     m_icons.insert(bundleIdentifier, icon);
     return icon;
 }
