@@ -7,7 +7,6 @@ function(corvane_precompiled name)
     set(stub "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
     file(CONFIGURE OUTPUT "${stub}" CONTENT "// Holds the precompiled header.\n")
     add_library(${name} OBJECT "${stub}")
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
     target_link_libraries(${name} PRIVATE ${ARG_LINK})
     target_precompile_headers(${name} PRIVATE ${ARG_HEADERS})
 endfunction()
@@ -22,10 +21,19 @@ corvane_precompiled(pch_quick LINK Qt6::Quick
 function(corvane_room name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LINK" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC Qt6::Gui ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
     set_property(GLOBAL PROPERTY CORVANE_DEPENDS_${name} ${ARG_DEPENDS})
     target_precompile_headers(${name} REUSE_FROM pch_gui)
+endfunction()
+
+# The compiled views of a room become one source: nearly all of what each of them costs are the headers.
+function(corvane_unite_compiled_views target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
+    set_source_files_properties(${sources} PROPERTIES UNITY_GROUP views)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()
 
 # corvane_view_room(name URI … [SOURCES …] [QML …] [SINGLETONS …] DEPENDS … [LINK …]): a room with a QML module.
@@ -33,6 +41,7 @@ function(corvane_view_room name)
     cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;SINGLETONS;DEPENDS;LINK" ${ARGN})
     set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     qt_add_library(${name} STATIC)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
     # What the types of this module are made of, so that qmllint can follow them.
     set(modules QtQuick)
     foreach(room IN LISTS ARG_DEPENDS)
@@ -48,6 +57,7 @@ function(corvane_view_room name)
         DEPENDENCIES ${modules}
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS})
+    corvane_unite_compiled_views(${name})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
     set_property(GLOBAL PROPERTY CORVANE_DEPENDS_${name} ${ARG_DEPENDS})

@@ -3,6 +3,7 @@
 #include "PrivateSession.h"
 #include "Program.h"
 #include "StoreWrites.h"
+#include "TestProgram.h"
 
 #include <QDBusMessage>
 #include <QDir>
@@ -17,7 +18,7 @@
 
 namespace {
 
-const QString program = QStringLiteral(CORVANE_AGENT_PROGRAM);
+const QString program = QStringLiteral(PROGRAM_CORVANE_AGENT);
 const QString enabledKey = QStringLiteral("agent.launchAtLogin");
 const QString waitingKey = QStringLiteral("agent.launchAtLoginNeedsApproval");
 const QString trustedKey = QStringLiteral("agent.accessibilityTrusted");
@@ -466,9 +467,6 @@ void AgentTest::aSecondAgentEndsAtOnce()
     QCOMPARE(m_agent->standardOutput().size(), 2);
 }
 
-int main(int argc, char **argv)
-{
-    return runInPrivateSession<AgentTest>(argc, argv);
-}
+CORVANE_TEST(AgentTest, runInPrivateSession)
 
 #include "tst_agent.moc"

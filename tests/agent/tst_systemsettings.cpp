@@ -2,12 +2,12 @@
 #include "Desktop.h"
 #include "Program.h"
 #include "Store.h"
+#include "OnDesktop.h"
 #include "TopLevel.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -68,7 +68,7 @@ void SystemSettingsTest::cleanup()
 
 void SystemSettingsTest::open(const QStringList &flags)
 {
-    m_agent = std::make_unique<Program>(QStringLiteral(CORVANE_AGENT_PROGRAM), m_desktop.environment());
+    m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), m_desktop.environment());
     QVERIFY(m_agent->start(flags));
     // It hears commands from the moment on at which it has reported its state.
     QTRY_VERIFY_WITH_TIMEOUT(m_store.read("agent.launchAtLoginNeedsApproval").isValid(), startTime);
@@ -165,14 +165,6 @@ void SystemSettingsTest::withATimeThePermissionIsGrantedBesideTheWindow()
     QTRY_VERIFY(control().has(ATSPI_STATE_CHECKED));
 }
 
-int main(int argc, char **argv)
-{
-    const Desktop desktop;
-    if (!desktop.isValid())
-        return 1;
-    const QCoreApplication application(argc, argv);
-    SystemSettingsTest test(desktop);
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST(SystemSettingsTest, runBesideDesktop)
 
 #include "tst_systemsettings.moc"

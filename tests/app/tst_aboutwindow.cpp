@@ -5,12 +5,12 @@
 #include "LaunchFlags.h"
 #include "NamedItems.h"
 #include "SettingsAppDelegate.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QTest>
 
 /// The application started with "--about". Flags are read once a process, so this test is one of its own.
 class TestAboutWindow : public QObject {
@@ -67,7 +67,6 @@ const QString website = QStringLiteral("Website ↗\uFE0E");
 
 void TestAboutWindow::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QAccessible::setActive(true);
 }
 
@@ -79,7 +78,7 @@ void TestAboutWindow::init()
     m_platform->main.url = QUrl::fromLocalFile("/apps/Corvane Settings.app");
     for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
         const QString file = face + ".ttf";
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(FONTS_FOLDER + file));
+        m_platform->main.resources.insert(file, QUrl::fromLocalFile(CORVANE_FONTS_FOLDER + file));
     }
 }
 
@@ -295,7 +294,7 @@ void TestAboutWindow::fromRightToLeftItIsMirrored()
     QCOMPARE(opens->mapRectToScene(opens->boundingRect()).right(), 460.0 - 26);
 }
 
-int main(int argc, char *argv[])
+static int run(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     char name[] = "corvane-settings";
@@ -305,5 +304,7 @@ int main(int argc, char *argv[])
     TestAboutWindow test;
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_aboutwindow.moc"

@@ -1,8 +1,8 @@
 #include "AgentBundle.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 class TestAgentBundle : public QObject {
     Q_OBJECT
@@ -138,5 +138,5 @@ void TestAgentBundle::anAgentWithoutFactsOffersNoUpdates()
     QVERIFY(!AgentBundle::updatesAvailable());
 }
 
-QTEST_GUILESS_MAIN(TestAgentBundle)
+CORVANE_TEST(TestAgentBundle, runInCore)
 #include "tst_agentbundle.moc"

@@ -3,18 +3,17 @@
 #include "NamedItems.h"
 #include "SettingsAppDelegate.h"
 #include "SettingsModel.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 class TestAppDelegate : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup() { qunsetenv("CV_TAB"); }
     void withoutFlagsTheSettingsWindowOpens();
@@ -39,7 +38,7 @@ void TestAppDelegate::init()
     m_platform->main.url = QUrl::fromLocalFile("/apps/Corvane Settings.app");
     for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
         const QString file = face + ".ttf";
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(FONTS_FOLDER + file));
+        m_platform->main.resources.insert(file, QUrl::fromLocalFile(CORVANE_FONTS_FOLDER + file));
     }
 }
 
@@ -123,5 +122,5 @@ void TestAppDelegate::theGuideIsThisApplicationStartedAgain()
     QCOMPARE(opened.arguments, arguments);
 }
 
-QTEST_MAIN(TestAppDelegate)
+CORVANE_TEST(TestAppDelegate, runInGui)
 #include "tst_appdelegate.moc"

@@ -1,9 +1,9 @@
 #include "LaunchFlags.h"
+#include "TestProgram.h"
 
 #include <QCoreApplication>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <cstdio>
 
@@ -36,12 +36,12 @@ void TestLaunchFlags::flagsAreWholeWords()
     QFETCH(QStringList, arguments);
     QFETCH(QByteArray, flags);
     QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), QStringList{"print-flags"} + arguments);
+    process.start(QCoreApplication::applicationFilePath(), QStringList{"tst_launchflags", "print-flags"} + arguments);
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.readAllStandardOutput().trimmed(), flags);
 }
 
-int main(int argc, char *argv[])
+static int run(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     LaunchFlags::setArguments(argc, argv);
@@ -53,5 +53,7 @@ int main(int argc, char *argv[])
     TestLaunchFlags test;
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_launchflags.moc"

@@ -1,10 +1,10 @@
 #include "EBKitButton.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 #include "Warnings.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -170,5 +170,5 @@ private:
     int m_count = 0;
 };
 
-QTEST_MAIN(TestEBKitButton)
+CORVANE_TEST(TestEBKitButton, runInWidgets)
 #include "tst_ebkitbutton.moc"

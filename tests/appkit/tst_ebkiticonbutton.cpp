@@ -1,11 +1,11 @@
 #include "EBKitIconButton.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 #include "Warnings.h"
 
 #include <QHoverEvent>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -108,5 +108,5 @@ private:
     int m_count = 0;
 };
 
-QTEST_MAIN(TestEBKitIconButton)
+CORVANE_TEST(TestEBKitIconButton, runInWidgets)
 #include "tst_ebkiticonbutton.moc"

@@ -1,9 +1,9 @@
 #include "EBKitMenuRow.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -104,5 +104,5 @@ private:
     int m_count = 0;
 };
 
-QTEST_MAIN(TestEBKitMenuRow)
+CORVANE_TEST(TestEBKitMenuRow, runInWidgets)
 #include "tst_ebkitmenurow.moc"

@@ -5,12 +5,12 @@
 #include "EBKitRow.h"
 #include "EBKitSeparator.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 #include "Warnings.h"
 
 #include <QLayout>
 #include <QPointer>
-#include <QTest>
 
 namespace {
 
@@ -149,5 +149,5 @@ private:
     FakePlatform &m_platform = FakePlatform::install();
 };
 
-QTEST_MAIN(TestEBKitPanelView)
+CORVANE_TEST(TestEBKitPanelView, runInWidgets)
 #include "tst_ebkitpanelview.moc"

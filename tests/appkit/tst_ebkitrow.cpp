@@ -1,9 +1,9 @@
 #include "EBKitRow.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -178,5 +178,5 @@ private:
     FakePlatform &m_platform = FakePlatform::install();
 };
 
-QTEST_MAIN(TestEBKitRow)
+CORVANE_TEST(TestEBKitRow, runInWidgets)
 #include "tst_ebkitrow.moc"

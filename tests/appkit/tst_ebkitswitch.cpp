@@ -1,10 +1,10 @@
 #include "EBKitSwitch.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 #include "Warnings.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -149,5 +149,5 @@ private:
     QList<bool> m_told;
 };
 
-QTEST_MAIN(TestEBKitSwitch)
+CORVANE_TEST(TestEBKitSwitch, runInWidgets)
 #include "tst_ebkitswitch.moc"

@@ -1,11 +1,11 @@
 #include "EBKitView.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "KitEnvironment.h"
 #include "KitMetrics.h"
 #include "Picture.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -131,5 +131,5 @@ private:
     FakePlatform &m_platform = FakePlatform::install();
 };
 
-QTEST_MAIN(TestEBKitView)
+CORVANE_TEST(TestEBKitView, runInWidgets)
 #include "tst_ebkitview.moc"

@@ -1,8 +1,8 @@
 #include "EBMenuItem.h"
+#include "TestProgram.h"
 #include "Warnings.h"
 
 #include <QMenu>
-#include <QTest>
 
 class TestEBMenuItem : public QObject {
     Q_OBJECT
@@ -53,5 +53,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestEBMenuItem)
+CORVANE_TEST(TestEBMenuItem, runInWidgets)
 #include "tst_ebmenuitem.moc"

@@ -3,12 +3,11 @@
 #include "EBKitMenuRow.h"
 #include "EBKitSwitch.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "KeyboardRing.h"
 #include "KitEnvironment.h"
 #include "Picture.h"
 #include "Warnings.h"
-
-#include <QTest>
 
 namespace {
 
@@ -152,5 +151,5 @@ private:
     FakePlatform &m_platform = FakePlatform::install();
 };
 
-QTEST_MAIN(TestKeyboardRing)
+CORVANE_TEST(TestKeyboardRing, runInWidgets)
 #include "tst_keyboardring.moc"

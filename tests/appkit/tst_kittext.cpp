@@ -1,9 +1,9 @@
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 
 #include <QFontMetricsF>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -145,5 +145,5 @@ private:
     FakePlatform &m_platform = FakePlatform::install();
 };
 
-QTEST_MAIN(TestKitText)
+CORVANE_TEST(TestKitText, runInWidgets)
 #include "tst_kittext.moc"

@@ -1,4 +1,5 @@
 #include "EndToEndTest.h"
+#include "TestProgram.h"
 
 #include <QFile>
 
@@ -26,5 +27,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestNoWidgets)
+CORVANE_TEST(TestNoWidgets, runInCore)
 #include "tst_nowidgets.moc"

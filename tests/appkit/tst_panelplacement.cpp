@@ -1,7 +1,7 @@
 #include "PanelPlacement.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 class TestPanelPlacement : public QObject {
     Q_OBJECT
@@ -46,5 +46,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestPanelPlacement)
+CORVANE_TEST(TestPanelPlacement, runBare)
 #include "tst_panelplacement.moc"

@@ -1,4 +1,5 @@
 #include "EndToEndTest.h"
+#include "TestProgram.h"
 
 #include <X11/keysym.h>
 
@@ -31,7 +32,7 @@ private slots:
 
 bool TestPanelSession::openPanel()
 {
-    return open({.executable = QStringLiteral(PANEL_SAMPLE)})
+    return open({.executable = QStringLiteral(PROGRAM_PANEL_SAMPLE)})
         && find(ATSPI_ROLE_PUSH_BUTTON, u"Status"_s).doAction(u"Press"_s) && hasSaid({u"opened"_s})
         && !find(ATSPI_ROLE_DIALOG, u"Corvane"_s).isNull();
 }
@@ -94,7 +95,7 @@ void TestPanelSession::escapeClosesThePanel()
 
 void TestPanelSession::aClickOnTheButtonOpensAndClosesIt()
 {
-    QVERIFY(open({.executable = QStringLiteral(PANEL_SAMPLE)}));
+    QVERIFY(open({.executable = QStringLiteral(PROGRAM_PANEL_SAMPLE)}));
     const QPoint status = find(ATSPI_ROLE_PUSH_BUTTON, u"Status"_s).extents().center();
     pointer().click(status);
     QVERIFY(hasSaid({u"opened"_s}));
@@ -147,5 +148,5 @@ void TestPanelSession::thePanelIsOnEveryDesktopAboveTheOthersAndInNoList()
     QCOMPARE(numbers(*panel, "_NET_WM_DESKTOP"), QList<quint32>{0xFFFFFFFF});
 }
 
-QTEST_GUILESS_MAIN(TestPanelSession)
+CORVANE_TEST(TestPanelSession, runInCore)
 #include "tst_panelsession.moc"

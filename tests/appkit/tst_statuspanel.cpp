@@ -4,6 +4,7 @@
 #include "EBKitStatusPanel.h"
 #include "EBStatusPanel.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "PanelWindow.h"
 #include "Picture.h"
 #include "Warnings.h"
@@ -11,7 +12,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QQuickWindow>
-#include <QTest>
 
 namespace {
 
@@ -526,12 +526,6 @@ private:
     QPushButton m_button{&m_host};
 };
 
-int main(int argc, char **argv)
-{
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    const QApplication application(argc, argv);
-    TestStatusPanel test;
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST(TestStatusPanel, runInWidgets)
 
 #include "tst_statuspanel.moc"

@@ -4,10 +4,10 @@
 #include "EBKitSeparator.h"
 #include "EBKitStatusPanel.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 #include "Picture.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -136,5 +136,5 @@ private:
     FakePlatform &m_platform = FakePlatform::install();
 };
 
-QTEST_MAIN(TestStillViews)
+CORVANE_TEST(TestStillViews, runInWidgets)
 #include "tst_stillviews.moc"

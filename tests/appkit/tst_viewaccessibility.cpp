@@ -11,12 +11,12 @@
 #include "EBKitStatusPanel.h"
 #include "FakePlatform.h"
 #include "Picture.h"
+#include "OnDesktop.h"
 
 #include <QAccessible>
 #include <QDBusConnectionInterface>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -195,19 +195,6 @@ private:
 
 // Much of what Qt tells an assistive technology it only tells while there is one: the test runs on a desktop with a
 // real accessibility bus.
-int main(int argc, char **argv)
-{
-    Desktop desktop;
-    if (!desktop.isValid())
-        return 1;
-    const QProcessEnvironment environment = desktop.environment();
-    for (const QString &name : environment.keys())
-        qputenv(qPrintable(name), environment.value(name).toLocal8Bit());
-    const QApplication application(argc, argv);
-    // Qt waits for this service, but does not start it.
-    QDBusConnection::sessionBus().interface()->startService(QStringLiteral("org.a11y.Bus"));
-    TestViewAccessibility test;
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST_MAIN((runOnAccessibleDesktop<TestViewAccessibility, QApplication>))
 
 #include "tst_viewaccessibility.moc"

@@ -1,9 +1,9 @@
 #include "DemoModel.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <map>
 #include <memory>
@@ -439,5 +439,5 @@ void TestDemoModel::qmlAppliesByCaseName()
     QCOMPARE(m_model->wins().at(1).state, normal);
 }
 
-QTEST_GUILESS_MAIN(TestDemoModel)
+CORVANE_TEST(TestDemoModel, runInCore)
 #include "tst_demomodel.moc"

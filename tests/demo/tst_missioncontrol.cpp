@@ -5,11 +5,11 @@
 #include "DemoButton.h"
 #include "DemoView.h"
 #include "EBKit.h"
+#include "TestProgram.h"
 #include "WindowFace.h"
 
 #include <QAccessible>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <numbers>
 
@@ -151,7 +151,6 @@ private:
 
 void TestMissionControl::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     FakePlatform::install();
     installKitAccessibility();
     QAccessible::setActive(true);
@@ -893,5 +892,5 @@ void TestMissionControl::fromRightToLeftTheRowsTurnAndTheButtonsStay()
     QCOMPARE(view->rectOf(buttons(*view, 0).constFirst(), cell(*view, 0)).topLeft(), QPointF(-13, -12));
 }
 
-QTEST_MAIN(TestMissionControl)
+CORVANE_TEST(TestMissionControl, runInGui)
 #include "tst_missioncontrol.moc"

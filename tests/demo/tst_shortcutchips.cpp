@@ -5,16 +5,15 @@
 #include "EBKit.h"
 #include "EBType.h"
 #include "ShortcutVocabulary.h"
+#include "TestProgram.h"
 
 #include <QAccessible>
 #include <QRegularExpression>
-#include <QTest>
 
 class TestShortcutChips : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
 
     void everyShortcutHasItsKeysAndItsName_data();
@@ -318,5 +317,5 @@ void TestShortcutChips::whatItFindsWhenItIsMadeIsNoNudge()
     QVERIFY(again->property("isShaking").toBool());
 }
 
-QTEST_MAIN(TestShortcutChips)
+CORVANE_TEST(TestShortcutChips, runInGui)
 #include "tst_shortcutchips.moc"

@@ -1,10 +1,11 @@
+#include "TestProgram.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -22,7 +23,7 @@ Result run(const QStringList &arguments)
     for (const char *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
         environment.remove(QLatin1String(variable));
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(GALLERY_PROGRAM), arguments);
+    process.start(QStringLiteral(PROGRAM_CORVANE_GALLERY), arguments);
     process.waitForFinished(60000);
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
@@ -206,5 +207,5 @@ void TestGallery::aFileThatCannotBeWrittenFails()
     QVERIFY2(result.errors.contains(path), qPrintable(result.errors));
 }
 
-QTEST_GUILESS_MAIN(TestGallery)
+CORVANE_TEST(TestGallery, runInCore)
 #include "tst_gallery.moc"

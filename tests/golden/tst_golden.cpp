@@ -6,12 +6,12 @@
 #include "PictureScreen.h"
 #include "ScenePicture.h"
 #include "SceneTable.h"
+#include "TestProgram.h"
 #include "ViewEngine.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -76,7 +76,7 @@ private:
     void compare(const QString &name, const QImage &picture);
 
     const bool m_updating = qEnvironmentVariable("UPDATE_GOLDEN") == QLatin1String("1");
-    FakePlatform &m_platform = installGalleryPlatform(QStringLiteral(FONTS_FOLDER));
+    FakePlatform &m_platform = installGalleryPlatform(QStringLiteral(CORVANE_FONTS_FOLDER));
     GalleryLook m_look{m_platform.look};
     ViewEngine m_engine;
     ScenePicture m_picture{m_engine, m_platform, m_look};
@@ -203,12 +203,14 @@ void TestGolden::aPictureWithFewColorsIsCloseToItsOriginal()
     QCOMPARE(coarse.pixel(500, 39), gradient.pixel(500, 39));
 }
 
-int main(int argc, char *argv[])
+static int run(int argc, char **argv)
 {
     const PictureScreen screen(currentScale());
     const QApplication application(argc, argv);
     TestGolden test;
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_golden.moc"

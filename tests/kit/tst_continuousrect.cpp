@@ -1,6 +1,5 @@
 #include "ContinuousRect.h"
-
-#include <QTest>
+#include "TestProgram.h"
 
 #include <algorithm>
 #include <array>
@@ -279,5 +278,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestContinuousRect)
+CORVANE_TEST(TestContinuousRect, runBare)
 #include "tst_continuousrect.moc"

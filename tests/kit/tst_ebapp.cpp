@@ -1,9 +1,9 @@
 #include "EBApp.h"
 #include "EBKit.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 class TestEBApp : public QObject {
     Q_OBJECT
@@ -80,5 +80,5 @@ void TestEBApp::aProductOwnsItsAccentFamily()
     QCOMPARE((QList{&owned.accent, &owned.onAccent, &owned.loud, &owned.onLoud, &owned.loudDot}), family);
 }
 
-QTEST_GUILESS_MAIN(TestEBApp)
+CORVANE_TEST(TestEBApp, runInCore)
 #include "tst_ebapp.moc"

@@ -1,12 +1,12 @@
 #include "EBEnvironment.h"
 #include "EBKit.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -270,5 +270,5 @@ void TestEBEnvironment::inQmlAnItemMadeLaterInherits()
     QCOMPARE(root->property("seen"), QVariant(QStringLiteral("parcelo")));
 }
 
-QTEST_MAIN(TestEBEnvironment)
+CORVANE_TEST(TestEBEnvironment, runInGui)
 #include "tst_ebenvironment.moc"

@@ -1,9 +1,9 @@
 #include "EBKitFonts.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QFontDatabase>
 #include <QRegularExpression>
-#include <QTest>
 
 /// The bundle has both files.
 class TestEBKitFonts : public QObject {
@@ -21,7 +21,7 @@ void TestEBKitFonts::bothFacesAreRegisteredInOrder()
     FakePlatform &platform = FakePlatform::install();
     for (const char *file : {"InstrumentSans-SemiBold.ttf", "GeistMono-Medium.ttf"}) {
         platform.main.resources.insert(QString::fromLatin1(file),
-                                       QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + QLatin1String(file)));
+                                       QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + QLatin1String(file)));
     }
     EBKitFonts::registerFonts();
     QVERIFY(QFontDatabase::applicationFontFamilies(0).contains(QStringLiteral("Instrument Sans")));
@@ -41,5 +41,5 @@ void TestEBKitFonts::registeringAgainDoesNothing()
     QCOMPARE(EBKitFonts::face(EBKitFonts::mono).family(), QStringLiteral("Geist Mono"));
 }
 
-QTEST_MAIN(TestEBKitFonts)
+CORVANE_TEST(TestEBKitFonts, runInGui)
 #include "tst_ebkitfonts.moc"

@@ -1,9 +1,9 @@
 #include "EBKitFonts.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QTest>
 
 namespace {
 
@@ -29,8 +29,9 @@ private slots:
 void TestEBKitFontsMissing::aMissingFileIsOneLineAndTheOtherFaceIsRegistered()
 {
     FakePlatform &platform = FakePlatform::install();
-    platform.main.resources.insert(QStringLiteral("InstrumentSans-SemiBold.ttf"),
-                                   QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER "InstrumentSans-SemiBold.ttf")));
+    platform.main.resources.insert(
+        QStringLiteral("InstrumentSans-SemiBold.ttf"),
+        QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER "InstrumentSans-SemiBold.ttf")));
     const auto before = qInstallMessageHandler(record);
     EBKitFonts::registerFonts();
     qInstallMessageHandler(before);
@@ -55,5 +56,5 @@ void TestEBKitFontsMissing::registeringAgainLogsNothing()
     QVERIFY(logged.isEmpty());
 }
 
-QTEST_MAIN(TestEBKitFontsMissing)
+CORVANE_TEST(TestEBKitFontsMissing, runInGui)
 #include "tst_ebkitfonts_missing.moc"

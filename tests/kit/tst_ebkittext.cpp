@@ -1,9 +1,9 @@
 #include "EBKit.h"
 #include "EBKitText.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 class TestEBKitText : public QObject {
     Q_OBJECT
@@ -85,5 +85,5 @@ void TestEBKitText::theWholeStringIsKept()
         QCOMPARE((EBKitText{string, QFont(), EBKit::ink()}.attributed().string), string);
 }
 
-QTEST_MAIN(TestEBKitText)
+CORVANE_TEST(TestEBKitText, runInGui)
 #include "tst_ebkittext.moc"

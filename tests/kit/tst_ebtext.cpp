@@ -1,13 +1,13 @@
 #include "EBKitFonts.h"
 #include "EBType.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -87,11 +87,10 @@ void TestEBText::initTestCase()
     m_platform = &FakePlatform::install();
     for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
         const QString file = face + QStringLiteral(".ttf");
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + file));
+        m_platform->main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + file));
     }
     EBKitFonts::registerFonts();
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     m_window = std::make_unique<QQuickWindow>();
     m_window->resize(roomWidth, roomHeight);
     m_window->show();
@@ -219,5 +218,5 @@ void TestEBText::itsColourFollowsTheAppearance()
     m_platform->look.setName(AppearanceName::Aqua);
 }
 
-QTEST_MAIN(TestEBText)
+CORVANE_TEST(TestEBText, runInGui)
 #include "tst_ebtext.moc"

@@ -1,6 +1,7 @@
 #include "EBKitFonts.h"
 #include "EBType.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -8,7 +9,6 @@
 #include <QQmlEngine>
 #include <QRawFont>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -22,7 +22,7 @@ const QString geistMono = QStringLiteral("GeistMono-Medium");
 
 QUrl fileOf(const QString &face)
 {
-    return QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + face + QStringLiteral(".ttf"));
+    return QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + face + QStringLiteral(".ttf"));
 }
 
 /// The face a text is really drawn with, by the names inside the font file.
@@ -220,5 +220,5 @@ void TestEBType::inQmlTheTrackingGrowsWithTheSize()
     QCOMPARE(m_type.font(QStringLiteral("body"), 0, 15).letterSpacing(), 0.0);
 }
 
-QTEST_MAIN(TestEBType)
+CORVANE_TEST(TestEBType, runInGui)
 #include "tst_ebtype.moc"

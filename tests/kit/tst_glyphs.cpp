@@ -1,11 +1,11 @@
 #include "ContinuousRect.h"
 #include "EBKitGlyph.h"
 #include "GlyphShape.h"
+#include "TestProgram.h"
 
 #include <QPainterPathStroker>
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 #include <algorithm>
 #include <cmath>
@@ -417,5 +417,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestGlyphs)
+CORVANE_TEST(TestGlyphs, runBare)
 #include "tst_glyphs.moc"

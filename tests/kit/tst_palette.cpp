@@ -1,12 +1,12 @@
 #include "EB.h"
 #include "EBKit.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 #include <thread>
@@ -302,5 +302,5 @@ void TestPalette::anythingElseMakesNone()
     QVERIFY(!hex(text));
 }
 
-QTEST_GUILESS_MAIN(TestPalette)
+CORVANE_TEST(TestPalette, runInCore)
 #include "tst_palette.moc"

@@ -1,9 +1,9 @@
 #include "LayoutCoder.h"
 #include "Sample.h"
+#include "TestProgram.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
@@ -679,5 +679,5 @@ void LayoutDecoderTest::everyCutOfAListIsRefused()
         QVERIFY2(!LayoutCoder::decode(Sample::text.left(length)), qPrintable(Sample::text.left(length)));
 }
 
-QTEST_GUILESS_MAIN(LayoutDecoderTest)
+CORVANE_TEST(LayoutDecoderTest, runInCore)
 #include "tst_layoutdecoder.moc"

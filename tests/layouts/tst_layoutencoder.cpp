@@ -1,8 +1,8 @@
 #include "LayoutCoder.h"
 #include "Sample.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
@@ -231,5 +231,5 @@ void LayoutEncoderTest::halfASurrogatePairHasNoText()
     QVERIFY(LayoutCoder::encode({named(QStringLiteral("a\U0001f98ab"))}));
 }
 
-QTEST_GUILESS_MAIN(LayoutEncoderTest)
+CORVANE_TEST(LayoutEncoderTest, runInCore)
 #include "tst_layoutencoder.moc"

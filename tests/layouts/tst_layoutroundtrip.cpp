@@ -1,8 +1,8 @@
 #include "LayoutCoder.h"
+#include "TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <algorithm>
 #include <array>
@@ -201,5 +201,5 @@ void LayoutRoundTripTest::aDamagedTextNeverMakesAListWithoutAForm()
     }
 }
 
-QTEST_GUILESS_MAIN(LayoutRoundTripTest)
+CORVANE_TEST(LayoutRoundTripTest, runInCore)
 #include "tst_layoutroundtrip.moc"

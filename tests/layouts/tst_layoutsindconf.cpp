@@ -2,6 +2,7 @@
 #include "LayoutStore.h"
 #include "PrivateSession.h"
 #include "Sample.h"
+#include "TestProgram.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -85,8 +86,5 @@ void LayoutsInDconfTest::anAgentThatAddsMeanwhileNeverLeavesAnInvalidList()
     QCOMPARE(reader.value(key).toString(), LayoutStore::encode(last).value());
 }
 
-int main(int argc, char **argv)
-{
-    return runInPrivateSession<LayoutsInDconfTest>(argc, argv);
-}
+CORVANE_TEST(LayoutsInDconfTest, runInPrivateSession)
 #include "tst_layoutsindconf.moc"

@@ -1,9 +1,9 @@
 #include "FakeUserDefaults.h"
 #include "LayoutStore.h"
 #include "Sample.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <functional>
 
@@ -387,5 +387,5 @@ void LayoutStoreTest::noOtherKeyIsTouched()
     QCOMPARE(store.values, (QVariantMap{{key, QStringLiteral("[]")}, {QStringLiteral("layouts.gap"), 6.0}}));
 }
 
-QTEST_GUILESS_MAIN(LayoutStoreTest)
+CORVANE_TEST(LayoutStoreTest, runInCore)
 #include "tst_layoutstore.moc"

@@ -1,7 +1,7 @@
 #include "Sample.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <array>
 
@@ -77,5 +77,5 @@ void SavedLayoutTest::aLayoutComparesByAllFourFields()
     QVERIFY(other != layout);
 }
 
-QTEST_GUILESS_MAIN(SavedLayoutTest)
+CORVANE_TEST(SavedLayoutTest, runInCore)
 #include "tst_savedlayout.moc"

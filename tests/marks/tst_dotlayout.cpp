@@ -1,10 +1,10 @@
 #include "DotLayout.h"
 #include "Mulberry32.h"
+#include "TestProgram.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTest>
 #include <QTextStream>
 
 #include <cmath>
@@ -271,7 +271,7 @@ void TestDotLayout::aCountOfCellsThatIsNoNumberEndsTheProcess()
     QFETCH(QString, width);
     QFETCH(QString, cell);
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {"--layout", width, cell});
+    child.start(QCoreApplication::applicationFilePath(), {"tst_dotlayout", "--layout", width, cell});
     QVERIFY(child.waitForFinished());
     QCOMPARE(child.exitStatus(), QProcess::CrashExit);
     QVERIFY(child.readAllStandardError().contains("A dot field cannot be"));
@@ -501,7 +501,7 @@ void TestDotLayout::everyFieldKeepsTheRules()
     QVERIFY(count > 10000);
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     if (argc == 4 && qstrcmp(argv[1], "--layout") == 0)
@@ -509,5 +509,7 @@ int main(int argc, char **argv)
     TestDotLayout test;
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_dotlayout.moc"

@@ -4,9 +4,9 @@
 #include "FakePlatform.h"
 #include "MarkGeometry.h"
 #include "MarkShape.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <limits>
 
@@ -242,5 +242,5 @@ void TestMarks::aProductsRecordHoldsItsNameMarkAndColours()
     }
 }
 
-QTEST_GUILESS_MAIN(TestMarks)
+CORVANE_TEST(TestMarks, runInCore)
 #include "tst_marks.moc"

@@ -6,6 +6,7 @@
 #include "EBType.h"
 #include "FakePlatform.h"
 #include "MarkGeometry.h"
+#include "TestProgram.h"
 
 #include <QAccessible>
 #include <QPaintEngine>
@@ -15,7 +16,6 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -201,14 +201,13 @@ private:
 
 void TestMarkViews::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QAccessible::setActive(true);
     m_platform = &FakePlatform::install();
-    if (QString::fromLatin1(FONTS_FOLDER).isEmpty())
+    if (qEnvironmentVariableIsSet("CORVANE_WITHOUT_FACES"))
         return;
     for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
         const QString file = face + QStringLiteral(".ttf");
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + file));
+        m_platform->main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + file));
     }
     EBKitFonts::registerFonts();
 }
@@ -623,5 +622,5 @@ void TestMarkViews::theDrawingIsOneElementWithALabel()
     QCOMPARE(view.accessible()->childCount(), 0);
 }
 
-QTEST_MAIN(TestMarkViews)
+CORVANE_TEST(TestMarkViews, runInGui)
 #include "tst_markviews.moc"

@@ -3,11 +3,11 @@
 #include "GuideWindowController.h"
 #include "Hotkey.h"
 #include "Shared.h"
+#include "TestProgram.h"
 #include "ViewEngine.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -15,7 +15,6 @@ class TestGuideWindow : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup();
 
@@ -184,5 +183,5 @@ void TestGuideWindow::afterTheEndNothingBringsItBack()
     QCOMPARE(m_finished, 1);
 }
 
-QTEST_MAIN(TestGuideWindow)
+CORVANE_TEST(TestGuideWindow, runInGui)
 #include "tst_guidewindow.moc"

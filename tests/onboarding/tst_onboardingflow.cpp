@@ -2,12 +2,12 @@
 #include "GuideVisibility.h"
 #include "OnboardingFlow.h"
 #include "Shared.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -15,7 +15,6 @@ class TestOnboardingFlow : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup();
 
@@ -432,5 +431,5 @@ void TestOnboardingFlow::notStartingAtLoginSendsFalseAndOpensNothing()
     QCOMPARE(m_finished, 1);
 }
 
-QTEST_MAIN(TestOnboardingFlow)
+CORVANE_TEST(TestOnboardingFlow, runInGui)
 #include "tst_onboardingflow.moc"

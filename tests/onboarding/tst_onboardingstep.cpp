@@ -1,6 +1,5 @@
 #include "OnboardingStep.h"
-
-#include <QTest>
+#include "TestProgram.h"
 
 class TestOnboardingStep : public QObject {
     Q_OBJECT
@@ -92,5 +91,5 @@ void TestOnboardingStep::anyOtherTextNamesNone()
     QVERIFY(!OnboardingSteps::fromText(text));
 }
 
-QTEST_APPLESS_MAIN(TestOnboardingStep)
+CORVANE_TEST(TestOnboardingStep, runBare)
 #include "tst_onboardingstep.moc"

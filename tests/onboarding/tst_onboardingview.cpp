@@ -5,12 +5,12 @@
 #include "NamedItems.h"
 #include "OnboardingFlow.h"
 #include "Shared.h"
+#include "TestProgram.h"
 #include "ViewEngine.h"
 
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -19,7 +19,6 @@ class TestOnboardingView : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup();
 
@@ -592,5 +591,5 @@ void TestOnboardingView::onlyTheCurrentScreenIsThere()
     }
 }
 
-QTEST_MAIN(TestOnboardingView)
+CORVANE_TEST(TestOnboardingView, runInGui)
 #include "tst_onboardingview.moc"

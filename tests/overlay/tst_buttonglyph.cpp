@@ -1,7 +1,7 @@
 #include "ButtonGlyph.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -73,5 +73,5 @@ void ButtonGlyphTest::theReachDependsOnTheWidthAlone()
     QVERIFY(areNear(linesOf(ButtonGlyph{OverlayButton::minimize}.path(QRectF(100, 200, 100, 20))), expected));
 }
 
-QTEST_GUILESS_MAIN(ButtonGlyphTest)
+CORVANE_TEST(ButtonGlyphTest, runInCore)
 #include "tst_buttonglyph.moc"

@@ -1,10 +1,10 @@
 #include "DemoButton.h"
 #include "EBKit.h"
 #include "OverlayView.h"
+#include "TestProgram.h"
 #include "WindowFace.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <numbers>
 
@@ -25,7 +25,6 @@ qreal sprung(qreal response, qreal damping, qreal time)
 class ButtonsPreviewTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void theWindowStandsInTheMiddleOfAWellWithRoomForTheButtons();
     void theButtonsHangOverTheCorner_data();
@@ -230,5 +229,5 @@ void ButtonsPreviewTest::fromRightToLeftItLooksTheSame()
     QCOMPARE(view.picture(), before);
 }
 
-QTEST_MAIN(ButtonsPreviewTest)
+CORVANE_TEST(ButtonsPreviewTest, runInGui)
 #include "tst_buttonspreview.moc"

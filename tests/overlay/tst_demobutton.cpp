@@ -1,10 +1,10 @@
 #include "DemoButton.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QPainter>
 #include <QQuickWindow>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -210,12 +210,6 @@ void DemoButtonTest::unknownTextsDrawTheDefaultThemeAndNoButton()
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor(Qt::black));
 }
 
-int main(int argc, char **argv)
-{
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    const QGuiApplication application(argc, argv);
-    DemoButtonTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST(DemoButtonTest, runInGui)
 
 #include "tst_demobutton.moc"

@@ -1,16 +1,15 @@
 #include "EBKit.h"
 #include "Glyph.h"
 #include "OverlayView.h"
+#include "TestProgram.h"
 #include "WindowFace.h"
 
 #include <QFont>
 #include <QRegularExpression>
-#include <QTest>
 
 class FakeWindowTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void itsTextsAreACaptionAndALabelOnAChip();
     void itsGlyphStandsBesideTheCaption();
@@ -174,5 +173,5 @@ void FakeWindowTest::fromRightToLeftItLooksTheSame()
     QCOMPARE(view.picture(), before);
 }
 
-QTEST_MAIN(FakeWindowTest)
+CORVANE_TEST(FakeWindowTest, runInGui)
 #include "tst_fakewindow.moc"

@@ -1,9 +1,9 @@
 #include "ButtonChoices.h"
 #include "ButtonSize.h"
+#include "TestProgram.h"
 #include "Theme.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <stdexcept>
 
@@ -155,5 +155,5 @@ void ThemeTest::viewsReadUnknownTextsAsTheDefault()
     QCOMPARE(ButtonChoices::diameter("huge"), 25.0);
 }
 
-QTEST_GUILESS_MAIN(ThemeTest)
+CORVANE_TEST(ThemeTest, runInCore)
 #include "tst_theme.moc"

@@ -3,11 +3,11 @@
 #include "EBEnvironment.h"
 #include "EBKit.h"
 #include "OverlayView.h"
+#include "TestProgram.h"
 
 #include <QFont>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 /// Who shows the tiles: notes what is chosen and, if told, hands it back as a page does.
 class Caller : public QObject {
@@ -70,7 +70,6 @@ private:
 
 void ThemeTilesTest::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QAccessible::setActive(true);
 }
 
@@ -366,5 +365,5 @@ void ThemeTilesTest::theDefaultActionChooses()
     QCOMPARE(m_caller->chosen, QStringList("outline"));
 }
 
-QTEST_MAIN(ThemeTilesTest)
+CORVANE_TEST(ThemeTilesTest, runInGui)
 #include "tst_themetiles.moc"

@@ -1,5 +1,6 @@
 #include "DconfUserDefaults.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 #include "Tool.h"
 
 #include <QDir>
@@ -38,9 +39,6 @@ void DamagedStoreTest::aDatabaseOfGarbageReadsAsEmptyAndTakesValues()
              QStringLiteral("'a'"));
 }
 
-int main(int argc, char **argv)
-{
-    return runInPrivateSession<DamagedStoreTest>(argc, argv);
-}
+CORVANE_TEST(DamagedStoreTest, runInPrivateSession)
 
 #include "tst_damagedstore.moc"

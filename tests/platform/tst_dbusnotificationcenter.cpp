@@ -1,5 +1,6 @@
 #include "DBusNotificationCenter.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -128,7 +129,9 @@ void DBusNotificationCenterTest::aNoticeIsOnTheBusWhenThePostReturns()
 {
     Listener listener;
     for (int round = 1; round <= 5; ++round) {
-        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--post")}), 0);
+        QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(),
+                                   {QStringLiteral("tst_dbusnotificationcenter"), QStringLiteral("--post")}),
+                 0);
         QTRY_COMPARE(listener.messages.size(), round);
     }
 }
@@ -144,7 +147,9 @@ void DBusNotificationCenterTest::anObserverHearsThisProcessAndOthers()
     center.post(name, sent);
     QTRY_COMPARE(heard.size(), 1);
     QCOMPARE(heard.first(), sent);
-    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--post")}), 0);
+    QCOMPARE(QProcess::execute(QCoreApplication::applicationFilePath(),
+                               {QStringLiteral("tst_dbusnotificationcenter"), QStringLiteral("--post")}),
+             0);
     QTRY_COMPARE(heard.size(), 2);
     QCOMPARE(heard.last().value(QStringLiteral("command")), QVariant(QStringLiteral("fromOutside")));
 }
@@ -202,7 +207,7 @@ void DBusNotificationCenterTest::aNameThatIsNoSignalIsLost()
     center.post(badName, {});
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     if (argc == 2 && qstrcmp(argv[1], "--post") == 0) {
         const QCoreApplication application(argc, argv);
@@ -211,5 +216,7 @@ int main(int argc, char **argv)
     }
     return runInPrivateSession<DBusNotificationCenterTest>(argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_dbusnotificationcenter.moc"

@@ -1,5 +1,6 @@
 #include "DconfUserDefaults.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 #include "Tool.h"
 
 #include <QSignalSpy>
@@ -323,8 +324,10 @@ void DconfUserDefaultsTest::processesThatWriteAtTheSameTimeLoseNothing()
 {
     QProcess second;
     QProcess third;
-    second.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), QStringLiteral("second")});
-    third.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), QStringLiteral("third")});
+    second.start(QCoreApplication::applicationFilePath(),
+                 {QStringLiteral("tst_dconfuserdefaults"), QStringLiteral("--write"), QStringLiteral("second")});
+    third.start(QCoreApplication::applicationFilePath(),
+                {QStringLiteral("tst_dconfuserdefaults"), QStringLiteral("--write"), QStringLiteral("third")});
     QVERIFY(second.waitForReadyRead() && third.waitForReadyRead());
     second.write("go\n");
     third.write("go\n");
@@ -352,11 +355,13 @@ int writeOnCommand(int argc, char **argv)
 
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     if (argc == 3 && qstrcmp(argv[1], "--write") == 0)
         return writeOnCommand(argc, argv);
     return runInPrivateSession<DconfUserDefaultsTest>(argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_dconfuserdefaults.moc"

@@ -1,7 +1,7 @@
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 class FakePlatformTest : public QObject {
     Q_OBJECT
@@ -140,6 +140,6 @@ void FakePlatformTest::keysReachTheMonitorsThatAreHeld()
     QCOMPARE(heard.size(), 2);
 }
 
-QTEST_GUILESS_MAIN(FakePlatformTest)
+CORVANE_TEST(FakePlatformTest, runInCore)
 
 #include "tst_fakeplatform.moc"

@@ -1,5 +1,6 @@
 #include "FreedesktopPlatform.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 #include "Tool.h"
 
 #include <QDir>
@@ -52,7 +53,7 @@ void FreedesktopPlatformTest::aSuiteThatCannotBeOpenedIsNull()
 void FreedesktopPlatformTest::aProgramOutsideABundleHasStandardDefaultsUnderItsName()
 {
     Platform::current().standardUserDefaults().setValue(QStringLiteral("key"), true);
-    QCOMPARE(dconf({QStringLiteral("read"), QStringLiteral("/tst_freedesktopplatform/key")}), QStringLiteral("true"));
+    QCOMPARE(dconf({QStringLiteral("read"), QStringLiteral("/platform_tests/key")}), QStringLiteral("true"));
 }
 
 void FreedesktopPlatformTest::theMainBundleIsTheFolderOfTheExecutable()
@@ -96,9 +97,6 @@ void FreedesktopPlatformTest::withoutAnXServerNoWindowIsOnTheScreen()
     QVERIFY(Platform::current().workspace().blendsWindows());
 }
 
-int main(int argc, char **argv)
-{
-    return runInPrivateSession<FreedesktopPlatformTest>(argc, argv);
-}
+CORVANE_TEST(FreedesktopPlatformTest, runInPrivateSession)
 
 #include "tst_freedesktopplatform.moc"

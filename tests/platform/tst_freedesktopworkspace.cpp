@@ -1,10 +1,10 @@
 #include "FreedesktopWorkspace.h"
+#include "TestProgram.h"
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -403,6 +403,6 @@ void FreedesktopWorkspaceTest::theGenericIconIsThatOfTheTheme()
     QVERIFY(isTheIcon(m_workspace->iconForFile(QStringLiteral("/Applications/Corvane.app"))));
 }
 
-QTEST_MAIN(FreedesktopWorkspaceTest)
+CORVANE_TEST(FreedesktopWorkspaceTest, runInGui)
 
 #include "tst_freedesktopworkspace.moc"

@@ -2,6 +2,7 @@
 #include "Keyboard.h"
 #include "PrivateSession.h"
 #include "Program.h"
+#include "TestProgram.h"
 #include "TopLevel.h"
 #include "VirtualDisplay.h"
 #include "XConnection.h"
@@ -112,7 +113,6 @@ private:
 
 void KeyMonitorTest::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     Platform::install(makeFreedesktopPlatform());
 }
 
@@ -337,7 +337,7 @@ void KeyMonitorTest::otherProcessesAreNotHeard()
 {
     const Monitor held = listen(true);
     Program other(QCoreApplication::applicationFilePath(), QProcessEnvironment::systemEnvironment());
-    QVERIFY(other.start({u"--another-program"_s}));
+    QVERIFY(other.start({u"tst_keymonitor"_s, u"--another-program"_s}));
     const auto window = [&] { return TopLevel::ofProcess(m_around.x, other.processId()); };
     QTRY_VERIFY(!window().isEmpty() && window().constFirst().isViewable());
     QVERIFY(giveInputFocus(window().constFirst().id()));
@@ -450,7 +450,7 @@ int runAnotherProgram(int argc, char **argv)
 
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--another-program") == 0)
         return runAnotherProgram(argc, argv);
@@ -463,5 +463,7 @@ int main(int argc, char **argv)
     KeyMonitorTest test(around);
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_keymonitor.moc"

@@ -1,7 +1,6 @@
 #include "KeyMonitor.h"
 #include "KeyPositions.h"
-
-#include <QTest>
+#include "TestProgram.h"
 
 #include <linux/input-event-codes.h>
 
@@ -143,6 +142,6 @@ void KeyPositionsTest::modifiersAreFlags()
     QCOMPARE(KeyPositions::flags(Qt::KeypadModifier | Qt::GroupSwitchModifier), std::uint64_t(0));
 }
 
-QTEST_GUILESS_MAIN(KeyPositionsTest)
+CORVANE_TEST(KeyPositionsTest, runInCore)
 
 #include "tst_keypositions.moc"

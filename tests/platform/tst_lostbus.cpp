@@ -3,6 +3,7 @@
 #include "PortalAppearance.h"
 #include "PrivateSession.h"
 #include "SessionBus.h"
+#include "TestProgram.h"
 
 #pragma push_macro("signals")
 #undef signals
@@ -48,9 +49,6 @@ void LostBusTest::theApplicationOutlivesItsBus()
     QCOMPARE(appearance.bestMatch(), AppearanceName::Aqua);
 }
 
-int main(int argc, char **argv)
-{
-    return runInPrivateSession<LostBusTest>(argc, argv);
-}
+CORVANE_TEST(LostBusTest, runInPrivateSession)
 
 #include "tst_lostbus.moc"

@@ -1,7 +1,7 @@
 #include "FakeMainQueue.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -153,5 +153,5 @@ void TestMainQueue::whatWaitsIsCounted()
     QCOMPARE(queue.waiting(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestMainQueue)
+CORVANE_TEST(TestMainQueue, runInCore)
 #include "tst_mainqueue.moc"

@@ -1,9 +1,9 @@
 #include "PlistBundle.h"
+#include "TestProgram.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <plist/plist.h>
 
@@ -249,6 +249,6 @@ void PlistBundleTest::withoutAnExistingExecutableThereIsNone()
     QCOMPARE(bundle(xmlHead + "<dict/></plist>").executable(), QString());
 }
 
-QTEST_GUILESS_MAIN(PlistBundleTest)
+CORVANE_TEST(PlistBundleTest, runInCore)
 
 #include "tst_plistbundle.moc"

@@ -1,6 +1,7 @@
 #include "PortalAppearance.h"
 #include "PrivateSession.h"
 #include "SettingsPortal.h"
+#include "TestProgram.h"
 
 #include <QDBusVariant>
 #include <QDir>
@@ -279,7 +280,7 @@ void PortalAppearanceTest::aPortalsPreferenceOutranksThePalette()
     QTRY_COMPARE(appearance.bestMatch(), darkAqua);
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     PrivateSession session;
     const QString services = session.dataFolder() + QStringLiteral("/dbus-1/services/");
@@ -297,5 +298,7 @@ int main(int argc, char **argv)
     PortalAppearanceTest test(session);
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_portalappearance.moc"

@@ -1,5 +1,6 @@
 #include "DconfUserDefaults.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 #include "Tool.h"
 
 #include <QDir>
@@ -96,9 +97,6 @@ void StoreRecoversTest::aKeyThatIsNoPathOutlivesAChangeOfEverything()
     QCOMPARE(m_defaults->value(QStringLiteral("a//b")), QVariant(true));
 }
 
-int main(int argc, char **argv)
-{
-    return runInPrivateSession<StoreRecoversTest>(argc, argv);
-}
+CORVANE_TEST(StoreRecoversTest, runInPrivateSession)
 
 #include "tst_storerecovers.moc"

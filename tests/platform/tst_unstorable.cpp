@@ -2,6 +2,7 @@
 #include "DconfUserDefaults.h"
 #include "PortalAppearance.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -10,11 +11,11 @@ namespace {
 
 const QString suiteName = QStringLiteral("com.vexmoor.corvane");
 
-/// Makes a session in which nothing can be stored, for the reason this program is built for.
+/// Makes a session in which nothing can be stored, for the reason that the environment names.
 struct Trouble {
     explicit Trouble(PrivateSession &session)
     {
-        const QByteArrayView name = TROUBLE;
+        const QByteArray name = qgetenv("CORVANE_TROUBLE");
         if (name == "dead_bus")
             qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
         if (name == "meaningless_bus")
@@ -99,7 +100,7 @@ void UnstorableTest::noBusIsStarted()
     QVERIFY(!QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/started")));
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     PrivateSession session;
     const QByteArray programs = session.dataFolder().toLocal8Bit();
@@ -112,5 +113,7 @@ int main(int argc, char **argv)
     UnstorableTest test;
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_unstorable.moc"

@@ -1,5 +1,6 @@
 #include "FreedesktopWorkspace.h"
 #include "PrivateSession.h"
+#include "TestProgram.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -8,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -123,7 +123,7 @@ void WindowOverviewTest::withoutABusNothingHappens()
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     PrivateSession session;
     const QString services = session.dataFolder() + "/dbus-1/services";
@@ -140,5 +140,7 @@ int main(int argc, char **argv)
     WindowOverviewTest test(session);
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_windowoverview.moc"

@@ -1,9 +1,9 @@
 #include "OnDesktop.h"
+#include "TestProgram.h"
 #include "X11TestWindow.h"
 #include "X11WindowList.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -60,7 +60,7 @@ private:
 void X11WindowListTest::initTestCase()
 {
     QCOMPARE(QGuiApplication::platformName(), "xcb");
-    QCOMPARE(qApp->devicePixelRatio(), QByteArray(SCALE).toDouble());
+    QCOMPARE(qApp->devicePixelRatio(), qgetenv("CORVANE_TEST_SCALE").toDouble());
 }
 
 void X11WindowListTest::init()
@@ -102,7 +102,7 @@ QList<QRectF> X11WindowListTest::bounds()
 
 QRectF X11WindowListTest::points(QRect pixels)
 {
-    const qreal scale = QByteArray(SCALE).toDouble();
+    const qreal scale = qgetenv("CORVANE_TEST_SCALE").toDouble();
     return {QPointF(pixels.topLeft()) / scale, QSizeF(pixels.size()) / scale};
 }
 
@@ -374,9 +374,6 @@ void X11WindowListTest::brokenPropertiesAreIgnored()
     QVERIFY(bounds().constFirst().width() < 0);
 }
 
-int main(int argc, char **argv)
-{
-    return runOnDesktop<X11WindowListTest>(argc, argv, SCALE);
-}
+CORVANE_TEST(X11WindowListTest, runOnDesktop)
 
 #include "tst_x11windowlist.moc"

@@ -8,7 +8,7 @@ ScreenView::ScreenView(const QString &qml, QSize size) : m_platform(FakePlatform
 {
     for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
         const QString file = face + QStringLiteral(".ttf");
-        m_platform.main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(FONTS_DIR "/") + file));
+        m_platform.main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + file));
     }
     EBKitFonts::registerFonts();
     QQmlComponent component(&m_engine);

@@ -1,15 +1,14 @@
 #include "ScreenView.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 /// What the buttons of the About screen do.
 class TestAboutActions : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void theWebsiteOpensOnTheDesktop();
     void updatesAreTheCallersBusiness();
@@ -68,5 +67,5 @@ void TestAboutActions::theKeyboardReachesBothButtons()
     QCOMPARE(checks.count(), 2);
 }
 
-QTEST_MAIN(TestAboutActions)
+CORVANE_TEST(TestAboutActions, runInGui)
 #include "tst_aboutactions.moc"

@@ -1,8 +1,8 @@
 #include "AnimationClock.h"
 #include "ScreenView.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <numbers>
 
@@ -29,7 +29,6 @@ class TestLoudEntrance : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void beforeItIsDisplayedNothingHasAppeared();
     void oneSpringDrivesEverything();
@@ -171,5 +170,5 @@ void TestLoudEntrance::aScreenThatHasAppearedStandsStill()
     compareProgress(view, 1, 0);
 }
 
-QTEST_MAIN(TestLoudEntrance)
+CORVANE_TEST(TestLoudEntrance, runInGui)
 #include "tst_loudentrance.moc"

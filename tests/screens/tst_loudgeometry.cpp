@@ -1,7 +1,6 @@
 #include "LoudGeometry.h"
 #include "ScreenGeometry.h"
-
-#include <QTest>
+#include "TestProgram.h"
 
 namespace {
 
@@ -96,5 +95,5 @@ void TestLoudGeometry::thePanelStaysClearOfItsStepsAndItsMark()
     compareZones(ScreenGeometry::panelCalm(), {{50, 20, 30, 18}, {66, 116, 30, 72}, {50, 330, 0, 70}});
 }
 
-QTEST_APPLESS_MAIN(TestLoudGeometry)
+CORVANE_TEST(TestLoudGeometry, runBare)
 #include "tst_loudgeometry.moc"

@@ -1,14 +1,13 @@
 #include "ScreenView.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 /// With the longest texts of the product, in a narrow and in a wide face, nothing is cut and nothing overlaps.
 class TestScreenFit : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void cleanup() { QGuiApplication::setFont(QFont(QStringLiteral("Inter"))); }
     void everyTextFits_data();
@@ -94,5 +93,5 @@ void TestScreenFit::everyTextFits()
     }
 }
 
-QTEST_MAIN(TestScreenFit)
+CORVANE_TEST(TestScreenFit, runInGui)
 #include "tst_screenfit.moc"

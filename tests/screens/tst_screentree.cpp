@@ -1,8 +1,8 @@
 #include "ScreenView.h"
+#include "TestProgram.h"
 
 #include <QAccessible>
 #include <QRegularExpression>
-#include <QTest>
 
 /// What the screens tell an assistive technology.
 class TestScreenTree : public QObject {
@@ -41,7 +41,6 @@ QStringList outline(QAccessibleInterface *element, const QString &indent = {})
 
 void TestScreenTree::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QAccessible::setActive(true);
 }
 
@@ -99,5 +98,5 @@ void TestScreenTree::everyScreenIsReadInItsOrder()
     QCOMPARE(outline(QAccessible::queryAccessibleInterface(&view.window())).join(u'\n'), tree.join(u'\n'));
 }
 
-QTEST_MAIN(TestScreenTree)
+CORVANE_TEST(TestScreenTree, runInGui)
 #include "tst_screentree.moc"

@@ -94,7 +94,7 @@ private:
         FakePlatform &desktop = FakePlatform::install();
         for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
             const QString file = face + QStringLiteral(".ttf");
-            desktop.main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(FONTS_FOLDER) + file));
+            desktop.main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + file));
         }
         EBKitFonts::registerFonts();
         QAccessible::setActive(true);

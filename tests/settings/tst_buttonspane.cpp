@@ -2,6 +2,7 @@
 #include "DemoButton.h"
 #include "FakePlatform.h"
 #include "Shared.h"
+#include "TestProgram.h"
 #include "ViewEngine.h"
 #include "WindowFace.h"
 
@@ -9,7 +10,6 @@
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -32,7 +32,6 @@ class TestButtonsPane : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup();
 
@@ -465,5 +464,5 @@ void TestButtonsPane::thereIsNoSwitchForClose()
     QCOMPARE(switches, 2);
 }
 
-QTEST_MAIN(TestButtonsPane)
+CORVANE_TEST(TestButtonsPane, runInGui)
 #include "tst_buttonspane.moc"

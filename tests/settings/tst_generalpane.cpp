@@ -1,8 +1,8 @@
 #include "GeneralActions.h"
 #include "PaneWindow.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -10,7 +10,6 @@ class TestGeneralPane : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup();
 
@@ -165,5 +164,5 @@ void TestGeneralPane::aValueOfAnotherTypeShowsItsDefaultAndStays()
     QCOMPARE(m_pane->store.value("agent.accessibilityTrusted"), QVariant(1.0));
 }
 
-QTEST_MAIN(TestGeneralPane)
+CORVANE_TEST(TestGeneralPane, runInGui)
 #include "tst_generalpane.moc"

@@ -1,10 +1,10 @@
 #include "FakePlatform.h"
 #include "LayoutPreview.h"
+#include "TestProgram.h"
 
 #include <QQuickItemGrabResult>
 #include <QQuickWindow>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <limits>
 
@@ -26,7 +26,6 @@ class TestLayoutPreview : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void onlyTheFirstWindowsDisplayIsShown();
     void windowsWithoutADisplayBelongTogether();
@@ -127,5 +126,5 @@ void TestLayoutPreview::theIconStandsInTheMiddleWhereThereIsRoom()
     QCOMPARE(picture(layout({window("known", whole)}), QSize(46, 22)).pixelColor(23, 11), QColor(Qt::red));
 }
 
-QTEST_MAIN(TestLayoutPreview)
+CORVANE_TEST(TestLayoutPreview, runInGui)
 #include "tst_layoutpreview.moc"

@@ -1,8 +1,8 @@
 #include "LayoutPreview.h"
 #include "PaneWindow.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -21,7 +21,6 @@ class TestLayoutsPane : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void cleanup() { m_pane.reset(); }
 
@@ -287,5 +286,5 @@ void TestLayoutsPane::nothingIsPosted()
     QVERIFY(m_pane->posts().isEmpty());
 }
 
-QTEST_MAIN(TestLayoutsPane)
+CORVANE_TEST(TestLayoutsPane, runInGui)
 #include "tst_layoutspane.moc"

@@ -1,10 +1,10 @@
 #include "SettingsPages.h"
 #include "SidebarModel.h"
+#include "TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 class TestPageSearch : public QObject {
     Q_OBJECT
@@ -101,5 +101,5 @@ void TestPageSearch::anEmptyListKeepsTheSelection()
     QCOMPARE(model.neighbour("general", 1), "general");
 }
 
-QTEST_GUILESS_MAIN(TestPageSearch)
+CORVANE_TEST(TestPageSearch, runInCore)
 #include "tst_pagesearch.moc"

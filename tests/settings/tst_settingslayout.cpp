@@ -1,5 +1,6 @@
 #include "EBKit.h"
 #include "SettingsWindow.h"
+#include "TestProgram.h"
 
 #include <QFont>
 #include <QRegularExpression>
@@ -17,7 +18,6 @@ class TestSettingsLayout : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     // The platform without a display takes no size hints, and says so each time.
     void init() { QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support propagateSizeHints)")); }
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
@@ -280,5 +280,5 @@ void TestSettingsLayout::fromRightToLeftTheHeadingBeginsBesideTheSidebar()
     QCOMPARE(content.right(), leading);
 }
 
-QTEST_MAIN(TestSettingsLayout)
+CORVANE_TEST(TestSettingsLayout, runInGui)
 #include "tst_settingslayout.moc"

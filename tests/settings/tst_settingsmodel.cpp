@@ -1,8 +1,8 @@
 #include "SettingsModel.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -64,5 +64,5 @@ void TestSettingsModel::theShownPageFollowsTheSelection()
     QCOMPARE(model.content(), pages.at(1).content);
 }
 
-QTEST_GUILESS_MAIN(TestSettingsModel)
+CORVANE_TEST(TestSettingsModel, runInCore)
 #include "tst_settingsmodel.moc"

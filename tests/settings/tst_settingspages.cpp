@@ -1,8 +1,8 @@
 #include "SettingsPages.h"
+#include "TestProgram.h"
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -79,5 +79,5 @@ void TestSettingsPages::everyPageHasAViewOfItsOwn()
     }
 }
 
-QTEST_GUILESS_MAIN(TestSettingsPages)
+CORVANE_TEST(TestSettingsPages, runInCore)
 #include "tst_settingspages.moc"

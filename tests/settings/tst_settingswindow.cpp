@@ -2,13 +2,13 @@
 #include "FakePlatform.h"
 #include "SettingsModel.h"
 #include "SettingsPages.h"
+#include "TestProgram.h"
 #include "ViewEngine.h"
 
 #include <QQuickItem>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -16,7 +16,6 @@ class TestSettingsWindow : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup();
 
@@ -229,5 +228,5 @@ void TestSettingsWindow::theViewFillsTheWindow()
     QTRY_COMPARE(view->size(), QSizeF(620, 555));
 }
 
-QTEST_MAIN(TestSettingsWindow)
+CORVANE_TEST(TestSettingsWindow, runInGui)
 #include "tst_settingswindow.moc"

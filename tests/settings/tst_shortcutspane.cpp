@@ -1,7 +1,7 @@
 #include "PaneWindow.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <memory>
 
@@ -34,7 +34,6 @@ class TestShortcutsPane : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup() { m_pane.reset(); }
 
@@ -131,5 +130,5 @@ void TestShortcutsPane::theNoteStandsBelow()
     QVERIFY(note->mapToScene(QPointF()).y() > last->mapToScene(QPointF()).y());
 }
 
-QTEST_MAIN(TestShortcutsPane)
+CORVANE_TEST(TestShortcutsPane, runInGui)
 #include "tst_shortcutspane.moc"

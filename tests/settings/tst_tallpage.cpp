@@ -1,4 +1,5 @@
 #include "SettingsWindow.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
 #include <QScreen>
@@ -49,7 +50,6 @@ class TestTallPage : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     // The platform without a display takes no size hints, and says so each time.
     void init() { QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support propagateSizeHints)")); }
 
@@ -178,5 +178,5 @@ void TestTallPage::aPageThatFitsDoesNotScroll()
     QCOMPARE(SettingsWindow::frame(settings.heading("General")), before);
 }
 
-QTEST_MAIN(TestTallPage)
+CORVANE_TEST(TestTallPage, runInGui)
 #include "tst_tallpage.moc"

@@ -1,12 +1,12 @@
 #include "AppStorage.h"
 #include "FakePlatform.h"
 #include "Shared.h"
+#include "TestProgram.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <limits>
 #include <memory>
@@ -497,5 +497,5 @@ void TestAppStorage::inQmlTheNamesOfTheKeysAreThoseOfTheTable()
                           QStringLiteral("layouts.launchApps")}));
 }
 
-QTEST_GUILESS_MAIN(TestAppStorage)
+CORVANE_TEST(TestAppStorage, runInCore)
 #include "tst_appstorage.moc"

@@ -1,8 +1,8 @@
 #include "Shared.h"
+#include "TestProgram.h"
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
 
@@ -224,5 +224,5 @@ void TestContract::theIdentifiersSpellTheNames()
     QCOMPARE(Shared::Command::checkForUpdates, "checkForUpdates");
 }
 
-QTEST_APPLESS_MAIN(TestContract)
+CORVANE_TEST(TestContract, runBare)
 #include "tst_contract.moc"

@@ -1,8 +1,8 @@
 #include "Hotkey.h"
 #include "Shared.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <limits>
 
@@ -192,5 +192,5 @@ void TestHotkey::theKeyNameCarriesTheCaseName()
     QTEST(Shared::Key::hotkeyDisabled(hotkey), "key");
 }
 
-QTEST_APPLESS_MAIN(TestHotkey)
+CORVANE_TEST(TestHotkey, runBare)
 #include "tst_hotkey.moc"

@@ -1,8 +1,8 @@
 #include "FakePlatform.h"
 #include "Shared.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 class TestShared : public QObject {
     Q_OBJECT
@@ -161,5 +161,5 @@ void TestShared::aStoredValueIsThereWhenTheCommandArrives()
     QCOMPARE(seen, QVariant(QStringLiteral("soft")));
 }
 
-QTEST_GUILESS_MAIN(TestShared)
+CORVANE_TEST(TestShared, runInCore)
 #include "tst_shared.moc"

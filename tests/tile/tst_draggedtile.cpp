@@ -4,6 +4,7 @@
 #include "Program.h"
 #include "Screen.h"
 #include "Store.h"
+#include "OnDesktop.h"
 #include "TopLevel.h"
 #include "XReply.h"
 
@@ -13,7 +14,6 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <filesystem>
 #include <xcb/xcb_icccm.h>
@@ -54,7 +54,7 @@ private slots:
 
 private:
     void openSystemSettings(const QStringList &flags = {});
-    void startHost(const QString &executable = QStringLiteral(TILE_HOST_PROGRAM));
+    void startHost(const QString &executable = QStringLiteral(PROGRAM_TILE_HOST));
     std::optional<TopLevel> settings() const;
     std::optional<TopLevel> tile() const;
     bool tileIsAt(QPoint place) const;
@@ -91,7 +91,7 @@ void DraggedTileTest::cleanup()
 
 void DraggedTileTest::openSystemSettings(const QStringList &flags)
 {
-    m_agent = std::make_unique<Program>(QStringLiteral(CORVANE_AGENT_PROGRAM), m_desktop.environment());
+    m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), m_desktop.environment());
     QVERIFY(m_agent->start(flags));
     // It hears commands from the moment on at which it has reported its state.
     QTRY_VERIFY_WITH_TIMEOUT(m_store.read("agent.launchAtLoginNeedsApproval").isValid(), startTime);
@@ -260,7 +260,7 @@ void DraggedTileTest::theTileGoesWithSystemSettings()
 
 void DraggedTileTest::whileSystemSettingsIsAwayTheTileIsToo()
 {
-    m_host = std::make_unique<Program>(QStringLiteral(TILE_HOST_PROGRAM), m_desktop.environment());
+    m_host = std::make_unique<Program>(QStringLiteral(PROGRAM_TILE_HOST), m_desktop.environment());
     QVERIFY(m_host->start());
     // The one second in which the host starts to look is far from the twelve it waits.
     openSystemSettings();
@@ -335,11 +335,11 @@ void DraggedTileTest::theListRefusesAnotherApplication()
 {
     namespace files = std::filesystem;
     QFETCH(QString, place);
-    const QTemporaryDir elsewhere(QFileInfo(QStringLiteral(TILE_HOST_PROGRAM)).path() + "/../../../../../../t-XXXXXX");
+    const QTemporaryDir elsewhere(QFileInfo(QStringLiteral(PROGRAM_TILE_HOST)).path() + "/../../../../../../t-XXXXXX");
     QVERIFY(QDir().mkpath(elsewhere.path() + place));
     const QString executable = elsewhere.path() + place + "/tile-host";
     std::error_code error;
-    files::create_hard_link(files::path(TILE_HOST_PROGRAM), files::path(executable.toStdString()), error);
+    files::create_hard_link(files::path(PROGRAM_TILE_HOST), files::path(executable.toStdString()), error);
     QVERIFY2(!error, error.message().c_str());
     openSystemSettings();
     startHost(executable);
@@ -352,14 +352,6 @@ void DraggedTileTest::theListRefusesAnotherApplication()
     QVERIFY(!m_store.read(trusted).isValid());
 }
 
-int main(int argc, char **argv)
-{
-    const Desktop desktop;
-    if (!desktop.isValid())
-        return 1;
-    const QCoreApplication application(argc, argv);
-    DraggedTileTest test(desktop);
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST(DraggedTileTest, runBesideDesktop)
 
 #include "tst_draggedtile.moc"

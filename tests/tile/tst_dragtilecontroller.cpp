@@ -3,13 +3,13 @@
 #include "DragTileView.h"
 #include "FakePlatform.h"
 #include "GuideVisibility.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 
@@ -75,7 +75,6 @@ private:
 
 void DragTileControllerTest::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QCOMPARE(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 800, 800));
     QCOMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(0, 0, 800, 800));
 }
@@ -442,6 +441,6 @@ void DragTileControllerTest::aControllerThatIsGoneIsNotTicked()
     QCOMPARE(m_platform->queue.waiting(), 0);
 }
 
-QTEST_MAIN(DragTileControllerTest)
+CORVANE_TEST(DragTileControllerTest, runInGui)
 
 #include "tst_dragtilecontroller.moc"

@@ -4,6 +4,7 @@
 #include "Glyph.h"
 #include "IconImage.h"
 #include "OnDesktop.h"
+#include "TestProgram.h"
 
 #include <QAccessible>
 #include <QDrag>
@@ -12,7 +13,6 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -55,7 +55,6 @@ public:
     explicit DragTileViewTest(const Desktop &) { }
 
 private slots:
-    void initTestCase() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
     void init();
     void cleanup() { m_panel.reset(); }
 
@@ -406,9 +405,6 @@ void DragTileViewTest::aPictureFillsItsSquareWhateverSizeTheIconHas()
     QCOMPARE(IconImage::picture(QIcon(), 56, 1).toImage().pixelColor(28, 28).alpha(), 0);
 }
 
-int main(int argc, char **argv)
-{
-    return runOnDesktop<DragTileViewTest>(argc, argv);
-}
+CORVANE_TEST(DragTileViewTest, runOnDesktop)
 
 #include "tst_dragtileview.moc"

@@ -1,6 +1,5 @@
 #include "SettingsWindow.h"
-
-#include <QTest>
+#include "TestProgram.h"
 
 namespace {
 
@@ -67,6 +66,6 @@ void FindSettingsTest::theFrontmostWindowOfSystemSettingsIsTheOne()
     QCOMPARE(SettingsWindow::frame(windows), frame);
 }
 
-QTEST_APPLESS_MAIN(FindSettingsTest)
+CORVANE_TEST(FindSettingsTest, runBare)
 
 #include "tst_findsettings.moc"

@@ -1,6 +1,5 @@
+#include "TestProgram.h"
 #include "TilePlacement.h"
-
-#include <QTest>
 
 using TilePlacement::Screen;
 
@@ -104,6 +103,6 @@ void TilePlacementTest::flippingTurnsTopDownIntoBottomUpAndBack()
     QCOMPARE(TilePlacement::flipped(up, height), down);
 }
 
-QTEST_APPLESS_MAIN(TilePlacementTest)
+CORVANE_TEST(TilePlacementTest, runBare)
 
 #include "tst_tileplacement.moc"

@@ -1,12 +1,12 @@
 #include "DragTileController.h"
 #include "DragTilePanel.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTemporaryFile>
-#include <QTest>
 
 namespace {
 
@@ -39,7 +39,6 @@ private:
 
 void TileScreensTest::initTestCase()
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QList<QScreen *> screens = QGuiApplication::screens();
     QCOMPARE(screens.size(), 2);
     QCOMPARE(screens.at(0)->availableGeometry(), first);
@@ -98,7 +97,7 @@ void TileScreensTest::forAWindowOnNoScreenThatWithTheKeyboardDecides()
     QCOMPARE(tileBeside({5000, 500}), QPoint(5085, 812));
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     QTemporaryFile screens;
     if (!screens.open())
@@ -113,5 +112,7 @@ int main(int argc, char **argv)
     TileScreensTest test;
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_tilescreens.moc"

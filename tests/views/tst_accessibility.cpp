@@ -1,6 +1,7 @@
 #include "Accessibility.h"
 #include "Desktop.h"
 #include "FakePlatform.h"
+#include "OnDesktop.h"
 
 #include <QAccessible>
 #include <QDBusConnectionInterface>
@@ -10,11 +11,10 @@
 #include <QQuickWindow>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef CORVANE_SANITIZED
 // A check box of Qt made while an assistive technology listens loses the first of its attached data.
 extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions();
 extern "C" Q_DECL_EXPORT const char *__lsan_default_suppressions()
@@ -43,7 +43,6 @@ class AccessibilityTest : public QObject {
 private slots:
     void initTestCase()
     {
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
         installKitAccessibility();
         installKitAccessibility();
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 20000);
@@ -437,19 +436,6 @@ private:
 
 // Much of what Qt tells an assistive technology it only tells while there is one: the test runs on a desktop with a
 // real accessibility bus.
-int main(int argc, char **argv)
-{
-    Desktop desktop;
-    if (!desktop.isValid())
-        return 1;
-    const QProcessEnvironment environment = desktop.environment();
-    for (const QString &name : environment.keys())
-        qputenv(qPrintable(name), environment.value(name).toLocal8Bit());
-    const QGuiApplication application(argc, argv);
-    // Qt waits for this service, but does not start it.
-    QDBusConnection::sessionBus().interface()->startService(QStringLiteral("org.a11y.Bus"));
-    AccessibilityTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST(AccessibilityTest, runOnAccessibleDesktop)
 
 #include "tst_accessibility.moc"

@@ -3,13 +3,13 @@
 #include "Desktop.h"
 #include "FakePlatform.h"
 #include "Program.h"
+#include "TestProgram.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -45,7 +45,6 @@ constexpr auto content = R"(
 
 int runWindow(int argc, char **argv)
 {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     const QGuiApplication application(argc, argv);
     FakePlatform::install();
     installKitAccessibility();
@@ -89,7 +88,7 @@ private:
 
 void AccessibleActionsTest::initTestCase()
 {
-    QVERIFY(m_program.start({u"--window"_s}));
+    QVERIFY(m_program.start({u"tst_accessibleactions"_s, u"--window"_s}));
     const auto find = [this] {
         m_item = Accessible::application(m_program.processId()).find(ATSPI_ROLE_PANEL, u"Browser window"_s);
         return !m_item.isNull();
@@ -127,7 +126,7 @@ void AccessibleActionsTest::cleanupTestCase()
     QCOMPARE(m_program.complaints(), QStringList());
 }
 
-int main(int argc, char **argv)
+static int run(int argc, char **argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--window") == 0)
         return runWindow(argc, argv);
@@ -138,5 +137,7 @@ int main(int argc, char **argv)
     AccessibleActionsTest test(desktop);
     return QTest::qExec(&test, argc, argv);
 }
+
+CORVANE_TEST_MAIN(run)
 
 #include "tst_accessibleactions.moc"

@@ -1,9 +1,9 @@
 #include "CrispItem.h"
+#include "TestProgram.h"
 
 #include <QPainter>
 #include <QQuickWindow>
 #include <QRegularExpression>
-#include <QTest>
 
 /// Stripes one device pixel wide, black on the even ones: any stretching or smoothing turns some of them grey.
 class Stripes : public CrispItem {
@@ -53,7 +53,7 @@ private slots:
         m_item->setSize(geometry.size());
         const QImage image = m_window->grabWindow();
         const qreal scale = m_window->effectiveDevicePixelRatio();
-        QCOMPARE(scale, QByteArray(SCALE).toDouble());
+        QCOMPARE(scale, qEnvironmentVariable("QT_SCALE_FACTOR").toDouble());
         const int y = int(geometry.center().y() * scale);
         int black = 0;
         int white = 0;
@@ -101,13 +101,6 @@ private:
 };
 
 // Once for each scale, which holds for a whole process.
-int main(int argc, char **argv)
-{
-    qputenv("QT_SCALE_FACTOR", SCALE);
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    const QGuiApplication application(argc, argv);
-    CrispItemTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+CORVANE_TEST(CrispItemTest, runInGui)
 
 #include "tst_crispitem.moc"

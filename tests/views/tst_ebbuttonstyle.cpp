@@ -1,8 +1,8 @@
 #include "EBButtonStyle.h"
 #include "FakePlatform.h"
+#include "TestProgram.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 using Variant = EBButtonStyle::Variant;
 using Size = EBButtonStyle::Size;
@@ -135,6 +135,6 @@ private:
     FakePlatform *m_platform = nullptr;
 };
 
-QTEST_MAIN(EBButtonStyleTest)
+CORVANE_TEST(EBButtonStyleTest, runInGui)
 
 #include "tst_ebbuttonstyle.moc"

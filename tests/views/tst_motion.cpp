@@ -1,9 +1,9 @@
 #include "FakePlatform.h"
 #include "Motion.h"
+#include "TestProgram.h"
 
 #include <QPointF>
 #include <QRegularExpression>
-#include <QTest>
 
 #include <cmath>
 #include <numbers>
@@ -126,6 +126,6 @@ private:
     FakePlatform *m_platform = nullptr;
 };
 
-QTEST_GUILESS_MAIN(MotionTest)
+CORVANE_TEST(MotionTest, runInCore)
 
 #include "tst_motion.moc"

@@ -1,4 +1,5 @@
 #include "EndToEndTest.h"
+#include "TestProgram.h"
 
 #include <X11/keysym.h>
 
@@ -303,5 +304,5 @@ void TestKeyboard::arrowsChooseAmongThePages()
     QCOMPARE(selected(), QStringList(pages.constFirst()));
 }
 
-QTEST_GUILESS_MAIN(TestKeyboard)
-#include "tst_keyboard.moc"
+CORVANE_TEST(TestKeyboard, runInCore)
+#include "e2e_keyboard.moc"

@@ -1,4 +1,5 @@
 #include "EndToEndTest.h"
+#include "TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -157,5 +158,5 @@ void TestSettings::rowsThatDependOnSnappingAreDisabled()
     QVERIFY(becomes(shelf, ATSPI_STATE_ENABLED));
 }
 
-QTEST_GUILESS_MAIN(TestSettings)
-#include "tst_settings.moc"
+CORVANE_TEST(TestSettings, runInCore)
+#include "e2e_settings.moc"

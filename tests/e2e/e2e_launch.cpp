@@ -3,6 +3,7 @@
 #include "EndToEndTest.h"
 #include "RootListener.h"
 #include "Service.h"
+#include "TestProgram.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -374,5 +375,5 @@ void TestLaunch::startsWithoutItsInfoDictionary()
     QVERIFY(application().findAll(namesAVersion).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestLaunch)
-#include "tst_launch.moc"
+CORVANE_TEST(TestLaunch, runInCore)
+#include "e2e_launch.moc"

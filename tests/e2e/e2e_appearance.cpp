@@ -1,5 +1,6 @@
 #include "EndToEndTest.h"
 #include "SettingsPortal.h"
+#include "TestProgram.h"
 
 #include <QDeadlineTimer>
 #include <QSet>
@@ -231,5 +232,5 @@ void TestAppearance::theWindowShrinksAtOnceWithReducedMotion()
     QCOMPARE(window()->geometry().topLeft(), corner);
 }
 
-QTEST_GUILESS_MAIN(TestAppearance)
-#include "tst_appearance.moc"
+CORVANE_TEST(TestAppearance, runInCore)
+#include "e2e_appearance.moc"

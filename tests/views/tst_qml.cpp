@@ -1,24 +1,21 @@
 #include "EBKitFonts.h"
 #include "TestDesktop.h"
+#include "TestProgram.h"
 
 #include <QQmlEngine>
-#include <QQuickWindow>
 #include <QtQuickTest>
 
 /// Prepares what every view needs: a desktop, the kit's faces and the renderer that the application runs with.
 class Setup : public QObject {
     Q_OBJECT
-public:
-    Setup() { QQuickWindow::setGraphicsApi(QSGRendererInterface::Software); }
-
 public slots:
     void applicationAvailable()
     {
         m_desktop = std::make_unique<TestDesktop>();
         for (const char *face : {"InstrumentSans-SemiBold.ttf", "GeistMono-Medium.ttf"}) {
             const QString name = QString::fromLatin1(face);
-            m_desktop->platform().main.resources.insert(name,
-                                                        QUrl::fromLocalFile(QStringLiteral(FONTS_DIR "/") + name));
+            m_desktop->platform().main.resources.insert(
+                name, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + name));
         }
         EBKitFonts::registerFonts();
         qmlRegisterSingletonInstance("Embera.Testing", 1, 0, "Desktop", m_desktop.get());
@@ -29,6 +26,13 @@ private:
     std::unique_ptr<TestDesktop> m_desktop;
 };
 
-QUICK_TEST_MAIN_WITH_SETUP(views, Setup)
+/// The tests written in QML, in the folder that "-input" names.
+static int run(int argc, char **argv)
+{
+    Setup setup;
+    return quick_test_main_with_setup(argc, argv, "qml", "", &setup);
+}
 
-#include "tst_views.moc"
+CORVANE_TEST_MAIN(run)
+
+#include "tst_qml.moc"

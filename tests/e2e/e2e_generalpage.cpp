@@ -1,6 +1,7 @@
 #include "EndToEndTest.h"
 #include "Processes.h"
 #include "Service.h"
+#include "TestProgram.h"
 
 #include <X11/keysym.h>
 
@@ -362,5 +363,5 @@ void TestGeneralPage::showGuideStartsTheGuideAnewAndEndsThisProcess()
     QVERIFY(store().waitFor(u"onboardingCompleted"_s, true));
 }
 
-QTEST_GUILESS_MAIN(TestGeneralPage)
-#include "tst_generalpage.moc"
+CORVANE_TEST(TestGeneralPage, runInCore)
+#include "e2e_generalpage.moc"

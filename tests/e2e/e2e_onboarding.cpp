@@ -1,5 +1,6 @@
 #include "EndToEndTest.h"
 #include "Processes.h"
+#include "TestProgram.h"
 
 #include <X11/keysym.h>
 
@@ -66,7 +67,7 @@ private slots:
 bool TestOnboarding::startAgent(const QStringList &arguments)
 {
     QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/com.vexmoor.corvane.desktop"_s);
-    m_agent = std::make_unique<Program>(QStringLiteral(CORVANE_AGENT_PROGRAM), desktop().environment());
+    m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), desktop().environment());
     return m_agent->start(arguments) && store().waitFor(launchAtLogin, false, 20000);
 }
 
@@ -416,5 +417,5 @@ void TestOnboarding::everyStepIsWholeForAssistiveTechnologies()
     QTEST(buttons, "buttons");
 }
 
-QTEST_GUILESS_MAIN(TestOnboarding)
-#include "tst_onboarding.moc"
+CORVANE_TEST(TestOnboarding, runInCore)
+#include "e2e_onboarding.moc"

@@ -1,6 +1,7 @@
 #include "BundleCopy.h"
 #include "EndToEndTest.h"
 #include "RootListener.h"
+#include "TestProgram.h"
 
 #include <X11/keysym.h>
 
@@ -238,5 +239,5 @@ void TestRoles::theTabVariableOpensThatPage()
     QVERIFY(entry.has(ATSPI_STATE_SELECTED));
 }
 
-QTEST_GUILESS_MAIN(TestRoles)
-#include "tst_roles.moc"
+CORVANE_TEST(TestRoles, runInCore)
+#include "e2e_roles.moc"

@@ -1,4 +1,5 @@
 #include "EndToEndTest.h"
+#include "TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -158,5 +159,5 @@ void TestAccessibility::whatIsNotShownIsNotShowing()
     }
 }
 
-QTEST_GUILESS_MAIN(TestAccessibility)
-#include "tst_accessibility.moc"
+CORVANE_TEST(TestAccessibility, runInCore)
+#include "e2e_accessibility.moc"

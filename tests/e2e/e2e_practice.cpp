@@ -1,4 +1,5 @@
 #include "EndToEndTest.h"
+#include "TestProgram.h"
 
 #include <X11/keysym.h>
 
@@ -49,7 +50,7 @@ static const QStringList everyWindow = {u"Browser window, Start page"_s, u"Ideas
 bool TestPractice::openPractice()
 {
     pointer().move({0, 0});
-    return open({.arguments = {u"--show"_s, u"practice"_s}, .executable = QStringLiteral(GALLERY_PROGRAM)})
+    return open({.arguments = {u"--show"_s, u"practice"_s}, .executable = QStringLiteral(PROGRAM_CORVANE_GALLERY)})
         && QTest::qWaitFor([this] { return window()->hasInputFocus() && windows() == everyWindow; });
 }
 
@@ -302,5 +303,5 @@ void TestPractice::otherShortcutsOfTheWindowAreLeftAlone()
     QVERIFY(shows(u"Pressed over no window: 0"_s));
 }
 
-QTEST_GUILESS_MAIN(TestPractice)
-#include "tst_practice.moc"
+CORVANE_TEST(TestPractice, runInCore)
+#include "e2e_practice.moc"
