@@ -17,9 +17,20 @@ corvane_precompiled(pch_quick LINK Qt6::Quick
     HEADERS <QColor> <QFont> <QGuiApplication> <QObject> <QPainterPath> <QString> <QVariant> <optional> <span>
             <QQmlComponent> <QQmlEngine> <QQuickItem> <QQuickPaintedItem> <QQuickWindow>)
 
+# corvane_check_depends(name room …): the folders of src/ are read in the order of the house, so what is not there yet stands
+# below this room.
+function(corvane_check_depends name)
+    foreach(room IN LISTS ARGN)
+        if(NOT TARGET ${room})
+            message(FATAL_ERROR "The room ${name} depends on ${room}, which does not stand above it in src/CMakeLists.txt.")
+        endif()
+    endforeach()
+endfunction()
+
 # corvane_room(name SOURCES … DEPENDS … [LINK …]): a room of plain C++.
 function(corvane_room name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LINK" ${ARGN})
+    corvane_check_depends(${name} ${ARG_DEPENDS})
     add_library(${name} STATIC ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
@@ -39,6 +50,7 @@ endfunction()
 # corvane_view_room(name URI … [SOURCES …] [QML …] [SINGLETONS …] DEPENDS … [LINK …]): a room with a QML module.
 function(corvane_view_room name)
     cmake_parse_arguments(ARG "" "URI" "SOURCES;QML;SINGLETONS;DEPENDS;LINK" ${ARGN})
+    corvane_check_depends(${name} ${ARG_DEPENDS})
     set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     qt_add_library(${name} STATIC)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)

@@ -14,7 +14,7 @@ if(CORVANE_CCACHE)
         CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${CORVANE_CCACHE})
 endif()
 
-add_compile_options(-Wall -Wextra -Wpedantic -Werror -fpch-preprocess -pthread)
+add_compile_options(-Wall -Wextra -Wpedantic -fpch-preprocess -pthread)
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
 
 if(CORVANE_SANITIZE)

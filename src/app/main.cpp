@@ -1,6 +1,5 @@
-#include "FreedesktopPlatform.h"
-#include "HeadStart.h"
 #include "LaunchFlags.h"
+#include "NativePlatform.h"
 #include "SettingsAppDelegate.h"
 
 #include <QGuiApplication>
@@ -23,14 +22,14 @@ int main(int argc, char *argv[])
     LaunchFlags::setArguments(argc, argv);
     chooseRenderer();
     // The two take about as long, and neither needs the other.
-    const std::future<void> headStart = HeadStart::begin();
+    const std::future<void> warmUp = NativePlatform::warmUp();
     int ownName = 1;
     QGuiApplication application(ownName, argv);
-    headStart.wait();
+    warmUp.wait();
     // The name is also the window class on X11.
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));
-    Platform::install(makeFreedesktopPlatform());
+    Platform::install(NativePlatform::make());
 
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();

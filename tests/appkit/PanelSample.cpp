@@ -8,8 +8,8 @@
 #include "EBKitSectionLabel.h"
 #include "EBKitSeparator.h"
 #include "EBKitStatusPanel.h"
-#include "FreedesktopPlatform.h"
 #include "KitText.h"
+#include "NativePlatform.h"
 #include "Platform.h"
 
 #include <QApplication>
@@ -52,7 +52,7 @@ QList<EBKitView *> views()
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    Platform::install(makeFreedesktopPlatform());
+    Platform::install(NativePlatform::make());
     QWidget bar;
     bar.setWindowTitle(u"Bar"_s);
     bar.setGeometry(200, 0, 600, 40);

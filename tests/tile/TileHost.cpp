@@ -1,6 +1,6 @@
 #include "DragTileController.h"
-#include "FreedesktopPlatform.h"
 #include "GuideVisibility.h"
+#include "NativePlatform.h"
 #include "Platform.h"
 
 #include <QGuiApplication>
@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    Platform::install(makeFreedesktopPlatform());
+    Platform::install(NativePlatform::make());
 
     DragTileController tile;
     GuideVisibility::observe(&tile, [](bool visible) {

@@ -1,11 +1,9 @@
 #include "Agent.h"
-#include "FreedesktopPlatform.h"
-#include "Platform.h"
+#include "NativePlatform.h"
 #include "Shared.h"
 #include "SystemSettings.h"
 
 #include <QCommandLineParser>
-#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QTimer>
@@ -72,12 +70,13 @@ int main(int argc, char *argv[])
     }
 
     // One agent a session: a second one would do everything twice.
-    QDBusConnection session = QDBusConnection::sessionBus();
-    if (session.isConnected() && !session.registerService(Shared::suiteName))
+    if (!NativePlatform::claimName(Shared::suiteName))
         return 0;
-    Platform::install(makeFreedesktopPlatform());
-    LoginItem loginItem(QGuiApplication::applicationFilePath(), parser.isSet(QStringLiteral("needs-approval")));
-    Agent agent(loginItem);
+    Platform::install(NativePlatform::make());
+    const auto loginItem = NativePlatform::makeLoginItem(
+        {Shared::suiteName, QStringLiteral("Corvane"), QGuiApplication::applicationFilePath()},
+        parser.isSet(QStringLiteral("needs-approval")));
+    Agent agent(*loginItem);
     AccessibilityList list(parser.isSet(QStringLiteral("listed")));
     SystemSettings settings(list);
     if (!headless)

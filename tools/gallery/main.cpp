@@ -4,10 +4,10 @@
 #include "EBKitFonts.h"
 #include "EBWindow.h"
 #include "FakePlatform.h"
-#include "FreedesktopPlatform.h"
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryPlatform.h"
+#include "NativePlatform.h"
 #include "PictureFile.h"
 #include "PictureScreen.h"
 #include "Scene.h"
@@ -94,7 +94,7 @@ int show(int argc, char *argv[], const GalleryOptions &options)
 {
     chooseScale(options.scale);
     QApplication application(argc, argv);
-    Platform::install(makeFreedesktopPlatform());
+    Platform::install(NativePlatform::make());
     EBKitFonts::registerFonts();
     installKitAccessibility();
     if (isMissing(options.font))

@@ -2,10 +2,18 @@
 
 #include <QString>
 
-/// The files by which a desktop knows its applications.
+#include <optional>
+
+/// The files by which a desktop knows its applications. A file that is missing or damaged holds nothing.
 namespace DesktopEntry {
 
-/// The value of `key` in the entry's own group, as it is written; empty when the file or the key is missing.
-QString value(const QString &path, const QString &key);
+/// The text of `key` in the entry's own group, in the person's language; empty when there is none.
+QString text(const QString &path, const char *key);
+
+/// The Boolean of `key` in the entry's own group; none when there is none, or something else.
+std::optional<bool> boolean(const QString &path, const char *key);
+
+/// Writes the entry of an application, whose file is `executable`. A hidden one is left alone by the desktop.
+void write(const QString &path, const QString &name, const QString &executable, bool isHidden);
 
 }

@@ -57,8 +57,7 @@ QString iconName(const QString &application)
     if (application.isEmpty() || application.contains(u'/'))
         return {};
     const QString entry = application + QStringLiteral(".desktop");
-    return DesktopEntry::value(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry),
-                               QStringLiteral("Icon"));
+    return DesktopEntry::text(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry), "Icon");
 }
 
 /// A null icon where the file is missing or no picture.

@@ -1,6 +1,7 @@
 #include "SystemSettingsApps.h"
 
 #include <QByteArray>
+#include <QList>
 
 #include <algorithm>
 #include <iterator>

@@ -193,7 +193,8 @@ bool LayoutReader::key(const std::string &text)
     if (m_ignoredDepth > 0)
         return true;
     const auto keys = keysOf(m_place);
-    const auto key = std::ranges::find(keys, std::string_view(text), &Key::text);
+    const auto key =
+        std::find_if(keys.begin(), keys.end(), [&text](const Key &candidate) { return candidate.text == text; });
     const bool isNew = key != keys.end() && (m_seen & only(key->field)) == 0;
     m_field = isNew ? key->field : Field::ignored;
     m_seen |= only(m_field);

@@ -47,7 +47,8 @@ QList<SavedLayout> LayoutStore::remove(const QUuid &id, UserDefaults &store)
 QList<SavedLayout> LayoutStore::rename(const QUuid &id, const QString &name, UserDefaults &store)
 {
     QList<SavedLayout> layouts = load(store);
-    const auto layout = std::ranges::find(layouts, id, &SavedLayout::id);
+    const auto layout = std::find_if(layouts.begin(), layouts.end(),
+                                     [&id](const SavedLayout &candidate) { return candidate.id == id; });
     if (layout == layouts.end())
         return layouts;
     layout->name = name;

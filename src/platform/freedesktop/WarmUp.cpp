@@ -1,4 +1,4 @@
-#include "HeadStart.h"
+#include "WarmUp.h"
 
 #include <QLibrary>
 
@@ -6,7 +6,7 @@
 
 // The engine would find the libraries by itself, but only when it meets the imports, one after the other. One that
 // is missing here is still looked for there.
-std::future<void> HeadStart::begin()
+std::future<void> WarmUp::begin()
 {
     return std::async(std::launch::async, [] {
         FcInit();

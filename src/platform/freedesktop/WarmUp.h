@@ -3,7 +3,7 @@
 #include <future>
 
 /// What a start can get done while the program still connects to the display.
-namespace HeadStart {
+namespace WarmUp {
 
 /// Reads the desktop's font configuration and loads the libraries behind the modules that every view imports, on
 /// a thread of its own. Nothing may ask for a font before the result is there.

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "LoginItem.h"
+#include "Platform.h"
+
+#include <future>
+#include <memory>
+
+/// The system this is built for. Its folder implements these functions, and only a program's entry calls them.
+namespace NativePlatform {
+
+/// The services. Each is made when it is first asked for, so making them costs nothing. The application object must
+/// exist before any service but the bundles is asked for.
+std::unique_ptr<Platform> make();
+
+/// Does what a start can get done while the program still connects to the display, on a thread of its own. Nothing may
+/// ask for a font before the result is there.
+[[nodiscard]] std::future<void> warmUp();
+
+/// Whether this process is the first of the person's session to claim that dotted name, which it then holds until it
+/// ends. Without a session every process is.
+bool claimName(const QString &name);
+
+/// The program's entry among those started at login. With `needsApproval` a new one waits for the person's approval.
+std::unique_ptr<LoginItem> makeLoginItem(const LoginItem::Program &program, bool needsApproval);
+
+}

@@ -1,0 +1,27 @@
+#include "NativePlatform.h"
+
+#include "AutostartLoginItem.h"
+#include "FreedesktopPlatform.h"
+#include "SessionBus.h"
+#include "WarmUp.h"
+
+std::unique_ptr<Platform> NativePlatform::make()
+{
+    return makeFreedesktopPlatform();
+}
+
+std::future<void> NativePlatform::warmUp()
+{
+    return WarmUp::begin();
+}
+
+bool NativePlatform::claimName(const QString &name)
+{
+    auto bus = SessionBus::connection();
+    return !bus || bus->registerService(name);
+}
+
+std::unique_ptr<LoginItem> NativePlatform::makeLoginItem(const LoginItem::Program &program, bool needsApproval)
+{
+    return std::make_unique<AutostartLoginItem>(program, needsApproval);
+}
