@@ -9,7 +9,6 @@
 namespace {
 
 constexpr QSize guideSize(560, 388); // points
-constexpr std::int64_t escapeKey = 53;
 
 }
 
@@ -25,7 +24,7 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
     m_window.host(ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
                                    {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}}));
     m_keyMonitor = Platform::current().monitorKeyDown([this](const KeyDown &key) {
-        const bool isEscape = key.keyCode == escapeKey;
+        const bool isEscape = key.keyCode == KeyCodes::escape;
         if (isEscape)
             finish();
         return isEscape;

@@ -13,10 +13,25 @@ inline constexpr std::uint64_t commandFlag = 0x100000;
 
 }
 
+/// The virtual key codes that somebody here asks for: places on the ANSI keyboard, called after the keys that stand there.
+namespace KeyCodes {
+
+inline constexpr std::int64_t f = 3;
+inline constexpr std::int64_t h = 4;
+inline constexpr std::int64_t q = 12;
+inline constexpr std::int64_t w = 13;
+inline constexpr std::int64_t m = 46;
+inline constexpr std::int64_t escape = 53;
+
+/// Every other key.
+inline constexpr std::int64_t none = -1;
+
+}
+
 /// A key going down, or repeating while it is held.
 struct KeyDown {
-    /// The virtual key code: a position on the ANSI keyboard, not a character. -1 where the key's position has none.
-    std::int64_t keyCode = -1;
+    /// One of KeyCodes: the key's position, not its character.
+    std::int64_t keyCode = KeyCodes::none;
 
     /// The modifiers that are held, as bits of KeyFlags.
     std::uint64_t flags = 0;

@@ -14,13 +14,13 @@ constexpr auto command = Hotkeys::commandFlag;
 constexpr auto optionCommand = Hotkeys::optionFlag | Hotkeys::commandFlag;
 
 constexpr std::array combinations = {
-    Combination{Hotkey::close, "close", 13, command, u"⌘W"},
-    Combination{Hotkey::closeAll, "closeAll", 13, optionCommand, u"⌥⌘W"},
-    Combination{Hotkey::minimize, "minimize", 46, command, u"⌘M"},
-    Combination{Hotkey::maximize, "maximize", 3, command, u"⌘F"},
-    Combination{Hotkey::hide, "hide", 4, command, u"⌘H"},
-    Combination{Hotkey::hideOthers, "hideOthers", 4, optionCommand, u"⌥⌘H"},
-    Combination{Hotkey::kill, "kill", 12, command, u"⌘Q"},
+    Combination{Hotkey::close, "close", KeyCodes::w, command, u"⌘W"},
+    Combination{Hotkey::closeAll, "closeAll", KeyCodes::w, optionCommand, u"⌥⌘W"},
+    Combination{Hotkey::minimize, "minimize", KeyCodes::m, command, u"⌘M"},
+    Combination{Hotkey::maximize, "maximize", KeyCodes::f, command, u"⌘F"},
+    Combination{Hotkey::hide, "hide", KeyCodes::h, command, u"⌘H"},
+    Combination{Hotkey::hideOthers, "hideOthers", KeyCodes::h, optionCommand, u"⌥⌘H"},
+    Combination{Hotkey::kill, "kill", KeyCodes::q, command, u"⌘Q"},
 };
 static_assert(combinations.size() == Hotkeys::allCases.size());
 

@@ -19,25 +19,19 @@ xcb_get_property_cookie_t X11::askProperty(xcb_connection_t *connection, xcb_win
     return xcb_get_property(connection, false, window, name, XCB_ATOM_ANY, 0, longest);
 }
 
-X11::Reply<xcb_get_property_reply_t> X11::property(xcb_connection_t *connection, xcb_get_property_cookie_t request)
+QByteArray X11::bytes(xcb_connection_t *connection, xcb_get_property_cookie_t request)
 {
-    Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, request, nullptr));
-    if (reply && reply->type == XCB_ATOM_NONE)
-        reply.reset();
-    return reply;
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, request, nullptr));
+    if (!reply || reply->format != 8)
+        return {};
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())), xcb_get_property_value_length(reply.get())};
 }
 
-QByteArray X11::bytes(const xcb_get_property_reply_t *property)
+QList<quint32> X11::numbers(xcb_connection_t *connection, xcb_get_property_cookie_t request)
 {
-    if (!property || property->format != 8)
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, request, nullptr));
+    if (!reply || reply->format != 32)
         return {};
-    return {static_cast<const char *>(xcb_get_property_value(property)), xcb_get_property_value_length(property)};
-}
-
-QList<quint32> X11::numbers(const xcb_get_property_reply_t *property)
-{
-    if (!property || property->format != 32)
-        return {};
-    const auto *first = static_cast<const quint32 *>(xcb_get_property_value(property));
-    return {first, first + property->value_len};
+    const auto *first = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return {first, first + reply->value_len};
 }

@@ -17,6 +17,9 @@ struct ReplyDeleter {
 /// An answer of the server; null when the request failed, because its window is gone for instance.
 template <typename Answer> using Reply = std::unique_ptr<Answer, ReplyDeleter>;
 
+/// The number of a desktop that stands for all of them.
+inline constexpr quint32 everyDesktop = 0xFFFFFFFF;
+
 /// Null where the application runs on something else.
 xcb_connection_t *connection();
 
@@ -26,11 +29,9 @@ xcb_window_t root(xcb_connection_t *connection);
 /// Asks for at most 4096 numbers, or four times as many letters, of a property.
 xcb_get_property_cookie_t askProperty(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t name);
 
-/// The answer to `askProperty`, which waits for it; null when there is no such property.
-Reply<xcb_get_property_reply_t> property(xcb_connection_t *connection, xcb_get_property_cookie_t request);
-
-/// What the property holds, as bytes, or as numbers of 32 bits; empty when there is none, or one of another kind.
-QByteArray bytes(const xcb_get_property_reply_t *property);
-QList<quint32> numbers(const xcb_get_property_reply_t *property);
+/// The answer to `askProperty`, as bytes, or as numbers of 32 bits; empty when there is no such property, or one of
+/// another kind.
+QByteArray bytes(xcb_connection_t *connection, xcb_get_property_cookie_t request);
+QList<quint32> numbers(xcb_connection_t *connection, xcb_get_property_cookie_t request);
 
 }

@@ -1,7 +1,8 @@
 #include "X11WindowList.h"
 
 #include "SystemSettingsApps.h"
-#include "X11WindowAtoms.h"
+#include "X11Connection.h"
+#include "X11Names.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -10,25 +11,24 @@
 
 namespace {
 
-constexpr quint32 everyDesktop = 0xFFFFFFFF;
 constexpr quint32 iconic = 3;
 /// Of all that is no window to work in: nobody here asks for more.
 constexpr int otherLayer = 1;
 
 /// Everything asked of one window. The questions go out together, so that all windows cost one round trip.
 struct Questions {
-    Questions(xcb_connection_t *x, const X11WindowAtoms &atoms, xcb_window_t window)
+    Questions(xcb_connection_t *x, X11Names &names, xcb_window_t window)
         : attributes(xcb_get_window_attributes(x, window)),
           geometry(xcb_get_geometry(x, window)),
           place(xcb_translate_coordinates(x, window, X11::root(x), 0, 0)),
           ownerClass(X11::askProperty(x, window, XCB_ATOM_WM_CLASS)),
           owner(X11::askProperty(x, window, XCB_ATOM_WM_TRANSIENT_FOR)),
-          desktop(X11::askProperty(x, window, atoms.desktop)),
-          type(X11::askProperty(x, window, atoms.type)),
-          state(X11::askProperty(x, window, atoms.state)),
-          iconicState(X11::askProperty(x, window, atoms.iconicState)),
-          frame(X11::askProperty(x, window, atoms.frameExtents)),
-          shadow(X11::askProperty(x, window, atoms.shadowExtents))
+          desktop(xcb_ewmh_get_wm_desktop(&names.ewmh, window)),
+          type(xcb_ewmh_get_wm_window_type(&names.ewmh, window)),
+          state(xcb_ewmh_get_wm_state(&names.ewmh, window)),
+          iconicState(X11::askProperty(x, window, names.iconicState)),
+          frame(xcb_ewmh_get_frame_extents(&names.ewmh, window)),
+          shadow(X11::askProperty(x, window, names.shadowExtents))
     {
     }
 
@@ -48,40 +48,42 @@ struct Questions {
 /// What one window answered.
 class Answers {
 public:
-    Answers(xcb_connection_t *x, const Questions &asked)
-        : m_attributes(xcb_get_window_attributes_reply(x, asked.attributes, nullptr)),
+    Answers(xcb_connection_t *x, X11Names &names, const Questions &asked)
+        : m_ewmh(names.ewmh),
+          m_attributes(xcb_get_window_attributes_reply(x, asked.attributes, nullptr)),
           m_geometry(xcb_get_geometry_reply(x, asked.geometry, nullptr)),
           m_place(xcb_translate_coordinates_reply(x, asked.place, nullptr)),
-          m_class(X11::property(x, asked.ownerClass)),
-          m_owner(numbers(x, asked.owner)),
-          m_desktop(numbers(x, asked.desktop)),
-          m_type(numbers(x, asked.type)),
-          m_state(numbers(x, asked.state)),
-          m_iconicState(numbers(x, asked.iconicState)),
-          m_frame(numbers(x, asked.frame)),
-          m_shadow(numbers(x, asked.shadow))
+          m_class(X11::bytes(x, asked.ownerClass)),
+          m_owner(X11::numbers(x, asked.owner)),
+          m_types(names.atoms(asked.type)),
+          m_states(names.atoms(asked.state)),
+          m_iconicState(X11::numbers(x, asked.iconicState)),
+          m_shadow(X11::numbers(x, asked.shadow))
     {
+        xcb_ewmh_get_wm_desktop_reply(&names.ewmh, asked.desktop, &m_desktop, nullptr);
+        xcb_ewmh_get_frame_extents_reply(&names.ewmh, asked.frame, &m_frame, nullptr);
     }
 
     /// A window manager may leave a window mapped that is minimised or on another desktop.
-    bool isOnScreen(const X11WindowAtoms &atoms, quint32 currentDesktop) const
+    bool isOnScreen(quint32 currentDesktop) const
     {
-        const quint32 desktop = m_desktop.value(0, everyDesktop);
         return m_attributes && m_attributes->map_state == XCB_MAP_STATE_VIEWABLE && m_iconicState.value(0) != iconic
-            && !m_state.contains(atoms.stateHidden)
-            && (desktop == everyDesktop || currentDesktop == everyDesktop || desktop == currentDesktop);
+            && !m_states.contains(m_ewmh._NET_WM_STATE_HIDDEN)
+            && (m_desktop == X11::everyDesktop || currentDesktop == X11::everyDesktop || m_desktop == currentDesktop);
     }
 
     /// A dialog that belongs to no window is one to work in: so is the settings application of some desktops.
-    int layer(const X11WindowAtoms &atoms) const
+    int layer() const
     {
+        const xcb_atom_t normal = m_ewmh._NET_WM_WINDOW_TYPE_NORMAL;
+        const xcb_atom_t dialog = m_ewmh._NET_WM_WINDOW_TYPE_DIALOG;
         const bool hasOwner = m_owner.value(0) != XCB_WINDOW_NONE;
-        const xcb_atom_t type = kind(atoms, hasOwner ? atoms.typeDialog : atoms.typeNormal);
-        const bool isOrdinary = type == atoms.typeNormal || (type == atoms.typeDialog && !hasOwner);
+        const xcb_atom_t type = kind(hasOwner ? dialog : normal);
+        const bool isOrdinary = type == normal || (type == dialog && !hasOwner);
         return isOrdinary && !m_attributes->override_redirect ? 0 : otherLayer;
     }
 
-    bool ownerIsSystemSettings() const { return SystemSettingsApps::haveWindowClass(X11::bytes(m_class.get())); }
+    bool ownerIsSystemSettings() const { return SystemSettingsApps::haveWindowClass(m_class); }
 
     /// In pixels; none when the window has just gone.
     std::optional<QRectF> frame() const
@@ -89,49 +91,50 @@ public:
         if (!m_geometry || !m_place)
             return std::nullopt;
         const QRectF inside(m_place->dst_x, m_place->dst_y, m_geometry->width, m_geometry->height);
-        return inside.marginsAdded(margins(m_frame)).marginsRemoved(margins(m_shadow));
+        const QMarginsF frame(m_frame.left, m_frame.top, m_frame.right, m_frame.bottom);
+        return inside.marginsAdded(frame).marginsRemoved(shadow());
     }
 
 private:
     /// A window names its kinds in the order of its liking, beginning with some that only one desktop knows.
-    xcb_atom_t kind(const X11WindowAtoms &atoms, xcb_atom_t usual) const
+    xcb_atom_t kind(xcb_atom_t usual) const
     {
-        const auto isKnown = [&](xcb_atom_t type) {
-            const auto &others = atoms.otherTypes;
-            return type == atoms.typeNormal || type == atoms.typeDialog
-                || std::find(others.begin(), others.end(), type) != others.end();
+        const xcb_atom_t known[] = {
+            m_ewmh._NET_WM_WINDOW_TYPE_NORMAL,        m_ewmh._NET_WM_WINDOW_TYPE_DIALOG,
+            m_ewmh._NET_WM_WINDOW_TYPE_DESKTOP,       m_ewmh._NET_WM_WINDOW_TYPE_DOCK,
+            m_ewmh._NET_WM_WINDOW_TYPE_TOOLBAR,       m_ewmh._NET_WM_WINDOW_TYPE_MENU,
+            m_ewmh._NET_WM_WINDOW_TYPE_UTILITY,       m_ewmh._NET_WM_WINDOW_TYPE_SPLASH,
+            m_ewmh._NET_WM_WINDOW_TYPE_DROPDOWN_MENU, m_ewmh._NET_WM_WINDOW_TYPE_POPUP_MENU,
+            m_ewmh._NET_WM_WINDOW_TYPE_TOOLTIP,       m_ewmh._NET_WM_WINDOW_TYPE_NOTIFICATION,
+            m_ewmh._NET_WM_WINDOW_TYPE_COMBO,         m_ewmh._NET_WM_WINDOW_TYPE_DND,
         };
-        const auto found = std::find_if(m_type.begin(), m_type.end(), isKnown);
-        return found == m_type.end() ? usual : *found;
-    }
-
-    static QList<quint32> numbers(xcb_connection_t *x, xcb_get_property_cookie_t request)
-    {
-        return X11::numbers(X11::property(x, request).get());
+        const auto found = std::find_first_of(m_types.begin(), m_types.end(), std::begin(known), std::end(known));
+        return found == m_types.end() ? usual : *found;
     }
 
     /// The order of the property is left, right, top, bottom.
-    static QMarginsF margins(const QList<quint32> &extents)
+    QMarginsF shadow() const
     {
-        if (extents.size() != 4)
+        if (m_shadow.size() != 4)
             return {};
-        return {qreal(extents[0]), qreal(extents[2]), qreal(extents[1]), qreal(extents[3])};
+        return {qreal(m_shadow[0]), qreal(m_shadow[2]), qreal(m_shadow[1]), qreal(m_shadow[3])};
     }
 
+    const xcb_ewmh_connection_t &m_ewmh;
     X11::Reply<xcb_get_window_attributes_reply_t> m_attributes;
     X11::Reply<xcb_get_geometry_reply_t> m_geometry;
     X11::Reply<xcb_translate_coordinates_reply_t> m_place;
-    X11::Reply<xcb_get_property_reply_t> m_class;
+    QByteArray m_class;
     QList<quint32> m_owner;
-    QList<quint32> m_desktop;
-    QList<quint32> m_type;
-    QList<quint32> m_state;
+    quint32 m_desktop = X11::everyDesktop;
+    QList<xcb_atom_t> m_types;
+    QList<xcb_atom_t> m_states;
     QList<quint32> m_iconicState;
-    QList<quint32> m_frame;
+    xcb_ewmh_get_extents_reply_t m_frame = {};
     QList<quint32> m_shadow;
 };
 
-QList<quint32> childrenOfRoot(xcb_connection_t *x)
+QList<xcb_window_t> childrenOfRoot(xcb_connection_t *x)
 {
     const X11::Reply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, X11::root(x)), nullptr));
     if (!tree)
@@ -161,11 +164,21 @@ QRectF points(const QRectF &pixels)
     return {(pixels.topLeft() - corner) / scale + corner, pixels.size() / scale};
 }
 
-OnScreenWindow described(const Answers &answers, const X11WindowAtoms &atoms)
+OnScreenWindow described(const Answers &answers)
 {
     const std::optional<QRectF> frame = answers.frame();
-    return {answers.layer(atoms), answers.ownerIsSystemSettings(),
-            frame ? std::optional(points(*frame)) : std::nullopt};
+    return {answers.layer(), answers.ownerIsSystemSettings(), frame ? std::optional(points(*frame)) : std::nullopt};
+}
+
+/// The answer to a question for a list of windows; none when there is no such list.
+std::optional<QList<xcb_window_t>> windows(X11Names &names, xcb_get_property_cookie_t request)
+{
+    xcb_ewmh_get_windows_reply_t reply;
+    if (!xcb_ewmh_get_windows_reply(&names.ewmh, request, &reply, nullptr))
+        return std::nullopt;
+    const QList<xcb_window_t> windows(reply.windows, reply.windows + reply.windows_len);
+    xcb_ewmh_get_windows_reply_wipe(&reply);
+    return windows;
 }
 
 }
@@ -178,28 +191,31 @@ QList<OnScreenWindow> X11WindowList::onScreenWindows()
     xcb_connection_t *x = X11::connection();
     if (!x || QGuiApplication::screens().isEmpty())
         return {};
-    if (!m_atoms)
-        m_atoms = std::make_unique<X11WindowAtoms>(x);
+    if (!m_names)
+        m_names = X11Names::ask(x);
+    if (!m_names)
+        return {};
 
-    const auto askedStacking = X11::askProperty(x, X11::root(x), m_atoms->clientListStacking);
-    const auto askedClients = X11::askProperty(x, X11::root(x), m_atoms->clientList);
-    const auto askedDesktop = X11::askProperty(x, X11::root(x), m_atoms->currentDesktop);
-    const auto stacking = X11::property(x, askedStacking);
-    const auto clients = X11::property(x, askedClients);
-    const quint32 currentDesktop = X11::numbers(X11::property(x, askedDesktop).get()).value(0, everyDesktop);
+    const auto askedStacking = xcb_ewmh_get_client_list_stacking(&m_names->ewmh, 0);
+    const auto askedClients = xcb_ewmh_get_client_list(&m_names->ewmh, 0);
+    const auto askedDesktop = xcb_ewmh_get_current_desktop(&m_names->ewmh, 0);
+    const auto stacking = windows(*m_names, askedStacking);
+    const auto clients = windows(*m_names, askedClients);
+    quint32 currentDesktop = X11::everyDesktop;
+    xcb_ewmh_get_current_desktop_reply(&m_names->ewmh, askedDesktop, &currentDesktop, nullptr);
     // Xfwm4 stacks nothing as long as there is a single window. All go from the bottom, or the oldest, to the top.
     const auto &managed = stacking ? stacking : clients;
-    const QList<quint32> windows = managed ? X11::numbers(managed.get()) : childrenOfRoot(x);
+    const QList<xcb_window_t> bottomToTop = managed ? *managed : childrenOfRoot(x);
 
     QList<Questions> asked;
-    asked.reserve(windows.size());
-    for (auto window = windows.crbegin(); window != windows.crend(); ++window)
-        asked.append(Questions(x, *m_atoms, *window));
+    asked.reserve(bottomToTop.size());
+    for (auto window = bottomToTop.crbegin(); window != bottomToTop.crend(); ++window)
+        asked.append(Questions(x, *m_names, *window));
     QList<OnScreenWindow> list;
     for (const Questions &questions : std::as_const(asked)) {
-        const Answers answers(x, questions);
-        if (answers.isOnScreen(*m_atoms, currentDesktop))
-            list.append(described(answers, *m_atoms));
+        const Answers answers(x, *m_names, questions);
+        if (answers.isOnScreen(currentDesktop))
+            list.append(described(answers));
     }
     return list;
 }

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-struct X11WindowAtoms;
+struct X11Names;
 
 /// The windows on an X server: those its window manager stacks or lists, and where there is none, those of the root
 /// window. On anything but X there are none. Each listing costs a few round trips, however many windows there are.
@@ -16,5 +16,5 @@ public:
     QList<OnScreenWindow> onScreenWindows() override;
 
 private:
-    std::unique_ptr<const X11WindowAtoms> m_atoms;
+    std::unique_ptr<X11Names> m_names;
 };
