@@ -18,36 +18,9 @@ QColor faded(QColor color, float opacity)
 
 DemoButton::DemoButton(QQuickItem *parent) : CrispItem(parent)
 {
-    setImplicitSize(m_size, m_size);
-}
-
-template <typename Value> bool DemoButton::set(Value &member, const Value &value)
-{
-    if (!assign(member, value))
-        return false;
-    emit changed();
-    return true;
-}
-
-void DemoButton::setKind(const QString &kind)
-{
-    set(m_kind, kind);
-}
-
-void DemoButton::setTheme(const QString &theme)
-{
-    set(m_theme, theme);
-}
-
-void DemoButton::setSize(qreal size)
-{
-    if (set(m_size, size))
-        setImplicitSize(m_size, m_size);
-}
-
-void DemoButton::setDim(bool dim)
-{
-    set(m_dim, dim);
+    const auto measure = [this] { setImplicitSize(m_size, m_size); };
+    connect(this, &DemoButton::changed, this, measure);
+    measure();
 }
 
 void DemoButton::paint(QPainter *painter)
