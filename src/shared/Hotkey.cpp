@@ -4,7 +4,6 @@ namespace {
 
 struct Combination {
     Hotkey hotkey;
-    const char *caseName;
     std::int64_t keyCode;
     std::uint64_t modifiers;
     const char16_t *shownAs;
@@ -14,13 +13,10 @@ constexpr auto command = Hotkeys::commandFlag;
 constexpr auto optionCommand = Hotkeys::optionFlag | Hotkeys::commandFlag;
 
 constexpr std::array combinations = {
-    Combination{Hotkey::close, "close", 13, command, u"⌘W"},
-    Combination{Hotkey::closeAll, "closeAll", 13, optionCommand, u"⌥⌘W"},
-    Combination{Hotkey::minimize, "minimize", 46, command, u"⌘M"},
-    Combination{Hotkey::maximize, "maximize", 3, command, u"⌘F"},
-    Combination{Hotkey::hide, "hide", 4, command, u"⌘H"},
-    Combination{Hotkey::hideOthers, "hideOthers", 4, optionCommand, u"⌥⌘H"},
-    Combination{Hotkey::kill, "kill", 12, command, u"⌘Q"},
+    Combination{Hotkey::close, 13, command, u"⌘W"},    Combination{Hotkey::closeAll, 13, optionCommand, u"⌥⌘W"},
+    Combination{Hotkey::minimize, 46, command, u"⌘M"}, Combination{Hotkey::maximize, 3, command, u"⌘F"},
+    Combination{Hotkey::hide, 4, command, u"⌘H"},      Combination{Hotkey::hideOthers, 4, optionCommand, u"⌥⌘H"},
+    Combination{Hotkey::kill, 12, command, u"⌘Q"},
 };
 static_assert(combinations.size() == Hotkeys::allCases.size());
 
@@ -29,27 +25,6 @@ const Combination &combination(Hotkey hotkey)
     return combinations[static_cast<std::size_t>(hotkey)];
 }
 
-}
-
-std::optional<Hotkey> Hotkeys::fromRawValue(int rawValue)
-{
-    if (rawValue < 0 || rawValue >= static_cast<int>(allCases.size()))
-        return std::nullopt;
-    return allCases[static_cast<std::size_t>(rawValue)];
-}
-
-std::optional<Hotkey> Hotkeys::fromCaseName(QStringView name)
-{
-    for (const Combination &candidate : combinations) {
-        if (name == QLatin1String(candidate.caseName))
-            return candidate.hotkey;
-    }
-    return std::nullopt;
-}
-
-QString Hotkeys::caseName(Hotkey hotkey)
-{
-    return QString::fromLatin1(combination(hotkey).caseName);
 }
 
 QString Hotkeys::shownAs(Hotkey hotkey)

@@ -15,8 +15,8 @@ ButtonFace::ButtonFace(QQuickItem *parent) : CrispItem(parent)
 
 EBButtonStyle ButtonFace::style() const
 {
-    return {EBButtonStyle::parseVariant(m_variant).value_or(EBButtonStyle::Variant::primary),
-            EBButtonStyle::parseSize(m_size).value_or(EBButtonStyle::Size::md), m_arrow};
+    return {EBButtonStyle::Variants::fromRawValue(m_variant).value_or(EBButtonStyle::Variant::primary),
+            EBButtonStyle::Sizes::fromRawValue(m_size).value_or(EBButtonStyle::Size::md), m_arrow};
 }
 
 void ButtonFace::componentComplete()

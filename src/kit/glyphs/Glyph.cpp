@@ -15,7 +15,7 @@ Glyph::Glyph(QQuickItem *parent) : CrispItem(parent)
 
 void Glyph::paint(QPainter *painter)
 {
-    if (const auto glyph = glyphName(m_name))
+    if (const auto glyph = GlyphNames::fromRawValue(m_name))
         paintGlyph(painter, *glyph, m_size, m_color, boundingRect());
 }
 

@@ -12,20 +12,9 @@ enum class EBKitMark {
     parcelo = int(EBApp::parcelo),
 };
 
-namespace EBKitMarks {
+struct EBKitMarks : NamedCases<EBKitMark> {
+    static constexpr EBKitMark of(EBApp app) { return static_cast<EBKitMark>(app); }
 
-inline constexpr std::array allCases = {EBKitMark::quiller, EBKitMark::corvane, EBKitMark::parcelo};
-
-constexpr EBKitMark of(EBApp app)
-{
-    return static_cast<EBKitMark>(app);
-}
-
-/// The three raw values are the case names; none for any other text. Upper and lower case differ.
-std::optional<EBKitMark> fromRawValue(QStringView rawValue);
-QString rawValue(EBKitMark mark);
-
-}
-
-/// The outline of the product's mark in `rect`, as `MarkShape` fits it.
-QPainterPath path(EBKitMark mark, const QRectF &rect);
+    /// The outline of the product's mark in `rect`, as `MarkShape` fits it.
+    static QPainterPath path(EBKitMark mark, const QRectF &rect);
+};
