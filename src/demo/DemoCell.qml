@@ -153,8 +153,17 @@ Item {
     T.Control {
         id: element
 
-        readonly property int accessibleRole: Accessible.Grouping
-        readonly property list<AccessibleAction> accessibleActions: [
+        anchors.fill: parent
+        visible: cell.isVisible
+        hoverEnabled: false
+        focusPolicy: Qt.TabFocus
+        //: %1 is the name of an application, %2 the title of its window.
+        Accessible.name: cell.isFull ? qsTr("%1 window, %2, full screen").arg(cell.win.app).arg(cell.win.title) :
+                                       //: %1 is the name of an application, %2 the title of its window.
+                                       qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
+        Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
+        EBAccessible.role: Accessible.Grouping
+        EBAccessible.actions: [
             AccessibleAction {
                 name: qsTr("Close")
                 onPerformed: cell.perform("close")
@@ -168,16 +177,6 @@ Item {
                 onPerformed: cell.perform("maximize")
             }
         ]
-
-        anchors.fill: parent
-        visible: cell.isVisible
-        hoverEnabled: false
-        focusPolicy: Qt.TabFocus
-        //: %1 is the name of an application, %2 the title of its window.
-        Accessible.name: cell.isFull ? qsTr("%1 window, %2, full screen").arg(cell.win.app).arg(cell.win.title) :
-                                       //: %1 is the name of an application, %2 the title of its window.
-                                       qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
-        Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
         onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.model?.leave(cell.win.id)
         onVisibleChanged: if (!visible && activeFocus)
             cell.forceActiveFocus(Qt.OtherFocusReason)

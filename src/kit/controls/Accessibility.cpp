@@ -1,13 +1,12 @@
 #include "Accessibility.h"
 
-#include "AccessibleAction.h"
+#include "EBAccessible.h"
 #include "Platform.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>
 #include <QGuiApplication>
 #include <QPointer>
-#include <QQmlListReference>
 #include <QQuickItem>
 
 namespace {
@@ -15,7 +14,10 @@ namespace {
 /// The item, or one around it, declares that it is hidden.
 bool isHidden(const QQuickItem *item)
 {
-    return item && (item->property("accessibleHidden").toBool() || isHidden(item->parentItem()));
+    if (!item)
+        return false;
+    const EBAccessible *declared = EBAccessible::of(item);
+    return (declared && declared->hidden()) || isHidden(item->parentItem());
 }
 
 /// What Qt says about an item, with the corrections. Qt's own interface of the item stays in Qt's cache and
@@ -54,10 +56,10 @@ public:
         if (!actions)
             return {};
         QStringList names = actions->actionNames();
-        if (isPressableItem() && !names.contains(pressAction()))
-            names.prepend(pressAction());
-        if (!takesFocus())
-            names.removeAll(setFocusAction());
+        names.removeDuplicates();
+        // The first action is the one that a screen reader carries out unasked.
+        if (names.removeAll(setFocusAction()) > 0 && takesFocus())
+            names.append(setFocusAction());
         const QList<AccessibleAction *> own = ownActions();
         for (const AccessibleAction *action : own)
             names.append(action->name());
@@ -125,8 +127,8 @@ public:
     {
         if (!isValid())
             return QAccessible::NoRole;
-        const QVariant declared = m_item->property("accessibleRole");
-        return declared.isValid() ? QAccessible::Role(declared.toInt()) : original()->role();
+        const EBAccessible *declared = EBAccessible::of(m_item);
+        return declared && declared->role() != QAccessible::NoRole ? declared->role() : original()->role();
     }
     QColor foregroundColor() const override { return isValid() ? original()->foregroundColor() : QColor(); }
     QColor backgroundColor() const override { return isValid() ? original()->backgroundColor() : QColor(); }
@@ -161,13 +163,9 @@ private:
     /// The actions that the item itself declares.
     QList<AccessibleAction *> ownActions() const
     {
-        QList<AccessibleAction *> found;
-        const QQmlListReference declared(m_item, "accessibleActions");
-        for (qsizetype i = 0; i < declared.count(); ++i) {
-            auto *action = qobject_cast<AccessibleAction *>(declared.at(i));
-            if (action && !action->name().isEmpty())
-                found.append(action);
-        }
+        const EBAccessible *declared = EBAccessible::of(m_item);
+        QList<AccessibleAction *> found = declared ? declared->actions() : QList<AccessibleAction *>();
+        found.removeIf([](const AccessibleAction *action) { return action->name().isEmpty(); });
         return found;
     }
 
@@ -182,13 +180,6 @@ private:
     bool takesFocus() const
     {
         return m_item->isEnabled() && (role() != QAccessible::StaticText || m_item->activeFocusOnTab());
-    }
-
-    bool isPressableItem() const
-    {
-        const QAccessible::Role kind = role();
-        return (kind == QAccessible::PageTab || kind == QAccessible::ListItem)
-            && m_item->metaObject()->indexOfMethod("accessiblePressAction()") >= 0;
     }
 
     QPointer<QQuickItem> m_item;
