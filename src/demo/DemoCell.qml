@@ -163,22 +163,21 @@ Item {
                                        qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
         Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
         EBAccessible.role: Accessible.Grouping
-        EBAccessible.actions: [
-            AccessibleAction {
-                name: qsTr("Close")
-                onPerformed: cell.perform("close")
-            },
-            AccessibleAction {
-                name: qsTr("Minimize")
-                onPerformed: cell.perform("minimize")
-            },
-            AccessibleAction {
-                name: qsTr("Full screen")
-                onPerformed: cell.perform("maximize")
-            }
-        ]
         onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.model?.leave(cell.win.id)
         onVisibleChanged: if (!visible && activeFocus)
             cell.forceActiveFocus(Qt.OtherFocusReason)
+
+        AccessibleAction {
+            name: qsTr("Close")
+            onPerformed: cell.perform("close")
+        }
+        AccessibleAction {
+            name: qsTr("Minimize")
+            onPerformed: cell.perform("minimize")
+        }
+        AccessibleAction {
+            name: qsTr("Full screen")
+            onPerformed: cell.perform("maximize")
+        }
     }
 }

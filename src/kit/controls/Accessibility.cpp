@@ -1,5 +1,6 @@
 #include "Accessibility.h"
 
+#include "AccessibleAction.h"
 #include "EBAccessible.h"
 #include "Platform.h"
 
@@ -22,16 +23,16 @@ bool isHidden(const QQuickItem *item)
 
 /// What Qt says about an item, with the corrections. Qt's own interface of the item stays in Qt's cache and
 /// belongs to it, so it is looked up whenever it is needed: it may go first.
-class MendedItem : public QAccessibleInterface, public QAccessibleActionInterface {
+class ItemProxy : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    MendedItem(QQuickItem *item, QAccessible::Id original)
+    ItemProxy(QQuickItem *item, QAccessible::Id original)
         : m_item(item),
           m_original(original),
           m_enabledChanged(QObject::connect(item, &QQuickItem::enabledChanged, item, [item] { announce(item); }))
     {
     }
-    ~MendedItem() override { QObject::disconnect(m_enabledChanged); }
-    Q_DISABLE_COPY_MOVE(MendedItem)
+    ~ItemProxy() override { QObject::disconnect(m_enabledChanged); }
+    Q_DISABLE_COPY_MOVE(ItemProxy)
 
     bool isValid() const override { return m_item && original() && original()->isValid(); }
     QObject *object() const override { return m_item; }
@@ -109,9 +110,9 @@ public:
     }
     QAccessibleInterface *childAt(int x, int y) const override
     {
-        return isValid() ? mended(original()->childAt(x, y)) : nullptr;
+        return isValid() ? proxyOf(original()->childAt(x, y)) : nullptr;
     }
-    QAccessibleInterface *focusChild() const override { return isValid() ? mended(original()->focusChild()) : nullptr; }
+    QAccessibleInterface *focusChild() const override { return isValid() ? proxyOf(original()->focusChild()) : nullptr; }
     QList<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(QAccessible::Relation match) const override
     {
         return isValid() ? original()->relations(match) : decltype(relations(match))();
@@ -150,9 +151,9 @@ private:
 
     QAccessibleInterface *original() const { return QAccessible::accessibleInterface(m_original); }
 
-    QAccessibleInterface *mended(QAccessibleInterface *found) const
+    QAccessibleInterface *proxyOf(QAccessibleInterface *found) const
     {
-        return found == original() ? const_cast<MendedItem *>(this) : found;
+        return found == original() ? const_cast<ItemProxy *>(this) : found;
     }
 
     QAccessibleActionInterface *enabledActions() const
@@ -160,11 +161,10 @@ private:
         return isValid() && m_item->isEnabled() ? original()->actionInterface() : nullptr;
     }
 
-    /// The actions that the item itself declares.
+    /// The actions that stand in the item.
     QList<AccessibleAction *> ownActions() const
     {
-        const EBAccessible *declared = EBAccessible::of(m_item);
-        QList<AccessibleAction *> found = declared ? declared->actions() : QList<AccessibleAction *>();
+        auto found = m_item->findChildren<AccessibleAction *>(QString(), Qt::FindDirectChildrenOnly);
         found.removeIf([](const AccessibleAction *action) { return action->name().isEmpty(); });
         return found;
     }
@@ -200,7 +200,7 @@ public:
     }
 };
 
-QAccessibleInterface *mend(const QString &className, QObject *object)
+QAccessibleInterface *makeProxy(const QString &className, QObject *object)
 {
     if (object == qApp)
         return new NamedApplication;
@@ -215,7 +215,7 @@ QAccessibleInterface *mend(const QString &className, QObject *object)
     QAccessibleInterface *original = QAccessible::queryAccessibleInterface(item);
     askingQt = false;
     // Both are now in the cache for this item, and the cache hands out the younger one, which is ours.
-    return original ? new MendedItem(item, QAccessible::uniqueId(original)) : nullptr;
+    return original ? new ItemProxy(item, QAccessible::uniqueId(original)) : nullptr;
 }
 
 }
@@ -223,7 +223,7 @@ QAccessibleInterface *mend(const QString &className, QObject *object)
 void installKitAccessibility()
 {
     static const bool installed = [] {
-        QAccessible::installFactory(mend);
+        QAccessible::installFactory(makeProxy);
         return true;
     }();
     Q_UNUSED(installed)

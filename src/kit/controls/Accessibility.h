@@ -5,7 +5,9 @@
 ///   announces the change when it is enabled or disabled;
 /// - a text does not claim that it can take the focus;
 /// - an action is offered once, and what an item does comes before taking the focus;
-/// - an item has the role, the actions and the invisibility that it declares with `EBAccessible`;
+/// - an item has the role and the invisibility that it declares with `EBAccessible`, and offers the actions that stand
+/// in it
+///   (`AccessibleAction`);
 /// - the application has the name in its bundle.
 ///
 /// To be called once, after the application object is made and before the first window is; again it does nothing.

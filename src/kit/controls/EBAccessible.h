@@ -1,27 +1,23 @@
 #pragma once
 
-#include "AccessibleAction.h"
-
 #include <QAccessible>
-#include <QQmlListProperty>
+#include <QObject>
+#include <qqmlregistration.h>
 
 class QQuickItem;
 
-/// What an item tells assistive technologies beside Qt's `Accessible`; `installKitAccessibility` passes it on. Attached to
-/// items only.
+/// What an item tells assistive technologies beside Qt's `Accessible`; `installKitAccessibility` passes it on. Attached
+/// to items only.
 class EBAccessible : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("EBAccessible is read and set as an attached property")
     QML_ATTACHED(EBAccessible)
-    /// A role of `Accessible` for an item made from a template, which overrules `Accessible.role`. `Accessible.NoRole`, which
-    /// it is to begin with, leaves the item the role it has.
+    /// A role of `Accessible` for an item made from a template, which overrules `Accessible.role`. `Accessible.NoRole`,
+    /// which it is to begin with, leaves the item the role it has.
     Q_PROPERTY(int role MEMBER m_role NOTIFY changed)
     /// The item does not show, nor does anything in it.
     Q_PROPERTY(bool hidden MEMBER m_hidden NOTIFY changed)
-    /// What else the item can do, listed in this order after the actions that Qt gives it. They work while the item is
-    /// enabled. It must be accessible itself (`Accessible.role`).
-    Q_PROPERTY(QQmlListProperty<AccessibleAction> actions READ actionList CONSTANT)
 public:
     using QObject::QObject;
     static EBAccessible *qmlAttachedProperties(QObject *object);
@@ -31,15 +27,11 @@ public:
 
     QAccessible::Role role() const { return QAccessible::Role(m_role); }
     bool hidden() const { return m_hidden; }
-    const QList<AccessibleAction *> &actions() const { return m_actions; }
 
 signals:
     void changed();
 
 private:
-    QQmlListProperty<AccessibleAction> actionList() { return {this, &m_actions}; }
-
     int m_role = QAccessible::NoRole;
     bool m_hidden = false;
-    QList<AccessibleAction *> m_actions;
 };
