@@ -1,7 +1,7 @@
 #include "AccessibilityList.h"
 
+#include "AgentKeys.h"
 #include "Platform.h"
-#include "Report.h"
 #include "Shared.h"
 #include "UserDefaults.h"
 
@@ -47,5 +47,5 @@ void AccessibilityList::setTrusted(bool trusted)
         m_listed = true;
         emit listedChanged();
     }
-    report(Shared::Key::agentAccessibilityTrusted, trusted);
+    AgentKeys::report(Shared::Key::agentAccessibilityTrusted, trusted);
 }

@@ -1,7 +1,7 @@
 #include "Agent.h"
 
+#include "AgentKeys.h"
 #include "Platform.h"
-#include "Report.h"
 #include "Shared.h"
 
 #include <QJsonDocument>
@@ -42,9 +42,11 @@ void Agent::perform(const QVariantMap &userInfo)
 void Agent::reportLoginItem()
 {
     const LoginItem::State state = m_loginItem.state();
-    const auto reportEnabled = [&] { report(Shared::Key::agentLaunchAtLogin, state == LoginItem::State::Enabled); };
+    const auto reportEnabled = [&] {
+        AgentKeys::report(Shared::Key::agentLaunchAtLogin, state == LoginItem::State::Enabled);
+    };
     const auto reportWaiting = [&] {
-        report(Shared::Key::agentLaunchAtLoginNeedsApproval, state == LoginItem::State::NeedsApproval);
+        AgentKeys::report(Shared::Key::agentLaunchAtLoginNeedsApproval, state == LoginItem::State::NeedsApproval);
     };
     // What becomes true goes first: with both false in between, the switch would show off for a moment.
     if (state == LoginItem::State::NeedsApproval) {

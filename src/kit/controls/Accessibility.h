@@ -1,6 +1,6 @@
 #pragma once
 
-/// Mends, for every item of this process, what Qt Quick tells assistive technologies wrongly:
+/// Corrects, for every item of this process, what Qt Quick tells assistive technologies wrongly:
 /// - a disabled item says that it is disabled and cannot take the focus, offers no actions and takes none, and
 ///   announces the change when it is enabled or disabled;
 /// - a text does not claim that it can take the focus;

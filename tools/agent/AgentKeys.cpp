@@ -1,9 +1,9 @@
-#include "Report.h"
+#include "AgentKeys.h"
 
 #include "Shared.h"
 #include "UserDefaults.h"
 
-void report(const QString &key, bool value)
+void AgentKeys::report(const QString &key, bool value)
 {
     const QVariant stored = Shared::store().value(key);
     if (stored.typeId() != QMetaType::Bool || stored.toBool() != value)
