@@ -27,16 +27,19 @@ function(corvane_check_depends name)
     endforeach()
 endfunction()
 
-# corvane_room(name SOURCES … DEPENDS … [LINK …]): a room of plain C++.
+# corvane_room(name SOURCES … DEPENDS … [LINK …] [PRECOMPILED header]): a room of plain C++.
 function(corvane_room name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;DEPENDS;LINK" ${ARGN})
     corvane_check_depends(${name} ${ARG_DEPENDS})
+    if(NOT ARG_PRECOMPILED)
+        set(ARG_PRECOMPILED pch_gui)
+    endif()
     add_library(${name} STATIC ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC Qt6::Gui ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
     set_property(GLOBAL PROPERTY CORVANE_DEPENDS_${name} ${ARG_DEPENDS})
-    target_precompile_headers(${name} REUSE_FROM pch_gui)
+    target_precompile_headers(${name} REUSE_FROM ${ARG_PRECOMPILED})
 endfunction()
 
 # The compiled views of a room become one source: nearly all of what each of them costs are the headers.

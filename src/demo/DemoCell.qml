@@ -153,22 +153,6 @@ Item {
     T.Control {
         id: element
 
-        readonly property int accessibleRole: Accessible.Grouping
-        readonly property list<AccessibleAction> accessibleActions: [
-            AccessibleAction {
-                name: qsTr("Close")
-                onPerformed: cell.perform("close")
-            },
-            AccessibleAction {
-                name: qsTr("Minimize")
-                onPerformed: cell.perform("minimize")
-            },
-            AccessibleAction {
-                name: qsTr("Full screen")
-                onPerformed: cell.perform("maximize")
-            }
-        ]
-
         anchors.fill: parent
         visible: cell.isVisible
         hoverEnabled: false
@@ -178,8 +162,22 @@ Item {
                                        //: %1 is the name of an application, %2 the title of its window.
                                        qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
         Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
+        EBAccessible.role: Accessible.Grouping
         onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.model?.leave(cell.win.id)
         onVisibleChanged: if (!visible && activeFocus)
             cell.forceActiveFocus(Qt.OtherFocusReason)
+
+        AccessibleAction {
+            name: qsTr("Close")
+            onPerformed: cell.perform("close")
+        }
+        AccessibleAction {
+            name: qsTr("Minimize")
+            onPerformed: cell.perform("minimize")
+        }
+        AccessibleAction {
+            name: qsTr("Full screen")
+            onPerformed: cell.perform("maximize")
+        }
     }
 }

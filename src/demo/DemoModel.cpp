@@ -88,18 +88,6 @@ const DemoModel::Win *find(const QList<DemoModel::Win> &wins, int id)
 
 DemoModel::DemoModel(QObject *parent) : QObject(parent), m_wins(initialWins()), m_spring(applySpring()) { }
 
-QString DemoModel::rawValue(Task task)
-{
-    switch (task) {
-#define TASK(name)                                                                                                     \
-    case Task::name:                                                                                                   \
-        return QStringLiteral(#name);
-        DEMO_TASKS(TASK)
-#undef TASK
-    }
-    Q_UNREACHABLE();
-}
-
 void DemoModel::reset()
 {
     setSpring(resetSpring());
@@ -178,9 +166,9 @@ QVariantList DemoModel::winList() const
 QStringList DemoModel::doneNames() const
 {
     QStringList names;
-    for (const Task task : allTasks) {
+    for (const Task task : Tasks::allCases) {
         if (m_done.contains(task))
-            names.append(rawValue(task));
+            names.append(Tasks::rawValue(task));
     }
     return names;
 }

@@ -10,11 +10,7 @@
 #include <QVariantList>
 #include <qqmlregistration.h>
 
-#include <array>
 #include <optional>
-
-/// What there is to practise, in the order in which it is asked for.
-#define DEMO_TASKS(TASK) TASK(hover) TASK(close) TASK(minimize) TASK(fullscreen)
 
 /// The whole state of the practice: six pretend windows of four pretend applications, which of them the pointer is
 /// over, what has been practised, and two short signals for feedback. It changes no real window, and nothing of it is
@@ -38,50 +34,21 @@ class DemoModel : public QObject {
     /// windows.
     Q_PROPERTY(MotionSpring spring READ spring NOTIFY springChanged)
 public:
-    enum class Task {
-#define TASK(name) name,
-        DEMO_TASKS(TASK)
-#undef TASK
-    };
-
-    static constexpr std::array allTasks = {
-#define TASK(name) Task::name,
-        DEMO_TASKS(TASK)
-#undef TASK
-    };
-
-    /// The task's raw string, which is its case name.
-    static QString rawValue(Task task);
+    /// What there is to practise, in the order in which it is asked for.
+    enum class Task { hover, close, minimize, fullscreen };
+    using Tasks = NamedCases<Task>;
 
     using Win = DemoWin;
     using State = DemoState;
 
     explicit DemoModel(QObject *parent = nullptr);
 
-    const QList<Win> &wins() const
-    {
-        return m_wins;
-    }
-    std::optional<int> hovered() const
-    {
-        return m_hovered;
-    }
-    const QSet<Task> &done() const
-    {
-        return m_done;
-    }
-    std::optional<Hotkey> flash() const
-    {
-        return m_flash;
-    }
-    int nudge() const
-    {
-        return m_nudge;
-    }
-    const MotionSpring &spring() const
-    {
-        return m_spring;
-    }
+    const QList<Win> &wins() const { return m_wins; }
+    std::optional<int> hovered() const { return m_hovered; }
+    const QSet<Task> &done() const { return m_done; }
+    std::optional<Hotkey> flash() const { return m_flash; }
+    int nudge() const { return m_nudge; }
+    const MotionSpring &spring() const { return m_spring; }
 
     /// Brings every window back as it was at first. What is hovered, practised, lit and counted stays.
     Q_INVOKABLE void reset();
@@ -112,15 +79,9 @@ signals:
 
 private:
     QVariantList winList() const;
-    int hoveredId() const
-    {
-        return m_hovered.value_or(-1);
-    }
+    int hoveredId() const { return m_hovered.value_or(-1); }
     QStringList doneNames() const;
-    QString flashName() const
-    {
-        return m_flash ? Hotkeys::caseName(*m_flash) : QString();
-    }
+    QString flashName() const { return m_flash ? Hotkeys::caseName(*m_flash) : QString(); }
 
     void setWins(const QList<Win> &wins);
     void setHovered(std::optional<int> id);

@@ -6,16 +6,9 @@
 #include <qqmlregistration.h>
 
 /// What can become of a pretend window.
-#define DEMO_STATES(STATE) STATE(normal) STATE(closed) STATE(minimized) STATE(hidden) STATE(full)
+enum class DemoState { normal, closed, minimized, hidden, full };
 
-enum class DemoState {
-#define STATE(name) name,
-    DEMO_STATES(STATE)
-#undef STATE
-};
-
-/// The state's raw string, which is its case name.
-QString rawValue(DemoState state);
+using DemoStates = NamedCases<DemoState>;
 
 /// One pretend window.
 struct DemoWin {
@@ -37,8 +30,8 @@ public:
     GlyphName glyph = GlyphName::wins;
     DemoState state = DemoState::normal;
 
-    QString glyphName() const { return rawValue(glyph); }
-    QString stateName() const { return rawValue(state); }
+    QString glyphName() const { return GlyphNames::rawValue(glyph); }
+    QString stateName() const { return DemoStates::rawValue(state); }
     bool isVisible() const { return state == DemoState::normal || state == DemoState::full; }
     bool operator==(const DemoWin &other) const = default;
 };

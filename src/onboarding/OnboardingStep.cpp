@@ -11,17 +11,16 @@ enum class Screen { loud, plain };
 
 struct Row {
     OnboardingStep step;
-    const char *caseName;
     const char *word;
     Screen screen;
 };
 
 constexpr std::array rows = {
-    Row{OnboardingStep::welcome, "welcome", QT_TRANSLATE_NOOP("OnboardingStep", "Welcome"), Screen::loud},
-    Row{OnboardingStep::tryIt, "tryIt", QT_TRANSLATE_NOOP("OnboardingStep", "Try it"), Screen::plain},
-    Row{OnboardingStep::access, "access", QT_TRANSLATE_NOOP("OnboardingStep", "Permission"), Screen::plain},
-    Row{OnboardingStep::customize, "customize", QT_TRANSLATE_NOOP("OnboardingStep", "Make it yours"), Screen::plain},
-    Row{OnboardingStep::done, "done", QT_TRANSLATE_NOOP("OnboardingStep", "All set"), Screen::loud},
+    Row{OnboardingStep::welcome, QT_TRANSLATE_NOOP("OnboardingStep", "Welcome"), Screen::loud},
+    Row{OnboardingStep::tryIt, QT_TRANSLATE_NOOP("OnboardingStep", "Try it"), Screen::plain},
+    Row{OnboardingStep::access, QT_TRANSLATE_NOOP("OnboardingStep", "Permission"), Screen::plain},
+    Row{OnboardingStep::customize, QT_TRANSLATE_NOOP("OnboardingStep", "Make it yours"), Screen::plain},
+    Row{OnboardingStep::done, QT_TRANSLATE_NOOP("OnboardingStep", "All set"), Screen::loud},
 };
 static_assert(rows.size() == OnboardingSteps::allCases.size());
 
@@ -51,32 +50,11 @@ bool isDecimal(QStringView text)
 
 }
 
-std::optional<OnboardingStep> OnboardingSteps::fromRawValue(int rawValue)
-{
-    if (rawValue < 0 || rawValue >= static_cast<int>(allCases.size()))
-        return std::nullopt;
-    return allCases[static_cast<std::size_t>(rawValue)];
-}
-
 std::optional<OnboardingStep> OnboardingSteps::fromText(QStringView text)
 {
     bool fits = false;
     const int rawValue = isDecimal(text) ? text.toInt(&fits) : 0;
     return fits ? fromRawValue(rawValue) : std::nullopt;
-}
-
-QString OnboardingSteps::caseName(OnboardingStep step)
-{
-    return QString::fromLatin1(row(step).caseName);
-}
-
-std::optional<OnboardingStep> OnboardingSteps::fromCaseName(QStringView caseName)
-{
-    for (const Row &candidate : rows) {
-        if (caseName == QLatin1String(candidate.caseName))
-            return candidate.step;
-    }
-    return std::nullopt;
 }
 
 QString OnboardingSteps::word(OnboardingStep step)

@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Controls
 import Corvane.Onboarding
 
 /// Makes a step's screen when the step begins and drops it when it has faded out. Two screens cross-fade while the step
@@ -13,13 +14,13 @@ Loader {
     /// The file of the step's screen, which is given the flow.
     required property url screen
     readonly property bool isCurrent: flow.step === step
-    readonly property bool accessibleHidden: !isCurrent
 
     anchors.fill: parent
     active: isCurrent || opacity > 0
     enabled: isCurrent
     focus: isCurrent
     opacity: isCurrent ? 1 : 0
+    EBAccessible.hidden: !isCurrent
     Component.onCompleted: setSource(screen, {flow: flow})
 
     Behavior on opacity {

@@ -1,53 +1,19 @@
 #include "DemoButton.h"
 
 #include "ButtonGlyph.h"
+#include "EBKitColor.h"
 
 #include <QPainter>
 
 #include <cmath>
 
-namespace {
-
-QColor faded(QColor color, float opacity)
-{
-    color.setAlphaF(color.alphaF() * opacity);
-    return color;
-}
-
-}
+using Embera::faded;
 
 DemoButton::DemoButton(QQuickItem *parent) : CrispItem(parent)
 {
-    setImplicitSize(m_size, m_size);
-}
-
-template <typename Value> bool DemoButton::set(Value &member, const Value &value)
-{
-    if (!assign(member, value))
-        return false;
-    emit changed();
-    return true;
-}
-
-void DemoButton::setKind(const QString &kind)
-{
-    set(m_kind, kind);
-}
-
-void DemoButton::setTheme(const QString &theme)
-{
-    set(m_theme, theme);
-}
-
-void DemoButton::setSize(qreal size)
-{
-    if (set(m_size, size))
-        setImplicitSize(m_size, m_size);
-}
-
-void DemoButton::setDim(bool dim)
-{
-    set(m_dim, dim);
+    const auto measure = [this] { setImplicitSize(m_size, m_size); };
+    connect(this, &DemoButton::changed, this, measure);
+    measure();
 }
 
 void DemoButton::paint(QPainter *painter)
@@ -67,9 +33,9 @@ void paintDemoButton(QPainter *painter, const QRectF &disc, OverlayButton kind, 
     const Themes::Look look = Themes::look(theme, kind);
     QPainterPath circle;
     circle.addEllipse(disc);
-    painter->fillPath(circle, faded(look.fill, dim ? 0.18F : 1));
+    painter->fillPath(circle, faded(look.fill, dim ? 0.18 : 1));
 
-    const QPen line(faded(look.glyph, dim ? 0.4F : 1), std::max(size / 15, 1.3), Qt::SolidLine, Qt::RoundCap,
+    const QPen line(faded(look.glyph, dim ? 0.4 : 1), std::max(size / 15, 1.3), Qt::SolidLine, Qt::RoundCap,
                     Qt::RoundJoin);
     painter->strokePath(ButtonGlyph{kind}.path(disc), line);
 
@@ -77,5 +43,5 @@ void paintDemoButton(QPainter *painter, const QRectF &disc, OverlayButton kind, 
     const qreal inset = ringWidth / 2;
     QPainterPath ring;
     ring.addEllipse(disc.adjusted(inset, inset, -inset, -inset));
-    painter->strokePath(ring, QPen(dim ? faded(Qt::white, 0.25F) : look.ring, ringWidth));
+    painter->strokePath(ring, QPen(dim ? faded(Qt::white, 0.25) : look.ring, ringWidth));
 }

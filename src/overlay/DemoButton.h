@@ -9,35 +9,21 @@ class DemoButton : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
     /// "close", "minimize" or "maximize". Any other text draws nothing.
-    Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY changed)
+    Q_PROPERTY(QString kind MEMBER m_kind NOTIFY changed)
     /// A theme's raw string. Any other text reads as "classic".
-    Q_PROPERTY(QString theme READ theme WRITE setTheme NOTIFY changed)
+    Q_PROPERTY(QString theme MEMBER m_theme NOTIFY changed)
     /// The diameter in points, drawn to the nearest device pixel; also the side of the item's implicit size. In an item
     /// of another size the button stands in the middle. Nothing is drawn at 0 or below.
-    Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY changed)
+    Q_PROPERTY(qreal size MEMBER m_size NOTIFY changed)
     /// Present but not active.
-    Q_PROPERTY(bool dim READ dim WRITE setDim NOTIFY changed)
+    Q_PROPERTY(bool dim MEMBER m_dim NOTIFY changed)
 public:
     explicit DemoButton(QQuickItem *parent = nullptr);
-
-    QString kind() const { return m_kind; }
-    void setKind(const QString &kind);
-    QString theme() const { return m_theme; }
-    void setTheme(const QString &theme);
-    qreal size() const { return m_size; }
-    void setSize(qreal size);
-    bool dim() const { return m_dim; }
-    void setDim(bool dim);
-
-signals:
-    void changed();
 
 protected:
     void paint(QPainter *painter) override;
 
 private:
-    template <typename Value> bool set(Value &member, const Value &value);
-
     QString m_kind = QStringLiteral("close");
     QString m_theme = Themes::rawValue(Themes::fallback);
     qreal m_size = 25;

@@ -7,16 +7,21 @@
 namespace {
 
 struct Entry {
-    const char *rawValue;
     const char *title;
     const char *description;
 };
 
-constexpr std::array<Entry, Themes::allCases.size()> entries = {{
-#define THEME(name, title, description) {#name, title, description},
-    OVERLAY_THEMES(THEME)
-#undef THEME
-}};
+// In the order of the themes.
+constexpr std::array entries = {
+    Entry{QT_TRANSLATE_NOOP("Theme", "Classic"),
+          QT_TRANSLATE_NOOP("Theme", "The familiar macOS red, yellow and green.")},
+    Entry{QT_TRANSLATE_NOOP("Theme", "Soft"), QT_TRANSLATE_NOOP("Theme", "The same colors, calmer and less bright.")},
+    Entry{QT_TRANSLATE_NOOP("Theme", "Graphite"),
+          QT_TRANSLATE_NOOP("Theme", "Shades of grey. Tell them apart by shape.")},
+    Entry{QT_TRANSLATE_NOOP("Theme", "Mono"), QT_TRANSLATE_NOOP("Theme", "Pure black and white.")},
+    Entry{QT_TRANSLATE_NOOP("Theme", "No color"), QT_TRANSLATE_NOOP("Theme", "Clear outlines, nothing colored.")},
+};
+static_assert(entries.size() == Themes::allCases.size());
 
 const Entry &entry(Theme theme)
 {
@@ -63,20 +68,6 @@ constexpr std::array<Row, Themes::allCases.size()> looks = {{
 
 }
 
-std::optional<Theme> Themes::fromRawValue(QStringView rawValue)
-{
-    for (const Theme theme : allCases) {
-        if (rawValue == QLatin1String(entry(theme).rawValue))
-            return theme;
-    }
-    return std::nullopt;
-}
-
-QString Themes::rawValue(Theme theme)
-{
-    return QString::fromLatin1(entry(theme).rawValue);
-}
-
 QString Themes::title(Theme theme)
 {
     return QCoreApplication::translate("Theme", entry(theme).title);
@@ -96,5 +87,5 @@ Themes::Look Themes::look(Theme theme, OverlayButton button)
 
 QColor Themes::color(QStringView hexadecimal)
 {
-    return hex(hexadecimal).value_or(QColor(0x80, 0x80, 0x80));
+    return EBKitColor::hex(hexadecimal).value_or(QColor(0x80, 0x80, 0x80));
 }

@@ -2,7 +2,6 @@
 
 #include "ContinuousRectangle.h"
 #include "EBKit.h"
-#include "Platform.h"
 
 #include <QPainter>
 
@@ -25,19 +24,7 @@ qreal lineShare(int line, int count)
 
 WindowFace::WindowFace(QQuickItem *parent) : CrispItem(parent)
 {
-    connect(&Platform::current().appearance(), &Appearance::changed, this, &WindowFace::update);
-}
-
-void WindowFace::setCompact(bool compact)
-{
-    if (assign(m_compact, compact))
-        emit compactChanged();
-}
-
-void WindowFace::setContentTop(qreal top)
-{
-    if (assign(m_contentTop, top))
-        emit contentTopChanged();
+    connect(this, &WindowFace::contentTopChanged, this, &WindowFace::update);
 }
 
 void WindowFace::paint(QPainter *painter)

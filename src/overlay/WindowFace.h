@@ -8,25 +8,21 @@ class WindowFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
     /// The form for a window among many: smaller corners and a narrower strip.
-    Q_PROPERTY(bool compact READ compact WRITE setCompact NOTIFY compactChanged)
+    Q_PROPERTY(bool compact MEMBER m_compact NOTIFY changed)
     /// How far content stays away from the sides, in points.
-    Q_PROPERTY(qreal margin READ margin NOTIFY compactChanged)
+    Q_PROPERTY(qreal margin READ margin NOTIFY changed)
     /// The height of the title strip in points.
-    Q_PROPERTY(qreal stripHeight READ stripHeight NOTIFY compactChanged)
-    /// Where the lines of content begin, in points from the top.
-    Q_PROPERTY(qreal contentTop READ contentTop WRITE setContentTop NOTIFY contentTopChanged)
+    Q_PROPERTY(qreal stripHeight READ stripHeight NOTIFY changed)
+    /// Where the lines of content begin, in points from the top. It has a signal of its own because views compute it
+    /// from the properties above.
+    Q_PROPERTY(qreal contentTop MEMBER m_contentTop NOTIFY contentTopChanged)
 public:
     explicit WindowFace(QQuickItem *parent = nullptr);
 
-    bool compact() const { return m_compact; }
-    void setCompact(bool compact);
     qreal margin() const { return m_compact ? 10 : 12; }
     qreal stripHeight() const { return m_compact ? 16 : 18; }
-    qreal contentTop() const { return m_contentTop; }
-    void setContentTop(qreal top);
 
 signals:
-    void compactChanged();
     void contentTopChanged();
 
 protected:

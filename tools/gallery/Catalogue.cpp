@@ -14,8 +14,8 @@ Catalogue::Catalogue(QObject *parent) : QObject(parent)
 QStringList Catalogue::glyphs() const
 {
     QStringList names;
-    for (const GlyphName glyph : allGlyphNames())
-        names.append(rawValue(glyph));
+    for (const GlyphName glyph : GlyphNames::allCases)
+        names.append(GlyphNames::rawValue(glyph));
     return names;
 }
 

@@ -12,7 +12,6 @@
 #include "EBKitSeparator.h"
 #include "KitEnvironment.h"
 #include "KitText.h"
-#include "Platform.h"
 
 #include <QCoreApplication>
 #include <QFocusEvent>
@@ -51,31 +50,16 @@ EBKitView *beside(const QList<EBKitView *> &views)
 
 PanelPicture::PanelPicture(QQuickItem *parent) : CrispItem(parent)
 {
-    connect(&Platform::current().appearance(), &Appearance::changed, this, &PanelPicture::update);
+    connect(this, &PanelPicture::changed, this, &PanelPicture::build);
     build();
 }
 
 PanelPicture::~PanelPicture() = default;
 
-void PanelPicture::setApp(const QString &rawValue)
-{
-    if (!assign(m_app, EBApps::fromRawValue(rawValue).value_or(m_app)))
-        return;
-    build();
-    emit changed();
-}
-
-void PanelPicture::setMirrored(bool mirrored)
-{
-    if (!assign(m_mirrored, mirrored))
-        return;
-    build();
-    emit changed();
-}
-
 void PanelPicture::build()
 {
-    const EBKitApp product = EBKitApps::of(m_app);
+    const EBApp app = EBApps::fromRawValue(m_app).value_or(EBApp::corvane);
+    const EBKitApp product = EBKitApps::of(app);
     const auto title = [](const QString &string) { return text(string, EBTypeRole::bodyStrong); };
     const auto detail = [](const QString &string) { return text(string, EBTypeRole::caption, EBKit::inkMuted()); };
     const auto label = [](const QString &string) { return text(string, EBTypeRole::mono, EBKit::inkMuted()); };
@@ -100,7 +84,7 @@ void PanelPicture::build()
     hoveredIcon->setHover(true);
 
     m_panel = std::make_unique<EBKitPanelView>();
-    KitEnvironment::setEbApp(*m_panel, m_app);
+    KitEnvironment::setEbApp(*m_panel, app);
     m_panel->setLayoutDirection(m_mirrored ? Qt::RightToLeft : Qt::LeftToRight);
     m_panel->stack({
         new EBKitPanelHeader(product, label(tr("Menu bar")), text(product.name, EBTypeRole::lead)),

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "CrispItem.h"
-#include "EBApp.h"
 
 #include <memory>
 
@@ -13,19 +12,11 @@ class PanelPicture : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
     /// The product's raw string.
-    Q_PROPERTY(QString app READ app WRITE setApp NOTIFY changed)
-    Q_PROPERTY(bool mirrored READ mirrored WRITE setMirrored NOTIFY changed)
+    Q_PROPERTY(QString app MEMBER m_app NOTIFY changed)
+    Q_PROPERTY(bool mirrored MEMBER m_mirrored NOTIFY changed)
 public:
     explicit PanelPicture(QQuickItem *parent = nullptr);
     ~PanelPicture() override;
-
-    QString app() const { return EBApps::rawValue(m_app); }
-    void setApp(const QString &rawValue);
-    bool mirrored() const { return m_mirrored; }
-    void setMirrored(bool mirrored);
-
-signals:
-    void changed();
 
 protected:
     void paint(QPainter *painter) override;
@@ -33,7 +24,7 @@ protected:
 private:
     void build();
 
-    EBApp m_app = EBApp::corvane;
+    QString m_app = QStringLiteral("corvane");
     bool m_mirrored = false;
     std::unique_ptr<EBKitPanelView> m_panel;
 };

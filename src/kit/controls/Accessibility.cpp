@@ -1,13 +1,13 @@
 #include "Accessibility.h"
 
 #include "AccessibleAction.h"
+#include "EBAccessible.h"
 #include "Platform.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>
 #include <QGuiApplication>
 #include <QPointer>
-#include <QQmlListReference>
 #include <QQuickItem>
 
 namespace {
@@ -15,21 +15,24 @@ namespace {
 /// The item, or one around it, declares that it is hidden.
 bool isHidden(const QQuickItem *item)
 {
-    return item && (item->property("accessibleHidden").toBool() || isHidden(item->parentItem()));
+    if (!item)
+        return false;
+    const EBAccessible *declared = EBAccessible::of(item);
+    return (declared && declared->hidden()) || isHidden(item->parentItem());
 }
 
 /// What Qt says about an item, with the corrections. Qt's own interface of the item stays in Qt's cache and
 /// belongs to it, so it is looked up whenever it is needed: it may go first.
-class MendedItem : public QAccessibleInterface, public QAccessibleActionInterface {
+class ItemProxy : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    MendedItem(QQuickItem *item, QAccessible::Id original)
+    ItemProxy(QQuickItem *item, QAccessible::Id original)
         : m_item(item),
           m_original(original),
           m_enabledChanged(QObject::connect(item, &QQuickItem::enabledChanged, item, [item] { announce(item); }))
     {
     }
-    ~MendedItem() override { QObject::disconnect(m_enabledChanged); }
-    Q_DISABLE_COPY_MOVE(MendedItem)
+    ~ItemProxy() override { QObject::disconnect(m_enabledChanged); }
+    Q_DISABLE_COPY_MOVE(ItemProxy)
 
     bool isValid() const override { return m_item && original() && original()->isValid(); }
     QObject *object() const override { return m_item; }
@@ -54,10 +57,10 @@ public:
         if (!actions)
             return {};
         QStringList names = actions->actionNames();
-        if (isPressableItem() && !names.contains(pressAction()))
-            names.prepend(pressAction());
-        if (!takesFocus())
-            names.removeAll(setFocusAction());
+        names.removeDuplicates();
+        // The first action is the one that a screen reader carries out unasked.
+        if (names.removeAll(setFocusAction()) > 0 && takesFocus())
+            names.append(setFocusAction());
         const QList<AccessibleAction *> own = ownActions();
         for (const AccessibleAction *action : own)
             names.append(action->name());
@@ -107,9 +110,9 @@ public:
     }
     QAccessibleInterface *childAt(int x, int y) const override
     {
-        return isValid() ? mended(original()->childAt(x, y)) : nullptr;
+        return isValid() ? proxyOf(original()->childAt(x, y)) : nullptr;
     }
-    QAccessibleInterface *focusChild() const override { return isValid() ? mended(original()->focusChild()) : nullptr; }
+    QAccessibleInterface *focusChild() const override { return isValid() ? proxyOf(original()->focusChild()) : nullptr; }
     QList<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(QAccessible::Relation match) const override
     {
         return isValid() ? original()->relations(match) : decltype(relations(match))();
@@ -125,8 +128,8 @@ public:
     {
         if (!isValid())
             return QAccessible::NoRole;
-        const QVariant declared = m_item->property("accessibleRole");
-        return declared.isValid() ? QAccessible::Role(declared.toInt()) : original()->role();
+        const EBAccessible *declared = EBAccessible::of(m_item);
+        return declared && declared->role() != QAccessible::NoRole ? declared->role() : original()->role();
     }
     QColor foregroundColor() const override { return isValid() ? original()->foregroundColor() : QColor(); }
     QColor backgroundColor() const override { return isValid() ? original()->backgroundColor() : QColor(); }
@@ -148,9 +151,9 @@ private:
 
     QAccessibleInterface *original() const { return QAccessible::accessibleInterface(m_original); }
 
-    QAccessibleInterface *mended(QAccessibleInterface *found) const
+    QAccessibleInterface *proxyOf(QAccessibleInterface *found) const
     {
-        return found == original() ? const_cast<MendedItem *>(this) : found;
+        return found == original() ? const_cast<ItemProxy *>(this) : found;
     }
 
     QAccessibleActionInterface *enabledActions() const
@@ -158,16 +161,11 @@ private:
         return isValid() && m_item->isEnabled() ? original()->actionInterface() : nullptr;
     }
 
-    /// The actions that the item itself declares.
+    /// The actions that stand in the item.
     QList<AccessibleAction *> ownActions() const
     {
-        QList<AccessibleAction *> found;
-        const QQmlListReference declared(m_item, "accessibleActions");
-        for (qsizetype i = 0; i < declared.count(); ++i) {
-            auto *action = qobject_cast<AccessibleAction *>(declared.at(i));
-            if (action && !action->name().isEmpty())
-                found.append(action);
-        }
+        auto found = m_item->findChildren<AccessibleAction *>(QString(), Qt::FindDirectChildrenOnly);
+        found.removeIf([](const AccessibleAction *action) { return action->name().isEmpty(); });
         return found;
     }
 
@@ -182,13 +180,6 @@ private:
     bool takesFocus() const
     {
         return m_item->isEnabled() && (role() != QAccessible::StaticText || m_item->activeFocusOnTab());
-    }
-
-    bool isPressableItem() const
-    {
-        const QAccessible::Role kind = role();
-        return (kind == QAccessible::PageTab || kind == QAccessible::ListItem)
-            && m_item->metaObject()->indexOfMethod("accessiblePressAction()") >= 0;
     }
 
     QPointer<QQuickItem> m_item;
@@ -209,7 +200,7 @@ public:
     }
 };
 
-QAccessibleInterface *mend(const QString &className, QObject *object)
+QAccessibleInterface *makeProxy(const QString &className, QObject *object)
 {
     if (object == qApp)
         return new NamedApplication;
@@ -224,7 +215,7 @@ QAccessibleInterface *mend(const QString &className, QObject *object)
     QAccessibleInterface *original = QAccessible::queryAccessibleInterface(item);
     askingQt = false;
     // Both are now in the cache for this item, and the cache hands out the younger one, which is ours.
-    return original ? new MendedItem(item, QAccessible::uniqueId(original)) : nullptr;
+    return original ? new ItemProxy(item, QAccessible::uniqueId(original)) : nullptr;
 }
 
 }
@@ -232,7 +223,7 @@ QAccessibleInterface *mend(const QString &className, QObject *object)
 void installKitAccessibility()
 {
     static const bool installed = [] {
-        QAccessible::installFactory(mend);
+        QAccessible::installFactory(makeProxy);
         return true;
     }();
     Q_UNUSED(installed)

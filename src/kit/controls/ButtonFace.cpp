@@ -8,47 +8,15 @@
 
 #include <cmath>
 
-ButtonFace::ButtonFace(QQuickItem *parent) : CrispItem(parent) { }
-
-template <typename Value> bool ButtonFace::set(Value &member, const Value &value)
+ButtonFace::ButtonFace(QQuickItem *parent) : CrispItem(parent)
 {
-    if (!assign(member, value))
-        return false;
-    measure();
-    emit changed();
-    return true;
+    connect(this, &ButtonFace::changed, this, &ButtonFace::measure);
 }
 
-void ButtonFace::setText(const QString &text)
+EBButtonStyle ButtonFace::style() const
 {
-    set(m_text, text);
-}
-
-void ButtonFace::setVariant(const QString &rawValue)
-{
-    m_style.variant = EBButtonStyle::parseVariant(rawValue).value_or(EBButtonStyle::Variant::primary);
-    set(m_variant, rawValue);
-}
-
-void ButtonFace::setSize(const QString &rawValue)
-{
-    m_style.size = EBButtonStyle::parseSize(rawValue).value_or(EBButtonStyle::Size::md);
-    set(m_size, rawValue);
-}
-
-void ButtonFace::setArrow(bool arrow)
-{
-    set(m_style.arrow, arrow);
-}
-
-void ButtonFace::setPressed(bool pressed)
-{
-    set(m_pressed, pressed);
-}
-
-void ButtonFace::setMirrored(bool mirrored)
-{
-    set(m_mirrored, mirrored);
+    return {EBButtonStyle::Variants::fromRawValue(m_variant).value_or(EBButtonStyle::Variant::primary),
+            EBButtonStyle::Sizes::fromRawValue(m_size).value_or(EBButtonStyle::Size::md), m_arrow};
 }
 
 void ButtonFace::componentComplete()
@@ -63,26 +31,28 @@ void ButtonFace::measure()
 {
     if (!isComponentComplete())
         return;
-    const EBButtonStyle::Geometry geometry = m_style.geometry();
-    m_labelWidth = std::ceil(QFontMetricsF(m_style.font()).horizontalAdvance(m_text));
-    const qreal badge = m_style.arrow ? geometry.spacing + geometry.badgeDiameter : 0;
+    const EBButtonStyle style = this->style();
+    const EBButtonStyle::Geometry geometry = style.geometry();
+    m_labelWidth = std::ceil(QFontMetricsF(style.font()).horizontalAdvance(m_text));
+    const qreal badge = m_arrow ? geometry.spacing + geometry.badgeDiameter : 0;
     setImplicitSize(geometry.leadingPadding + m_labelWidth + badge + geometry.trailingPadding, geometry.height);
-    setBleed(m_style.arrow ? std::max(0.0, (geometry.badgeDiameter - geometry.height) / 2) : 0);
+    setBleed(m_arrow ? std::max(0.0, (geometry.badgeDiameter - geometry.height) / 2) : 0);
 }
 
 void ButtonFace::paint(QPainter *painter)
 {
     if (!m_environment)
         return;
-    const EBButtonStyle::Geometry geometry = m_style.geometry();
-    const EBButtonStyle::Colors colors = m_style.colors(m_environment->ebApp(), m_pressed);
+    const EBButtonStyle style = this->style();
+    const EBButtonStyle::Geometry geometry = style.geometry();
+    const EBButtonStyle::Colors colors = style.colors(m_environment->ebApp(), m_pressed);
     const QRectF bounds = pixelBounds();
     paintCapsule(painter, bounds, colors.fill, colors.border);
 
     const qreal leading = geometry.leadingPadding;
-    paintButtonLabel(painter, m_style.font(), m_text, colors.foreground,
+    paintButtonLabel(painter, style.font(), m_text, colors.foreground,
                      m_mirrored ? bounds.right() - leading - m_labelWidth : leading, height());
-    if (!m_style.arrow)
+    if (!m_arrow)
         return;
     const qreal diameter = geometry.badgeDiameter;
     const qreal x = leading + m_labelWidth + geometry.spacing;
@@ -100,7 +70,7 @@ void ButtonFace::paintBadge(QPainter *painter, QRectF circle, const EBButtonStyl
         painter->translate(2 * circle.center().x(), 0);
         painter->scale(-1, 1);
     }
-    paintGlyph(painter, GlyphName::arrow, m_style.geometry().arrowSize, colors.foreground, circle);
+    paintGlyph(painter, GlyphName::arrow, style().geometry().arrowSize, colors.foreground, circle);
     painter->restore();
 }
 

@@ -9,47 +9,31 @@
 class ButtonFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
+    Q_PROPERTY(QString text MEMBER m_text NOTIFY changed)
     /// "primary", "secondary", "onLoud" or "plain"; any other text reads as "primary".
-    Q_PROPERTY(QString variant READ variant WRITE setVariant NOTIFY changed)
+    Q_PROPERTY(QString variant MEMBER m_variant NOTIFY changed)
     /// "md", "sm" or "xs"; any other text reads as "md".
-    Q_PROPERTY(QString size READ size WRITE setSize NOTIFY changed)
-    Q_PROPERTY(bool arrow READ arrow WRITE setArrow NOTIFY changed)
-    Q_PROPERTY(bool pressed READ pressed WRITE setPressed NOTIFY changed)
+    Q_PROPERTY(QString size MEMBER m_size NOTIFY changed)
+    Q_PROPERTY(bool arrow MEMBER m_arrow NOTIFY changed)
+    Q_PROPERTY(bool pressed MEMBER m_pressed NOTIFY changed)
     /// The label stands at the right, and the arrow points left.
-    Q_PROPERTY(bool mirrored READ mirrored WRITE setMirrored NOTIFY changed)
+    Q_PROPERTY(bool mirrored MEMBER m_mirrored NOTIFY changed)
 public:
     explicit ButtonFace(QQuickItem *parent = nullptr);
-
-    QString text() const { return m_text; }
-    void setText(const QString &text);
-    QString variant() const { return m_variant; }
-    void setVariant(const QString &rawValue);
-    QString size() const { return m_size; }
-    void setSize(const QString &rawValue);
-    bool arrow() const { return m_style.arrow; }
-    void setArrow(bool arrow);
-    bool pressed() const { return m_pressed; }
-    void setPressed(bool pressed);
-    bool mirrored() const { return m_mirrored; }
-    void setMirrored(bool mirrored);
-
-signals:
-    void changed();
 
 protected:
     void paint(QPainter *painter) override;
     void componentComplete() override;
 
 private:
-    template <typename Value> bool set(Value &member, const Value &value);
+    EBButtonStyle style() const;
     void measure();
     void paintBadge(QPainter *painter, QRectF circle, const EBButtonStyle::Colors &colors) const;
 
     QString m_text;
     QString m_variant = QStringLiteral("primary");
     QString m_size = QStringLiteral("md");
-    EBButtonStyle m_style;
+    bool m_arrow = false;
     bool m_pressed = false;
     bool m_mirrored = false;
     qreal m_labelWidth = 0;

@@ -4,32 +4,6 @@
 
 #include <QPainter>
 
-template <typename Value> void ContinuousRectangle::set(Value &member, const Value &value)
-{
-    if (assign(member, value))
-        emit changed();
-}
-
-void ContinuousRectangle::setColor(const QColor &color)
-{
-    set(m_color, color);
-}
-
-void ContinuousRectangle::setStrokeColor(const QColor &color)
-{
-    set(m_strokeColor, color);
-}
-
-void ContinuousRectangle::setStrokeWidth(qreal width)
-{
-    set(m_strokeWidth, width);
-}
-
-void ContinuousRectangle::setRadius(qreal radius)
-{
-    set(m_radius, radius);
-}
-
 bool ContinuousRectangle::contains(const QPointF &point) const
 {
     return continuousRect(boundingRect(), m_radius).contains(point);

@@ -10,35 +10,21 @@
 class ContinuousRectangle : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
-    Q_PROPERTY(QColor strokeColor READ strokeColor WRITE setStrokeColor NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(QColor strokeColor MEMBER m_strokeColor NOTIFY changed)
     /// Points, drawn inside the edge; 0 draws none.
-    Q_PROPERTY(qreal strokeWidth READ strokeWidth WRITE setStrokeWidth NOTIFY changed)
+    Q_PROPERTY(qreal strokeWidth MEMBER m_strokeWidth NOTIFY changed)
     /// Points; half the short side and beyond gives true half circles, and that is what it starts with.
-    Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY changed)
+    Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed)
 public:
     using CrispItem::CrispItem;
 
-    QColor color() const { return m_color; }
-    void setColor(const QColor &color);
-    QColor strokeColor() const { return m_strokeColor; }
-    void setStrokeColor(const QColor &color);
-    qreal strokeWidth() const { return m_strokeWidth; }
-    void setStrokeWidth(qreal width);
-    qreal radius() const { return m_radius; }
-    void setRadius(qreal radius);
-
     bool contains(const QPointF &point) const override;
-
-signals:
-    void changed();
 
 protected:
     void paint(QPainter *painter) override;
 
 private:
-    template <typename Value> void set(Value &member, const Value &value);
-
     QColor m_color = Qt::transparent;
     QColor m_strokeColor = Qt::transparent;
     qreal m_strokeWidth = 0;

@@ -18,17 +18,13 @@ T.CheckBox {
         isFlipping = false;
         return checkState;
     }
-    function accessiblePressAction() {
-        flip();
-    }
-    function accessibleToggleAction() {
-        flip();
-    }
 
     checkState: isOn ? Qt.Checked : Qt.Unchecked
     nextCheckState: flip
     Accessible.name: text
     Accessible.checked: isOn
+    Accessible.onPressAction: flip()
+    Accessible.onToggleAction: flip()
     Keys.onReturnPressed: event => event.isAutoRepeat || control.flip()
     Keys.onEnterPressed: event => event.isAutoRepeat || control.flip()
 }

@@ -2,15 +2,14 @@
 
 #include "EBKit.h"
 
+using Embera::faded;
+
 namespace {
 
 using Variant = EBButtonStyle::Variant;
 using Size = EBButtonStyle::Size;
 
-constexpr std::array variants = {"primary", "secondary", "onLoud", "plain"};
-
 struct SizeEntry {
-    const char *rawValue;
     qreal height;
     EBTypeRole role;
     // 0 keeps the role's own.
@@ -22,12 +21,14 @@ struct SizeEntry {
     qreal arrowSize;
 };
 
+// In the order of the sizes.
 constexpr std::array sizes = {
-    SizeEntry{"md", 40, EBTypeRole::lead, 0, 10, 20, 5, 30, 15},
-    SizeEntry{"sm", 32, EBTypeRole::bodyStrong, 0, 8, 15, 4, 24, 13},
+    SizeEntry{40, EBTypeRole::lead, 0, 10, 20, 5, 30, 15},
+    SizeEntry{32, EBTypeRole::bodyStrong, 0, 8, 15, 4, 24, 13},
     // The badge is taller than the button; it keeps its size and stands out above and below.
-    SizeEntry{"xs", 24, EBTypeRole::small, QFont::DemiBold, 8, 11, 5, 30, 15},
+    SizeEntry{24, EBTypeRole::small, QFont::DemiBold, 8, 11, 5, 30, 15},
 };
+static_assert(sizes.size() == EBButtonStyle::Sizes::allCases.size());
 
 constexpr qreal plainPadding = 8;
 
@@ -36,30 +37,6 @@ const SizeEntry &entry(Size size)
     return sizes[static_cast<std::size_t>(size)];
 }
 
-QColor faded(QColor color, qreal opacity)
-{
-    color.setAlphaF(float(color.alphaF() * opacity));
-    return color;
-}
-
-}
-
-std::optional<Variant> EBButtonStyle::parseVariant(QStringView rawValue)
-{
-    for (std::size_t i = 0; i < variants.size(); ++i) {
-        if (rawValue == QLatin1String(variants[i]))
-            return Variant(i);
-    }
-    return std::nullopt;
-}
-
-std::optional<Size> EBButtonStyle::parseSize(QStringView rawValue)
-{
-    for (std::size_t i = 0; i < sizes.size(); ++i) {
-        if (rawValue == QLatin1String(sizes[i].rawValue))
-            return Size(i);
-    }
-    return std::nullopt;
 }
 
 EBButtonStyle::Geometry EBButtonStyle::geometry() const

@@ -10,14 +10,12 @@
 struct EBButtonStyle {
     enum class Variant { primary, secondary, onLoud, plain };
     enum class Size { md, sm, xs };
+    using Variants = NamedCases<Variant>;
+    using Sizes = NamedCases<Size>;
 
     Variant variant = Variant::primary;
     Size size = Size::md;
     bool arrow = false;
-
-    /// The raw strings are the case names; none for any other text.
-    static std::optional<Variant> parseVariant(QStringView rawValue);
-    static std::optional<Size> parseSize(QStringView rawValue);
 
     /// Points.
     struct Geometry {

@@ -2,15 +2,12 @@ import QtQuick
 import QtQuick.Templates as T
 
 /// What every button of the kit does: it is named by its text, and Return, Enter and an assistive technology press it
-/// as Space does. One that is a tab or an item of a list declares the property `accessibleRole`.
+/// as Space does. One that is a tab or an item of a list says so with `EBAccessible.role`.
 T.AbstractButton {
     id: control
 
-    function accessiblePressAction() {
-        clicked();
-    }
-
     Accessible.name: text
+    Accessible.onPressAction: clicked()
     // What nobody sees must take no key.
     onVisibleChanged: if (!visible)
         focus = false

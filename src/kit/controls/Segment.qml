@@ -10,12 +10,12 @@ ControlledToggle {
     required property var modelData
     /// What the ring of the keyboard focus goes around.
     required property Item ringParent
-    readonly property int accessibleRole: Accessible.RadioButton
 
     text: modelData.title
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 24
     horizontalPadding: 14
+    EBAccessible.role: Accessible.RadioButton
 
     background: ContinuousRectangle {
         color: EB.segOn

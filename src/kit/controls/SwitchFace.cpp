@@ -1,6 +1,7 @@
 #include "SwitchFace.h"
 
 #include "ContinuousRectangle.h"
+#include "EBKitColor.h"
 
 #include <algorithm>
 
@@ -47,7 +48,6 @@ void paintSwitch(QPainter *painter, qreal position, bool mirrored, const SwitchC
 
     const qreal travel = switchSize.width() - knobSize.width() - 2 * inset;
     const qreal x = inset + travel * (mirrored ? 1 - position : position);
-    QColor border = colors.knobBorder;
-    border.setAlphaF(float(border.alphaF() * (1 - position)));
-    paintCapsule(painter, QRectF(QPointF(x, inset), knobSize), colors.knob, border);
+    paintCapsule(painter, QRectF(QPointF(x, inset), knobSize), colors.knob,
+                 Embera::faded(colors.knobBorder, 1 - position));
 }

@@ -12,37 +12,21 @@ inline constexpr QSizeF switchSize(36, 22);
 class SwitchFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(qreal position MEMBER m_position WRITE setPosition NOTIFY changed)
+    Q_PROPERTY(qreal position MEMBER m_position NOTIFY changed)
     /// On is at the left.
-    Q_PROPERTY(bool mirrored MEMBER m_mirrored WRITE setMirrored NOTIFY changed)
-    Q_PROPERTY(QColor trackColor MEMBER m_trackColor WRITE setTrackColor NOTIFY changed)
-    Q_PROPERTY(QColor accentColor MEMBER m_accentColor WRITE setAccentColor NOTIFY changed)
-    Q_PROPERTY(QColor knobColor MEMBER m_knobColor WRITE setKnobColor NOTIFY changed)
+    Q_PROPERTY(bool mirrored MEMBER m_mirrored NOTIFY changed)
+    Q_PROPERTY(QColor trackColor MEMBER m_trackColor NOTIFY changed)
+    Q_PROPERTY(QColor accentColor MEMBER m_accentColor NOTIFY changed)
+    Q_PROPERTY(QColor knobColor MEMBER m_knobColor NOTIFY changed)
     /// The knob's border while it is off; it fades away on the way to on.
-    Q_PROPERTY(QColor knobBorderColor MEMBER m_knobBorderColor WRITE setKnobBorderColor NOTIFY changed)
+    Q_PROPERTY(QColor knobBorderColor MEMBER m_knobBorderColor NOTIFY changed)
 public:
     explicit SwitchFace(QQuickItem *parent = nullptr);
-
-    void setPosition(qreal position) { set(m_position, position); }
-    void setMirrored(bool mirrored) { set(m_mirrored, mirrored); }
-    void setTrackColor(const QColor &color) { set(m_trackColor, color); }
-    void setAccentColor(const QColor &color) { set(m_accentColor, color); }
-    void setKnobColor(const QColor &color) { set(m_knobColor, color); }
-    void setKnobBorderColor(const QColor &color) { set(m_knobBorderColor, color); }
-
-signals:
-    void changed();
 
 protected:
     void paint(QPainter *painter) override;
 
 private:
-    template <typename Value> void set(Value &member, const Value &value)
-    {
-        if (assign(member, value))
-            emit changed();
-    }
-
     qreal m_position = 0;
     bool m_mirrored = false;
     QColor m_trackColor;

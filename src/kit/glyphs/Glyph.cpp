@@ -8,35 +8,15 @@
 
 Glyph::Glyph(QQuickItem *parent) : CrispItem(parent)
 {
-    setImplicitSize(m_size, m_size);
-}
-
-void Glyph::setName(const QString &name)
-{
-    if (!assign(m_name, name))
-        return;
-    m_glyph = glyphName(name);
-    emit nameChanged();
-}
-
-void Glyph::setSize(qreal size)
-{
-    if (!assign(m_size, size))
-        return;
-    setImplicitSize(m_size, m_size);
-    emit sizeChanged();
-}
-
-void Glyph::setColor(const QColor &color)
-{
-    if (assign(m_color, color))
-        emit colorChanged();
+    const auto measure = [this] { setImplicitSize(m_size, m_size); };
+    connect(this, &Glyph::changed, this, measure);
+    measure();
 }
 
 void Glyph::paint(QPainter *painter)
 {
-    if (m_glyph)
-        paintGlyph(painter, *m_glyph, m_size, m_color, boundingRect());
+    if (const auto glyph = GlyphNames::fromRawValue(m_name))
+        paintGlyph(painter, *glyph, m_size, m_color, boundingRect());
 }
 
 // Most glyphs have a line through their middle. On a screen with few pixels a point it is only sharp if it

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "CaseNames.h"
+
 #include <QPainterPath>
-#include <QString>
 
-#include <optional>
-#include <span>
-
-/// Every glyph there is, declared once and in order: both enumerations, their raw strings, their lists of
-/// cases and the look-up of the geometry derive from it.
+/// Every glyph there is, declared once and in order: all enumerations of glyphs and the look-up of the geometry derive
+/// from it.
 // clang-format off
 #define KIT_GLYPHS(GLYPH)                                                                                   \
     GLYPH(apps) GLYPH(arrow) GLYPH(buds) GLYPH(call) GLYPH(check) GLYPH(chevrons) GLYPH(clock) GLYPH(close) \
@@ -25,16 +23,9 @@ enum class GlyphName {
 #undef GLYPH
 };
 
-/// All glyphs, in case order.
-std::span<const GlyphName> allGlyphNames();
-
-/// The glyph's raw string, which is its case name.
-QString rawValue(GlyphName name);
-
-/// The glyph of that raw string; none for any other text. Upper and lower case differ.
-std::optional<GlyphName> glyphName(QStringView rawValue);
-
-/// The glyph's outline in grid units, 24 x 24 with the origin at the top left and y growing downwards. It is
-/// made to be stroked, 1.6 units wide with round caps and joins, and never filled. Rounded rectangles have
-/// continuous corners.
-QPainterPath path(GlyphName name);
+struct GlyphNames : NamedCases<GlyphName> {
+    /// The glyph's outline in grid units, 24 x 24 with the origin at the top left and y growing downwards. It is
+    /// made to be stroked, 1.6 units wide with round caps and joins, and never filled. Rounded rectangles have
+    /// continuous corners.
+    static QPainterPath path(GlyphName name);
+};

@@ -12,5 +12,5 @@ QPainterPath GlyphShape::path(const QRectF &rect) const
     const QPointF origin = box.center() - QPointF(k, k) * glyphGridSide / 2;
     if (!std::isfinite(k) || !std::isfinite(origin.x()) || !std::isfinite(origin.y()))
         return {};
-    return QTransform(k, 0, 0, k, origin.x(), origin.y()).map(::path(name));
+    return QTransform(k, 0, 0, k, origin.x(), origin.y()).map(GlyphNames::path(name));
 }

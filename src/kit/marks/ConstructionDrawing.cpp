@@ -5,7 +5,6 @@
 #include "EBKit.h"
 #include "EBType.h"
 #include "MarkGeometry.h"
-#include "Platform.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -240,13 +239,6 @@ void Sheet::drawText(QPointF leftEnd, qreal width, const QString &text)
 ConstructionDrawing::ConstructionDrawing(QQuickItem *parent) : CrispItem(parent)
 {
     setImplicitSize(spaceWidth, spaceHeight);
-    connect(&Platform::current().appearance(), &Appearance::changed, this, &QQuickItem::update);
-}
-
-void ConstructionDrawing::setApp(const QString &rawValue)
-{
-    if (assign(m_app, rawValue))
-        emit appChanged();
 }
 
 QString ConstructionDrawing::displayName() const

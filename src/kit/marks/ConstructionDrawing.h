@@ -8,17 +8,12 @@ class ConstructionDrawing : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
     /// "quiller", "corvane" or "parcelo". Any other text draws the empty ground and has no display name.
-    Q_PROPERTY(QString app READ app WRITE setApp NOTIFY appChanged)
-    Q_PROPERTY(QString displayName READ displayName NOTIFY appChanged)
+    Q_PROPERTY(QString app MEMBER m_app NOTIFY changed)
+    Q_PROPERTY(QString displayName READ displayName NOTIFY changed)
 public:
     explicit ConstructionDrawing(QQuickItem *parent = nullptr);
 
-    QString app() const { return m_app; }
-    void setApp(const QString &rawValue);
     QString displayName() const;
-
-signals:
-    void appChanged();
 
 protected:
     void paint(QPainter *painter) override;

@@ -6,55 +6,9 @@
 
 #include <vector>
 
-DotField::DotField(QQuickItem *parent) : CrispItem(parent) { }
-
-template <typename Value> bool DotField::set(Value &member, const Value &value)
+DotField::DotField(QQuickItem *parent) : CrispItem(parent)
 {
-    if (!assign(member, value))
-        return false;
-    emit changed();
-    return true;
-}
-
-void DotField::setApp(const QString &rawValue)
-{
-    set(m_app, rawValue);
-}
-
-void DotField::setArea(const QSizeF &area)
-{
-    if (set(m_area, area))
-        setImplicitSize(area.width(), area.height());
-}
-
-void DotField::setCell(qreal cell)
-{
-    set(m_cell, cell);
-}
-
-void DotField::setSeed(int seed)
-{
-    set(m_seed, seed);
-}
-
-void DotField::setDensity(qreal density)
-{
-    set(m_density, density);
-}
-
-void DotField::setRamp(qreal ramp)
-{
-    set(m_ramp, ramp);
-}
-
-void DotField::setMargin(qreal margin)
-{
-    set(m_margin, margin);
-}
-
-void DotField::setCalm(const QList<Zone> &calm)
-{
-    set(m_calm, calm);
+    connect(this, &DotField::changed, this, [this] { setImplicitSize(m_area.width(), m_area.height()); });
 }
 
 void DotField::paint(QPainter *painter)

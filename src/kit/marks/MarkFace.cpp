@@ -6,33 +6,15 @@
 
 MarkFace::MarkFace(QQuickItem *parent) : CrispItem(parent)
 {
-    setImplicitSize(m_size, m_size);
-}
-
-void MarkFace::setApp(const QString &rawValue)
-{
-    if (assign(m_app, rawValue))
-        emit appChanged();
+    const auto measure = [this] { setImplicitSize(m_size, m_size); };
+    connect(this, &MarkFace::changed, this, measure);
+    measure();
 }
 
 QString MarkFace::displayName() const
 {
     const auto product = EBApps::fromRawValue(m_app);
     return product ? EBApps::displayName(*product) : QString();
-}
-
-void MarkFace::setSize(qreal size)
-{
-    if (!assign(m_size, size))
-        return;
-    setImplicitSize(m_size, m_size);
-    emit sizeChanged();
-}
-
-void MarkFace::setColor(const QColor &color)
-{
-    if (assign(m_color, color))
-        emit colorChanged();
 }
 
 void MarkFace::paint(QPainter *painter)

@@ -1,5 +1,7 @@
 #include "CrispItem.h"
 
+#include "Platform.h"
+
 #include <QPainter>
 #include <QQuickWindow>
 #include <QSGImageNode>
@@ -9,6 +11,8 @@
 CrispItem::CrispItem(QQuickItem *parent) : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
+    connect(this, &CrispItem::changed, this, &QQuickItem::update);
+    connect(&Platform::current().appearance(), &Appearance::changed, this, &QQuickItem::update);
 }
 
 qreal CrispItem::scaleFactor() const
@@ -24,7 +28,10 @@ QRectF CrispItem::pixelBounds() const
 
 void CrispItem::setBleed(qreal bleed)
 {
-    assign(m_bleed, bleed);
+    if (m_bleed == bleed)
+        return;
+    m_bleed = bleed;
+    update();
 }
 
 QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)

@@ -8,12 +8,19 @@ class QPainter;
 ///
 /// Its picture is as many pixels as the item covers and is shown unscaled: a painted item of Qt Quick rounds
 /// its size to whole points, which stretches an odd size at a scale of 1.5. It is drawn anew only when the
-/// size, the scale or something the subclass announces with update() changes.
+/// size, the scale, the appearance or a property that notifies with `changed` changes.
+///
+/// A subclass declares what it draws as `Q_PROPERTY(… MEMBER m_x NOTIFY changed)`, and may take colours from the
+/// palette while it paints.
 class CrispItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS
 public:
     explicit CrispItem(QQuickItem *parent = nullptr);
+
+signals:
+    /// A property that shows has another value.
+    void changed();
 
 protected:
     /// Draws in points, the item's top left corner at the origin, antialiased, on a transparent ground.
@@ -29,16 +36,6 @@ protected:
     QSGNode *updatePaintNode(QSGNode *old, UpdatePaintNodeData *) override;
     void geometryChange(const QRectF &now, const QRectF &before) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
-
-    /// Stores a property's value; true when it differed, and then the item will be drawn anew.
-    template <typename Value> bool assign(Value &member, const Value &value)
-    {
-        if (member == value)
-            return false;
-        member = value;
-        update();
-        return true;
-    }
 
 private:
     qreal scaleFactor() const;

@@ -2,44 +2,17 @@
 
 #include "EBKit.h"
 
-namespace {
-
-struct Product {
-    EBApp app;
-    const char *rawValue;
-    const char *displayName;
-};
-
-constexpr std::array products = {
-    Product{EBApp::quiller, "quiller", "Quiller"},
-    Product{EBApp::corvane, "corvane", "Corvane"},
-    Product{EBApp::parcelo, "parcelo", "Parcelo"},
-};
-
-const Product &product(EBApp app)
-{
-    return products[static_cast<std::size_t>(app)];
-}
-
-}
-
-std::optional<EBApp> EBApps::fromRawValue(QStringView rawValue)
-{
-    for (const Product &candidate : products) {
-        if (rawValue == QLatin1String(candidate.rawValue))
-            return candidate.app;
-    }
-    return std::nullopt;
-}
-
-QString EBApps::rawValue(EBApp app)
-{
-    return QString::fromLatin1(product(app).rawValue);
-}
-
 QString EBApps::displayName(EBApp app)
 {
-    return QString::fromLatin1(product(app).displayName);
+    switch (app) {
+    case EBApp::quiller:
+        return QStringLiteral("Quiller");
+    case EBApp::corvane:
+        return QStringLiteral("Corvane");
+    case EBApp::parcelo:
+        return QStringLiteral("Parcelo");
+    }
+    Q_UNREACHABLE();
 }
 
 const EBApps::Family &EBApps::family(EBApp app)

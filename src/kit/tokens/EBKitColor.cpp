@@ -46,12 +46,12 @@ QColor EBKitColor::current() const
     return resolved(Platform::current().appearance().bestMatch());
 }
 
-EBKitColor eb(EBQuad light, EBQuad dark)
+EBKitColor EBKitColor::eb(EBQuad light, EBQuad dark)
 {
     return EBKitColor(srgb(light), srgb(dark));
 }
 
-std::optional<QColor> hex(QStringView text)
+std::optional<QColor> EBKitColor::hex(QStringView text)
 {
     text = trimmedWhitespace(text);
     if (text.startsWith(u'#'))
@@ -62,4 +62,10 @@ std::optional<QColor> hex(QStringView text)
     if (!value)
         return std::nullopt;
     return QColor(int(*value >> 16 & 0xff), int(*value >> 8 & 0xff), int(*value & 0xff));
+}
+
+QColor Embera::faded(QColor color, qreal opacity)
+{
+    color.setAlphaF(float(color.alphaF() * opacity));
+    return color;
 }

@@ -7,6 +7,11 @@
 
 #include <optional>
 
+/// sRGB components in 0…1.
+struct EBQuad {
+    float red, green, blue, alpha;
+};
+
 /// A colour that may differ between light and dark. The high-contrast appearances have no values of their
 /// own.
 class EBKitColor {
@@ -14,6 +19,12 @@ public:
     /// A fixed colour.
     constexpr EBKitColor(QColor color) : EBKitColor(color, color) { }
     constexpr EBKitColor(QColor light, QColor dark) : m_light(light), m_dark(dark) { }
+
+    static EBKitColor eb(EBQuad light, EBQuad dark);
+
+    /// Six hexadecimal digits, a leading hash sign and spaces or tabs at the ends allowed; none for anything
+    /// else. A plus sign counts as the first of the six, and so does a minus sign before a zero.
+    static std::optional<QColor> hex(QStringView text);
 
     /// The dark value for the two dark names, the light value otherwise, also where no name matched.
     constexpr QColor resolved(std::optional<AppearanceName> appearance) const
@@ -31,13 +42,9 @@ private:
     QColor m_dark;
 };
 
-/// sRGB components in 0…1.
-struct EBQuad {
-    float red, green, blue, alpha;
-};
+namespace Embera {
 
-EBKitColor eb(EBQuad light, EBQuad dark);
+/// The colour with its alpha times `opacity`.
+QColor faded(QColor color, qreal opacity);
 
-/// Six hexadecimal digits, a leading hash sign and spaces or tabs at the ends allowed; none for anything
-/// else. A plus sign counts as the first of the six, and so does a minus sign before a zero.
-std::optional<QColor> hex(QStringView text);
+}

@@ -9,26 +9,20 @@ namespace {
 enum class Face { Display, Mono, System };
 
 struct Role {
-    const char *name;
     Face face;
     int size;
     QFont::Weight weight;
     qreal tracking;
 };
 
+// In the order of the roles.
 constexpr std::array roles = {
-    Role{"hero", Face::Display, 160, QFont::DemiBold, -9.6},
-    Role{"display", Face::Display, 44, QFont::DemiBold, -1.54},
-    Role{"title", Face::Display, 34, QFont::DemiBold, -1.19},
-    Role{"heading", Face::Display, 27, QFont::DemiBold, -0.81},
-    Role{"subheading", Face::Display, 22, QFont::DemiBold, -0.55},
-    Role{"lead", Face::System, 15, QFont::DemiBold, 0},
-    Role{"body", Face::System, 13, QFont::Normal, 0},
-    Role{"bodyStrong", Face::System, 13, QFont::DemiBold, 0},
-    Role{"small", Face::System, 12, QFont::Normal, 0},
-    Role{"caption", Face::System, 11, QFont::Normal, 0},
-    Role{"mono", Face::Mono, 10, QFont::Medium, 1.4},
-    Role{"monoSmall", Face::Mono, 9, QFont::Medium, 1.26},
+    Role{Face::Display, 160, QFont::DemiBold, -9.6}, Role{Face::Display, 44, QFont::DemiBold, -1.54},
+    Role{Face::Display, 34, QFont::DemiBold, -1.19}, Role{Face::Display, 27, QFont::DemiBold, -0.81},
+    Role{Face::Display, 22, QFont::DemiBold, -0.55}, Role{Face::System, 15, QFont::DemiBold, 0},
+    Role{Face::System, 13, QFont::Normal, 0},        Role{Face::System, 13, QFont::DemiBold, 0},
+    Role{Face::System, 12, QFont::Normal, 0},        Role{Face::System, 11, QFont::Normal, 0},
+    Role{Face::Mono, 10, QFont::Medium, 1.4},        Role{Face::Mono, 9, QFont::Medium, 1.26},
 };
 static_assert(roles.size() == EBTypes::allCases.size());
 
@@ -67,15 +61,6 @@ QFont faceFont(Face face)
     return QFont(systemFamilies());
 }
 
-}
-
-std::optional<EBTypeRole> EBTypes::fromRawValue(QStringView rawValue)
-{
-    for (const EBTypeRole role : allCases) {
-        if (rawValue == QLatin1String(entry(role).name))
-            return role;
-    }
-    return std::nullopt;
 }
 
 QFont EBTypes::font(EBTypeRole role)

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "CaseNames.h"
+
 #include <QFont>
 #include <QObject>
-#include <QString>
 #include <qqmlregistration.h>
-
-#include <array>
-#include <optional>
 
 /// The twelve type roles. The first five and the last two are set in the kit's own faces, the others in the
 /// desktop's general font.
@@ -25,25 +23,16 @@ enum class EBTypeRole {
     monoSmall
 };
 
-namespace EBTypes {
+struct EBTypes : NamedCases<EBTypeRole> {
+    /// The role's face, size (points, set as pixels) and weight, tracking included.
+    static QFont font(EBTypeRole role);
 
-inline constexpr std::array allCases = {EBTypeRole::hero,    EBTypeRole::display,    EBTypeRole::title,
-                                        EBTypeRole::heading, EBTypeRole::subheading, EBTypeRole::lead,
-                                        EBTypeRole::body,    EBTypeRole::bodyStrong, EBTypeRole::small,
-                                        EBTypeRole::caption, EBTypeRole::mono,       EBTypeRole::monoSmall};
+    /// Extra space after each letter in points; 0 for a number that is no role.
+    static qreal tracking(int role);
 
-std::optional<EBTypeRole> fromRawValue(QStringView rawValue);
-
-/// The role's face, size (points, set as pixels) and weight, tracking included.
-QFont font(EBTypeRole role);
-
-/// Extra space after each letter in points; 0 for a number that is no role.
-qreal tracking(int role);
-
-/// The desktop's general font; Inter, where it is installed, for a desktop that names only a generic family.
-QFont systemFont(qreal size, QFont::Weight weight = QFont::Normal);
-
-}
+    /// The desktop's general font; Inter, where it is installed, for a desktop that names only a generic family.
+    static QFont systemFont(qreal size, QFont::Weight weight = QFont::Normal);
+};
 
 /// The type roles for QML, by their names: `EBType.font("body")`. An unknown name reads as "body".
 class EBType : public QObject {

@@ -24,8 +24,7 @@ void IconImage::setIcon(const QIcon &icon)
     if (icon.cacheKey() == m_icon.cacheKey())
         return;
     m_icon = icon;
-    update();
-    emit iconChanged();
+    emit changed();
 }
 
 QPixmap IconImage::picture(const QIcon &icon, int side, qreal scale)

@@ -15,7 +15,7 @@ struct IconValue {
 class IconImage : public CrispItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QIcon icon READ icon WRITE setIcon NOTIFY iconChanged)
+    Q_PROPERTY(QIcon icon READ icon WRITE setIcon NOTIFY changed)
 public:
     using CrispItem::CrispItem;
 
@@ -24,9 +24,6 @@ public:
 
     /// A picture of `side` × `side` points for a screen of that scale.
     static QPixmap picture(const QIcon &icon, int side, qreal scale);
-
-signals:
-    void iconChanged();
 
 protected:
     void paint(QPainter *painter) override;

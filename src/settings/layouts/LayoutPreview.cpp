@@ -51,11 +51,6 @@ QRectF LayoutPreviews::shape(const UnitRect &rect, QSizeF size)
                   std::max(1.0, drawable(rect.w) * width), std::max(1.0, drawable(rect.h) * height));
 }
 
-LayoutPreview::LayoutPreview(QQuickItem *parent) : CrispItem(parent)
-{
-    connect(this, &LayoutPreview::changed, this, &QQuickItem::update);
-}
-
 void LayoutPreview::setLayout(const QVariant &layout)
 {
     const auto value = layout.value<SavedLayout>();

@@ -29,14 +29,11 @@ class LayoutPreview : public CrispItem {
     /// For accessibility: how many windows, and of which applications.
     Q_PROPERTY(QString label READ label NOTIFY changed)
 public:
-    explicit LayoutPreview(QQuickItem *parent = nullptr);
+    using CrispItem::CrispItem;
 
     QVariant layout() const { return QVariant::fromValue(m_layout); }
     void setLayout(const QVariant &layout);
     QString label() const;
-
-signals:
-    void changed();
 
 protected:
     void paint(QPainter *painter) override;

@@ -12,7 +12,6 @@ Pressable {
     property bool selected: false
     /// Tab stops at one page of the list, the arrow keys go on from there.
     property bool tabStop: true
-    readonly property int accessibleRole: Accessible.ListItem
 
     implicitHeight: 30
     leftPadding: 10
@@ -21,6 +20,7 @@ Pressable {
     text: title
     Accessible.selectable: true
     Accessible.selected: selected
+    EBAccessible.role: Accessible.ListItem
 
     background: ContinuousRectangle {
         radius: 10

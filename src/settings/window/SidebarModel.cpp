@@ -38,7 +38,7 @@ QVariant SidebarModel::data(const QModelIndex &index, int role) const
     case TitleRole:
         return page.title;
     case GlyphRole:
-        return rawValue(page.glyph);
+        return GlyphNames::rawValue(page.glyph);
     default:
         return {};
     }

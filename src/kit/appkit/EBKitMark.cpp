@@ -1,0 +1,10 @@
+#include "EBKitMark.h"
+
+#include "MarkShape.h"
+
+static_assert(EBKitMarks::allCases.size() == EBApps::allCases.size());
+
+QPainterPath EBKitMarks::path(EBKitMark mark, const QRectF &rect)
+{
+    return MarkShape{static_cast<EBApp>(mark)}.path(rect);
+}

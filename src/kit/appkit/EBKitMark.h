@@ -1,0 +1,20 @@
+#pragma once
+
+#include "EBApp.h"
+
+#include <QPainterPath>
+#include <QRectF>
+
+/// The marks of the hand-drawn views: one a product, in the products' order.
+enum class EBKitMark {
+    quiller = int(EBApp::quiller),
+    corvane = int(EBApp::corvane),
+    parcelo = int(EBApp::parcelo),
+};
+
+struct EBKitMarks : NamedCases<EBKitMark> {
+    static constexpr EBKitMark of(EBApp app) { return static_cast<EBKitMark>(app); }
+
+    /// The outline of the product's mark in `rect`, as `MarkShape` fits it.
+    static QPainterPath path(EBKitMark mark, const QRectF &rect);
+};
