@@ -45,7 +45,7 @@ private:
     qint64 m_elapsed = 0;
 };
 
-/// A window that nobody sees, drawn with the software renderer at scale 1 as often as it is told.
+/// An offscreen window, drawn with the software renderer at scale 1 whenever it is told to.
 class Canvas {
 public:
     Canvas() : m_window(&m_control), m_picture(windowSize, QImage::Format_RGB32)

@@ -1,10 +1,10 @@
 #pragma once
 
-/// What the person, or another process, asked this start for: whole words among the process's arguments.
+/// What this start was asked for: whole words among the process's arguments.
 namespace LaunchFlags {
 
-/// The process's own arguments, before anything else is asked. The toolkit is not given them: it has options of its
-/// own.
+/// Keeps the process's own arguments; to be called before the functions below. Qt is not given them, since it has
+/// options of its own.
 void setArguments(int argc, char *argv[]);
 
 /// "--onboarding": run the onboarding guide. It goes before `about`.

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// The kit's body becomes the face of whatever sets none of its own, so that no other is loaded for that.
+/// Makes the kit's body the application's font, so that no other is loaded for items that set none.
 void chooseBodyFace()
 {
     QGuiApplication::setFont(EBTypes::font(EBTypeRole::body));

@@ -2,7 +2,7 @@ import QtQuick
 import Embera.Tokens
 import Corvane.Demo
 
-/// A change that moves with the model's spring of that moment, from wherever it is.
+/// Animates a change with the model's spring of that moment, from the current value.
 NumberAnimation {
     required property DemoModel model
 

@@ -15,7 +15,7 @@ Item {
 
     implicitWidth: inside.childrenRect.width
     implicitHeight: inside.childrenRect.height
-    // What it finds when it is made is no change.
+    // The value it is made with is no change.
     Component.onCompleted: isMade = true
     onTriggerChanged: if (isMade && !EB.reduceMotion)
         motion.restart()

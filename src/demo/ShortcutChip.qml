@@ -21,7 +21,7 @@ Row {
             name.color: EB.ink
         }
     }
-    // Keyed on the light alone: a change of the appearance shows at once.
+    // Only lighting up is animated: a change of the appearance shows at once.
     transitions: Transition {
         ColorAnimation {
             targets: [cap, keys, name]

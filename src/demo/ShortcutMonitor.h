@@ -7,12 +7,12 @@
 
 #include <memory>
 
-/// Takes the agent's shortcuts away from this application while they are practised: every one that is pressed goes to
-/// the model and nowhere else, and a held key counts once. All other keys go their way.
+/// Takes the agent's shortcuts away from the rest of the application while they are practised: each goes to the model
+/// alone, and a held key counts once. All other keys pass.
 class ShortcutMonitor : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// Without a model the shortcuts are taken away and nothing more.
+    /// Without a model the shortcuts are taken away and have no effect.
     Q_PROPERTY(DemoModel *model MEMBER m_model NOTIFY modelChanged)
     /// Whether the practice is on the screen. Nothing is listened to otherwise.
     Q_PROPERTY(bool active READ active WRITE setActive NOTIFY activeChanged)

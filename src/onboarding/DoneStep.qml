@@ -13,6 +13,7 @@ EBLoudScreen {
     button: qsTr("Open Mission Control")
     arrow: true
     hero: qsTr("Ready")
+    // With this one the texts stay clear of dots in wide fonts too.
     seed: 5
     secondary: flow.launchAtLogin ? qsTr("Don't start at login") : qsTr("Not now")
     onAction: flow.finishSetup(flow.launchAtLogin, true)

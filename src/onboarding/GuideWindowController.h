@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
-/// The window that carries the onboarding. It steps aside and comes back as the guide's visibility is announced, and
-/// however the onboarding ends, it ends here, once.
+/// The window of the onboarding. It hides and comes back as GuideVisibility asks. However the onboarding ends, it ends
+/// here, once.
 class GuideWindowController : public QObject {
     Q_OBJECT
 public:
@@ -20,8 +20,8 @@ public:
     OnboardingFlow &flow() { return m_flow; }
     bool finished() const { return m_finished; }
 
-    /// Ends the onboarding: the window goes, and nothing that is announced or typed later has any effect. Every further
-    /// call does nothing.
+    /// Ends the onboarding: hides the window and stops listening to keys and to GuideVisibility. Further calls do
+    /// nothing.
     void finish();
 
 protected:
@@ -32,7 +32,7 @@ private:
 
     std::function<void()> m_onFinish;
     bool m_finished = false;
-    // Before the window, whose views look at it until they are gone.
+    // Declared before the window, whose views use it until they are destroyed.
     OnboardingFlow m_flow;
     EBWindow m_window;
     std::unique_ptr<KeyMonitor> m_keyMonitor;

@@ -18,8 +18,8 @@ public:
     /// The person asked for less motion.
     virtual bool shouldReduceMotion() const = 0;
 
-    /// Gives a desktop that answers late a moment to do so. Called once, before the first frame is drawn, so that it is
-    /// drawn right the first time; what is not known when this returns arrives as a change.
+    /// Waits a moment for a desktop that has not answered yet. Called once, before the first frame, so that it is drawn
+    /// right; what is not known when this returns arrives as a change.
     virtual void settle() { }
 
 signals:

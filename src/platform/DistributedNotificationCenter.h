@@ -4,17 +4,18 @@
 
 #include <functional>
 
-/// Notices between the processes of one desktop session. Nothing is answered, and a notice nobody hears is lost.
+/// Notifications between the processes of one desktop session. There are no replies, and one without an observer is
+/// lost.
 class DistributedNotificationCenter {
 public:
     using Observer = std::function<void(const QVariantMap &userInfo)>;
 
     virtual ~DistributedNotificationCenter() = default;
 
-    /// Posts at once. `name` is a dotted name such as "com.vexmoor.corvane.command"; the values of `userInfo`
-    /// are Booleans and strings. Without a session to post to, the notice is lost in silence.
+    /// Posts at once. `name` is a dotted name such as "com.vexmoor.corvane.command"; the values of `userInfo` are
+    /// Booleans and strings. Without a session to post to, the notification is dropped in silence.
     virtual void post(const QString &name, const QVariantMap &userInfo) = 0;
 
-    /// Calls `observer` for every notice of that name, for as long as `context` lives.
+    /// Calls `observer` for every notification of that name while `context` lives.
     virtual void observe(const QString &name, QObject *context, Observer observer) = 0;
 };

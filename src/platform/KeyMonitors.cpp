@@ -24,7 +24,7 @@ std::unique_ptr<KeyMonitor> KeyMonitors::add(KeyMonitor::Handler handler)
 
 bool KeyMonitors::swallow(const KeyDown &key) const
 {
-    // The copies keep the handlers alive that end monitors, their own or another one's.
+    // A handler may destroy monitors, its own included: the copies keep the list and the handlers alive meanwhile.
     const std::shared_ptr<Handlers> present = m_handlers;
     const Handlers asked = *present;
     return std::any_of(asked.crbegin(), asked.crend(),

@@ -6,14 +6,14 @@
 
 #include <memory>
 
-/// The key monitors that are held, for a platform that hands out key-down events itself.
+/// The list of living key monitors, for a platform that distributes key-down events itself.
 class KeyMonitors {
 public:
     /// A monitor of its own for `handler`, which must not be empty. It may outlive this object.
     std::unique_ptr<KeyMonitor> add(KeyMonitor::Handler handler);
 
-    /// Asks the monitors, the newest first, until one swallows the key. True when one did. A monitor made meanwhile is
-    /// not asked.
+    /// Asks the monitors, newest first, until one swallows the key; true when one did. A monitor made during the call
+    /// is not asked.
     bool swallow(const KeyDown &key) const;
 
     /// How many there are.

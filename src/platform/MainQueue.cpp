@@ -14,7 +14,7 @@ int milliseconds(double seconds)
 
 class TimerRepetition : public MainQueue::Repetition {
 public:
-    // The timer may be what is calling when this goes, so it is only told to stop and goes a little later.
+    // The timer may be the caller, so it is stopped here and deleted later.
     ~TimerRepetition() override
     {
         if (!timer)

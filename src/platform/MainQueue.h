@@ -5,12 +5,12 @@
 #include <functional>
 #include <memory>
 
-/// Actions of the main thread that wait for their time. Nothing here wakes the process while no action waits.
+/// Delayed and repeated actions on the main thread. Nothing wakes the process while none is pending.
 class MainQueue {
 public:
     using Action = std::function<void()>;
 
-    /// An action that comes again and again for as long as this is held.
+    /// Keeps a repeated action going while it lives.
     class Repetition {
     public:
         virtual ~Repetition() = default;
@@ -18,11 +18,11 @@ public:
 
     virtual ~MainQueue() = default;
 
-    /// Runs `action` once, `seconds` from now and never before this returns, unless `context` is gone by then.
-    /// A time of 0 or below, or one that is not finite, means as soon as the events that already wait are done.
+    /// Runs `action` once, `seconds` from now and never before this returns, unless `context` is gone by then. A time
+    /// that is not above 0 or not finite means: after the events that are already queued.
     virtual void after(double seconds, QObject *context, Action action);
 
-    /// Runs `action` every `seconds`, a time above 0, for the first time after one of them. It ends with the handle
-    /// that is returned or with `context`, whichever goes first; the action may let go of the handle itself.
+    /// Runs `action` every `seconds` (above 0), beginning after the first interval. It stops when the returned handle
+    /// or `context` is destroyed; the action may destroy the handle.
     [[nodiscard]] virtual std::unique_ptr<Repetition> every(double seconds, QObject *context, Action action);
 };

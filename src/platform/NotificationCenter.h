@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QVariant>
 
-/// Notices inside this process: whoever listens to `posted` hears every one, on the main thread.
+/// Notifications inside this process: each is emitted as `posted`, on the main thread.
 class NotificationCenter : public QObject {
     Q_OBJECT
 public:

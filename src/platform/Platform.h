@@ -35,11 +35,11 @@ public:
     virtual Workspace &workspace() = 0;
     virtual Appearance &appearance() = 0;
 
-    /// Calls `handler`, which must not be empty, for the key-down events of this application's windows, as long as what
-    /// it returns is held. Of several monitors the newest is asked first.
+    /// Calls `handler`, which must not be empty, for the key-down events of this application's windows while the
+    /// returned monitor lives. Of several monitors the newest is asked first.
     virtual std::unique_ptr<KeyMonitor> monitorKeyDown(KeyMonitor::Handler handler) = 0;
 
-    /// Actions of the main thread that wait for their time.
+    /// Delayed and repeated actions on the main thread.
     virtual MainQueue &mainQueue() = 0;
 
     /// What is on the screen.

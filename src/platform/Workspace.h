@@ -8,7 +8,7 @@
 
 class QWindow;
 
-/// What this application asks of the desktop around it. What the desktop does not have does not happen.
+/// What this application asks of the desktop. A request that the desktop cannot meet does nothing.
 class Workspace {
 public:
     virtual ~Workspace() = default;
@@ -33,10 +33,10 @@ public:
     /// Shows the desktop's overview of all windows.
     virtual void openMissionControl() = 0;
 
-    /// Readies `window`, which is not shown at the moment, to appear in front of the others on every workspace, and in
-    /// no list of windows to switch to. What was readied is used up when the window is hidden.
+    /// Prepares `window`, which must be hidden, to appear in front of the others, on every workspace and in no list of
+    /// windows. Hiding the window undoes this: call it before each show.
     virtual void floatOnAllSpaces(QWindow &window) = 0;
 
-    /// Whether what lies behind a window shines through where it is transparent. Where it does not, that is black.
+    /// Whether transparent parts of a window show what lies behind it. Where they do not, they are black.
     virtual bool blendsWindows() = 0;
 };

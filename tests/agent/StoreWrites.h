@@ -20,7 +20,7 @@ public:
                       QStringLiteral("Notify"), this, SLOT(receive(QString, QStringList, QString)));
         // The bus takes the messages of a connection in order: with this answer it knows of the subscription.
         m_bus.interface()->isServiceRegistered(m_bus.baseService());
-        // Of a write that is in the store already the service may still be about to tell; it tells in order.
+        // The service may still have to announce a write that is in the store already; it does so in order.
         static int fences = 0;
         const QString fence = QStringLiteral("fence%1").arg(++fences);
         store.setValue(fence, true);

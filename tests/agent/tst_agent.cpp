@@ -179,7 +179,7 @@ void AgentTest::aCommandIsPrintedAsOneLineOfJson()
 void AgentTest::commandsArePrintedInOrder()
 {
     start();
-    // One that was heard shows that the agent listens; what arrives while it still begins to is not promised an order.
+    // A first command that arrives shows that the agent listens; before that no order is promised.
     QStringList names{"first"};
     post(names.constLast());
     QTRY_COMPARE(m_agent->standardOutput().size(), 1);

@@ -70,7 +70,7 @@ void SystemSettingsTest::open(const QStringList &flags)
 {
     m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), m_desktop.environment());
     QVERIFY(m_agent->start(flags));
-    // It hears commands from the moment on at which it has reported its state.
+    // It receives commands once it has reported its state.
     QTRY_VERIFY_WITH_TIMEOUT(m_store.read("agent.launchAtLoginNeedsApproval").isValid(), startTime);
     request();
     QTRY_VERIFY_WITH_TIMEOUT(window(), startTime);

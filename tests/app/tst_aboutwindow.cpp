@@ -72,7 +72,7 @@ void TestAboutWindow::initTestCase()
 
 void TestAboutWindow::init()
 {
-    // The platform without a display takes no size hints, and says so each time.
+    // The offscreen platform knows no size hints and warns each time.
     QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support propagateSizeHints)"));
     m_platform = &FakePlatform::install();
     m_platform->main.url = QUrl::fromLocalFile("/apps/Corvane Settings.app");

@@ -17,7 +17,7 @@ namespace {
 
 const QDateTime noon(QDate(2024, 5, 1), QTime(12, 0), Qt::UTC);
 
-/// Counts what a controller tells, and holds its clock.
+/// Counts a controller's callbacks and sets its clock.
 struct Watch {
     explicit Watch(StatusPanelController &controller)
     {
@@ -444,7 +444,7 @@ private slots:
         click();
         QVERIFY(controller->isOpen());
         QCOMPARE(watch.opened, 2);
-        // As from a key, which closes nothing beforehand.
+        // As by a key: no click outside has closed the panel before.
         controller->toggle(m_button);
         QVERIFY(!controller->isOpen());
         disconnect(wired);

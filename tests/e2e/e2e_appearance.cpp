@@ -191,7 +191,7 @@ void TestAppearance::reducedMotionIsReadAtTheMomentOfTheFlip()
     SettingsPortal portal(settings({}));
     QVERIFY(open());
     portal.change(group, reducedMotion, on);
-    // The notices arrive in their order, and the second one can be seen.
+    // The signals arrive in their order, and what the second one does can be seen.
     portal.change(group, colorScheme, dark);
     QVERIFY(isPaintedOn(darkPaper));
     QCOMPARE(picturesOfAFlip(darkIndigo).size(), 2);

@@ -126,7 +126,7 @@ void TestPractice::clickingAButtonActsOnItsWindow()
     QVERIFY(isGone(library));
     QVERIFY(shows(u"Practised: hover, close, minimize, fullscreen"_s));
     QCOMPARE(windows().size(), 4);
-    // The window around it can be moved by its background, and a button is not that.
+    // The window around it is moved by its background, but not by a button.
     QCOMPARE(window()->geometry(), place);
 }
 
@@ -155,7 +155,7 @@ void TestPractice::theShortcutsActOnTheHoveredWindow()
 void TestPractice::shortcutsArePlacesOfTheKeyboardInEveryLayout_data()
 {
     QTest::addColumn<QString>("layout");
-    // It types the letter of a shortcut and is none.
+    // It types the letter of a shortcut, but stands in another place.
     QTest::addColumn<quint32>("otherKey");
     QTest::newRow("french") << u"fr"_s << quint32(KEY_SEMICOLON);
     QTest::newRow("dvorak") << u"us(dvorak)"_s << quint32(KEY_Y);
@@ -206,7 +206,7 @@ void TestPractice::aHeldKeyDoesNothingMore()
         keyboard().hold(KEY_W);
     keyboard().letGo(KEY_W);
     keyboard().letGo(KEY_LEFTCTRL);
-    // What has been typed later comes later.
+    // Keys arrive in the order in which they were typed.
     keyboard().press(XK_Tab);
     QVERIFY(shows(u"Practised: hover"_s));
     QVERIFY(shows(u"Pressed over no window: 1"_s));

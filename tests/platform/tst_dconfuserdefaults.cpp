@@ -26,7 +26,7 @@ QString readFromOutside(const QString &key)
     return dconf({QStringLiteral("read"), pathOf(key)});
 }
 
-/// Everything that was announced before a change made outside only now.
+/// Everything that was announced before another process makes a change now.
 QStringList announced(QSignalSpy &spy)
 {
     static int fences = 0;
@@ -44,8 +44,8 @@ QStringList announced(QSignalSpy &spy)
     return keys;
 }
 
-/// A suite that has begun to listen, and what it has announced since. It begins with saying that everything may have
-/// changed if something did meanwhile, and may say so after the first change it hears.
+/// A suite that watches the store, and what it has announced since. It may announce that everything has changed, at the
+/// beginning or after the first change, if something did change before it watched.
 struct Followed {
     DconfUserDefaults defaults{suiteName};
     QSignalSpy spy{&defaults, &UserDefaults::changed};

@@ -12,7 +12,7 @@ const QString screen = QStringLiteral("EBLoudScreen { app: 'corvane'; copy: 'Cop
                                       "seed: 21; counter: 'Count' }");
 constexpr QSize size(560, 388);
 
-/// Where an oscillator with that response and damping is after `time`, let go at 0 and pulled to 1.
+/// The position after `time` of an oscillator with that response and damping, released at 0 and pulled to 1.
 qreal sprung(qreal response, qreal damping, qreal time)
 {
     const qreal omega = 2 * std::numbers::pi / response;

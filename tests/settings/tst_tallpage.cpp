@@ -50,7 +50,7 @@ class TestTallPage : public QObject {
     Q_OBJECT
 
 private slots:
-    // The platform without a display takes no size hints, and says so each time.
+    // The offscreen platform knows no size hints and warns each time.
     void init() { QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support propagateSizeHints)")); }
 
     void theWindowIsAsHighAsTheScreenAndShowsTheTopOfThePage();

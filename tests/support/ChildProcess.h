@@ -4,7 +4,7 @@
 
 class QProcess;
 
-/// The habits of every process a test starts.
+/// What all processes that a test starts have in common.
 namespace ChildProcess {
 
 /// Whatever ends this process, a crash included, ends the child too. To be called before the child is

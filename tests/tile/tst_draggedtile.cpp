@@ -93,7 +93,7 @@ void DraggedTileTest::openSystemSettings(const QStringList &flags)
 {
     m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), m_desktop.environment());
     QVERIFY(m_agent->start(flags));
-    // It hears commands from the moment on at which it has reported its state.
+    // It receives commands once it has reported its state.
     QTRY_VERIFY_WITH_TIMEOUT(m_store.read("agent.launchAtLoginNeedsApproval").isValid(), startTime);
     QDBusMessage request = QDBusMessage::createSignal("/com/vexmoor/corvane", "com.vexmoor.corvane", "command");
     request << QVariantMap{{"command", "requestAccessibility"}};

@@ -94,7 +94,7 @@ void DragTileControllerTest::cleanup()
     m_tile.reset();
 }
 
-/// The objects of the notices about the guide.
+/// The values of the notifications about the guide.
 QVariantList DragTileControllerTest::posted() const
 {
     QVariantList objects;

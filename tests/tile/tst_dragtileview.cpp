@@ -33,7 +33,7 @@ QIcon square(int side)
     return QIcon(red);
 }
 
-/// Wants the pointer wherever it is.
+/// Accepts the pointer everywhere.
 class Greedy : public QQuickItem {
 public:
     explicit Greedy(QQuickItem *parent) : QQuickItem(parent)

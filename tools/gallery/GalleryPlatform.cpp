@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Time passes in the gallery: what a scene has delayed happens.
+/// The gallery uses the real clock, so that what a scene has delayed happens.
 class GalleryPlatform : public FakePlatform {
 public:
     MainQueue &mainQueue() override { return m_queue; }

@@ -2,8 +2,8 @@
 
 #include <QTemporaryDir>
 
-/// A screen that nobody sees, to draw pictures on: large enough that no window is cut to fit.
-/// To be made before the application object, and kept until that is made.
+/// An offscreen screen to draw pictures on, large enough that no window is cut to fit. To be made before the
+/// application object, and kept until that is made.
 class PictureScreen {
 public:
     /// `scale` is in device pixels a point, above 0.

@@ -29,7 +29,7 @@ ScenePicture::ScenePicture(QQmlEngine &engine, FakePlatform &platform, const Gal
     platform.look.setReduceMotion(true);
     QStyleHints *hints = QGuiApplication::styleHints();
     hints->setCursorFlashTime(0);
-    // Screens that nobody sees have no pointer either, unless told.
+    // An offscreen screen has no pointer unless it is told of one.
     hints->setUseHoverEffects(true);
 }
 

@@ -16,7 +16,7 @@ ButtonHighlight::~ButtonHighlight()
 
 bool ButtonHighlight::eventFilter(QObject *, QEvent *event)
 {
-    // A button comes up when it loses the focus, which is what the panel takes from it.
+    // A button is released when it loses the focus, which the panel takes from it.
     if (event->type() == QEvent::FocusOut)
         QMetaObject::invokeMethod(
             this, [this] { set(true); }, Qt::QueuedConnection);

@@ -3,8 +3,8 @@
 #include <QPointer>
 #include <QWidget>
 
-/// Keeps a button highlighted for as long as it lives: one that can be down is down, also when the focus leaves it, and
-/// any other widget has the property "highlighted". The button may go first.
+/// Keeps a button highlighted while it lives: a button of Qt's is held down, also when it loses the focus, and any
+/// other widget gets the property "highlighted". The button may be destroyed first.
 class ButtonHighlight : public QObject {
     Q_OBJECT
 public:

@@ -48,9 +48,9 @@ private:
 
     bool m_held = false;
     bool m_hovered = false;
-    /// The press that goes on began here.
+    /// The current press began in this control.
     bool m_tracking = false;
     bool m_keyboardFocus = false;
-    /// Belongs to the view around.
+    /// Owned by the surrounding view.
     QPointer<KeyboardRing> m_ring;
 };

@@ -54,7 +54,7 @@ void EBKitPanelView::clear()
     while (QLayoutItem *item = layout()->takeAt(0)) {
         if (item->layout()) {
             EBKitView *view = viewOf(*item);
-            // Not at once: it may be the one whose action led here.
+            // Later: its action may be what is running.
             view->hide();
             view->deleteLater();
         }

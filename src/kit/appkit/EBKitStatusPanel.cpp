@@ -19,7 +19,7 @@ QString titleOf(const QList<EBKitView *> &views)
     return {};
 }
 
-/// What is left of a panel of that size where its clear corners would be black; empty where they are clear.
+/// The mask of a panel of that size: it cuts off the corners where transparency would be black, and is empty elsewhere.
 QRegion cutOut(const QSize &size)
 {
     if (Platform::current().workspace().blendsWindows())
@@ -40,7 +40,7 @@ QSize EBKitStatusPanel::prepare()
 {
     const QList<EBKitView *> views = build();
     m_content->stack(views);
-    // Left to itself the window would give the keyboard to the first control, unseen.
+    // Otherwise the window would give the focus to the first control, without showing it.
     m_content->setFocus();
     panel().setWindowTitle(titleOf(views));
     const int width = panel().width();

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 /// What every hand-drawn view is: it draws itself in points from its top left corner, and is drawn anew whenever the
-/// appearance changes. A disabled view fades as a whole. Alone it is an empty view to put others into.
+/// appearance changes. A disabled view fades as a whole. By itself it is an empty view to put others into.
 class EBKitView : public QWidget {
     Q_OBJECT
 public:

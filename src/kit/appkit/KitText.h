@@ -20,7 +20,7 @@ EBKitText capitals(const EBKitText &text);
 /// broken.
 QSize size(const EBKitText &text, qreal width);
 
-/// What the text occupies in lines of its own.
+/// What the text occupies without wrapping.
 QSize size(const EBKitText &text);
 
 /// Draws the text in `rect`, from its top left corner and wrapped to its width. Where it needs more lines than fit into

@@ -6,8 +6,8 @@
 
 class QWidget;
 
-/// Watches this application's clicks for as long as it lives, for those outside a window and outside all that rests on
-/// it, such as a menu it has opened. The click goes on to where it was made.
+/// Reports this application's clicks outside a window and outside the windows that belong to it, such as a menu it has
+/// opened. The click is delivered as usual.
 class OutsideMonitor : public QObject {
     Q_OBJECT
 public:

@@ -19,7 +19,7 @@ PanelWindow::PanelWindow(QWidget *content)
 {
     installViewAccessibility();
     setAttribute(Qt::WA_TranslucentBackground);
-    // Where a tool's window goes with its application, this one stays.
+    // Where tool windows are hidden while their application is inactive, this one stays.
     setAttribute(Qt::WA_MacAlwaysShowToolWindow);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -37,7 +37,7 @@ StatusPanelController::StatusPanelController(QWidget *content, QObject *parent)
 
 StatusPanelController::~StatusPanelController()
 {
-    // Whoever is to hear of it may be half gone.
+    // Whoever set it may be half destroyed.
     onClose = nullptr;
     close();
 }
@@ -49,7 +49,7 @@ QWidget &StatusPanelController::panel() const
 
 bool StatusPanelController::isOpen() const
 {
-    // Not whether it is visible: a panel that is being hidden still is.
+    // isVisible() would still be true while the panel is being hidden.
     return !m_panel->isHidden();
 }
 

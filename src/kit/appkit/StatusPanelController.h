@@ -46,7 +46,7 @@ public:
     /// Closes the panel; does nothing while it is not open.
     void close();
 
-    /// What the time is; the clock, unless a test says otherwise.
+    /// Returns the current time; a test may replace it.
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTimeUtc(); };
 
 protected:

@@ -24,7 +24,7 @@ ControlledToggle {
 
         Behavior on position {
             NumberAnimation {
-                // Only what the person does is animated, and only if motion is welcome at that moment.
+                // Only a change by the person is animated, and none with reduced motion.
                 duration: control.isFlipping ? Motion.duration(KitMetrics.switchSeconds) : 0
                 easing: Motion.easeOut
             }

@@ -22,7 +22,7 @@ public:
     std::uint8_t *free(int row) { return m_free.data() + row * stride(); }
     std::ptrdiff_t stride() const { return std::ptrdiff_t(m_columns) + 1; }
 
-    /// The largest draw that begins a mark, for each cell of a row, in multiples of the generator.
+    /// The largest random number that begins a mark, for each cell of a row, as the generator's integer.
     const std::uint32_t *chances(int row) const { return m_chances.data() + row * std::ptrdiff_t(m_columns); }
 
     /// Closes what lies within `margin` of the zones, and lowers the chances within `ramp` around that.

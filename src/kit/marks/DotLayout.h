@@ -26,7 +26,7 @@ public:
 
 namespace DotLayout {
 
-/// The marks of a dot field, in the order they are drawn by lot: dots, and level and upright bars of two or three
+/// The marks of a dot field, in the order in which they are placed: dots, and level and upright bars of two or three
 /// cells, each 0.6 cells thick and none across another. The same arguments always give the same list.
 ///
 /// `size` is the area and `cell` the pitch of the grid centred in it, in points. `density` is the chance, 0 to 1, that

@@ -18,7 +18,7 @@ constexpr QRectF corvane[] = {
     {52.5, 52.5, 34, 34},
 };
 
-// A box of two sides and a floor, and what goes into it, which still stands out of it a little.
+// An open box, and the circle that goes into it and still stands out a little.
 constexpr QRectF parcelo[] = {
     {52.5, 30.5, 15, 15},
     {33.5, 33.5, 15, 34},

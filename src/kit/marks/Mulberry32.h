@@ -23,7 +23,8 @@ public:
     /// The next number in [0, 1).
     constexpr double next() { return nextMultiple() / scale; }
 
-    /// The largest multiple of 1 / scale that does not exceed `p`, held to the range of the draws.
+    /// The largest multiple of 1 / scale that does not exceed `p`, clamped to the generator's range: random numbers are
+    /// compared with it as integers.
     static constexpr std::uint32_t multipleWithin(double p)
     {
         if (p < 0)

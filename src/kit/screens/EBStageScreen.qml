@@ -15,7 +15,7 @@ Rectangle {
     property alias counter: count.text
     property alias title: heading.text
     property alias text: paragraph.text
-    /// The stage. What is to fill the room there is takes `room` as its height.
+    /// The stage. Content that is to fill it takes `room` as its height.
     default property alias content: stage.data
     /// The buttons, directly below the stage.
     property alias actions: buttons.data

@@ -11,7 +11,7 @@ Column {
     property list<string> steps
     /// The place of the current step, from 0 on. Beyond the last one every step is done, below 0 every one is to come.
     property int current: 0
-    /// The list stands on a loud colour. The linter takes an assignment to it for a handler of a signal.
+    /// The list stands on a loud colour. qmllint takes an assignment to it for a signal handler.
     property bool onLoud: false
     /// Longer titles wrap, so that the list is no wider than this; in points.
     property real maximumWidth: Infinity

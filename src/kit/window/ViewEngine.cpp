@@ -5,9 +5,9 @@
 
 ViewEngine::ViewEngine()
 {
-    // Alone in front: looking for our modules in the folders of the system first costs part of the start-up.
+    // Before the system's folders: looking for our modules there first costs part of the start-up.
     setImportPathList(QStringList{QStringLiteral("qrc:/qt/qml")} + importPathList());
-    // Not by the application's own quit(), which closes the windows first: to some that is an answer of the person's.
+    // Not the application's own quit(), which closes the windows first: the guide takes a closed window for its end.
     connect(this, &QQmlEngine::quit, qApp, [] { QCoreApplication::exit(); });
 }
 

@@ -24,7 +24,7 @@ public:
     /// The application that is dragged: the product's bundle around this application.
     const QUrl &appURL() const { return m_appURL; }
 
-    /// The window of System Settings was there since the tile was shown.
+    /// The window of System Settings was found since the tile was shown.
     bool seen() const { return m_watch.seen; }
     /// How many times in a row it was looked for and not there.
     int missing() const { return m_watch.missing; }

@@ -28,7 +28,7 @@ public:
 private:
     void cutOut();
 
-    // The view goes before the engine that made what it shows.
+    // The view is destroyed before the engine that made its content.
     std::unique_ptr<ViewEngine> m_engine;
     std::unique_ptr<DragTileView> m_view;
 };

@@ -22,7 +22,7 @@ DragTileView::DragTileView(const QUrl &appURL, const QIcon &icon, QQuickItem *co
     setCursor(Qt::OpenHandCursor);
     content->setParent(this);
     content->setParentItem(this);
-    // Behind the view itself, which therefore is the first to be asked about the pointer.
+    // Behind the view itself, so that the view receives the pointer.
     content->setZ(-1);
 }
 
@@ -47,7 +47,7 @@ void DragTileView::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_isDragging)
         return;
-    // The button is let go over another window, and nobody here will hear of it.
+    // The button is released over another window, so that no release arrives here.
     ungrabMouse();
     m_isDragging = true;
     makeDrag(event->position())->exec(Qt::CopyAction, Qt::CopyAction);

@@ -6,7 +6,7 @@
 
 class QDrag;
 
-/// The part of the tile that is dragged: wherever it is taken, the application goes along as a file to be copied.
+/// The part of the tile that is dragged: a drag from any point of it carries the application as a file to be copied.
 class DragTileView : public QQuickItem {
     Q_OBJECT
 public:

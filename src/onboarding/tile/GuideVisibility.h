@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// The notice on the default notification centre by which the guide window is asked to show itself, or to step aside.
+/// The notification on the default center that asks the guide window to show itself or to hide.
 namespace GuideVisibility {
 
 inline const QString notification = QStringLiteral("cv.guide.visible");
@@ -14,7 +14,7 @@ inline void post(bool visible)
     NotificationCenter::defaultCenter().post(notification, visible);
 }
 
-/// Calls `observer` for each such notice for as long as `context` lives and the connection stands. One that carries no
+/// Calls `observer` for each of these notifications while `context` lives and the connection stands. One without a
 /// Boolean asks to show the window.
 inline QMetaObject::Connection observe(QObject *context, std::function<void(bool visible)> observer)
 {

@@ -13,7 +13,7 @@ struct Screen {
     QRectF visibleFrame;
 };
 
-/// Turns a rectangle over between y upwards and y downwards from the first screen's upper edge, either way.
+/// Converts a rectangle between y upwards and y downwards from the first screen's upper edge, in either direction.
 QRectF flipped(const QRectF &rect, qreal firstScreenHeight);
 
 /// The visible frame of the first of `screens` that shows some of `window`, else that of `main`, else an empty one.

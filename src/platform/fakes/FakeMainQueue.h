@@ -5,20 +5,20 @@
 #include <QList>
 #include <QPointer>
 
-/// A queue whose time stands still until it is told to go on.
+/// A queue on a clock that only `advance` moves.
 class FakeMainQueue : public MainQueue {
 public:
     void after(double seconds, QObject *context, Action action) override;
     std::unique_ptr<Repetition> every(double seconds, QObject *context, Action action) override;
 
-    /// Lets that much time pass and runs what falls due, in the order of time, each action at its own moment.
+    /// Moves the clock and runs the actions that fall due, in their order, each at its own time.
     void advance(double seconds);
 
     /// How many actions wait.
     qsizetype waiting() const;
 
 private:
-    // Whole microseconds, so that times which are written differently and mean the same are the same.
+    // Whole microseconds, so that 0.1 + 0.2 and 0.3 are the same time.
     using Time = qint64;
 
     struct Entry {

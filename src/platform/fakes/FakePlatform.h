@@ -15,7 +15,7 @@
 /// A desktop in memory, whose services are public members to look at and to set.
 class FakePlatform : public Platform {
 public:
-    /// Makes a new one the current platform and returns it. What the one before held is gone.
+    /// Makes a new one the current platform and returns it; the one before is destroyed.
     static FakePlatform &install();
 
     FakeBundle main;

@@ -7,7 +7,7 @@
 /// A suite in memory. It takes values of any type, so that a test can store what a reader must refuse.
 class FakeUserDefaults : public UserDefaults {
 public:
-    /// Every stored value. Writing here is a change nobody is told of.
+    /// Every stored value. Writing here emits no signal.
     QVariantMap values;
 
     QVariant value(const QString &key) const override { return values.value(key); }

@@ -2,9 +2,9 @@
 
 #include "DistributedNotificationCenter.h"
 
-/// Notices as signals on the session bus. The name's last part is the signal, the rest the interface, and the
-/// interface with slashes for its dots the path; the one argument is the user info, a{sv}. A name of another
-/// form is lost.
+/// Notifications as signals on the session bus. The last part of a name is the signal's member, the rest its interface,
+/// and the path is the interface with slashes instead of dots. The only argument is the user info, a{sv}. A name of any
+/// other form is dropped.
 class DBusNotificationCenter : public DistributedNotificationCenter {
 public:
     void post(const QString &name, const QVariantMap &userInfo) override;

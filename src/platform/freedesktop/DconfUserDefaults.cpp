@@ -18,8 +18,7 @@ QByteArray folderOf(const QString &suiteName)
     return dconf_is_dir(folder.constData(), nullptr) && !folder.contains('\0') ? folder : QByteArray();
 }
 
-// A database that cannot be read reads as empty: what the library has to say about it is no concern of the
-// person's.
+// A database that cannot be read reads as empty; the library's warnings about it help nobody.
 void silenceLibrary()
 {
     [[maybe_unused]] static const guint handler = g_log_set_handler(
@@ -27,9 +26,9 @@ void silenceLibrary()
         [](const gchar *, GLogLevelFlags, const gchar *, gpointer) {}, nullptr);
 }
 
-// The library shares the one bus connection of the process, and that one ends the process when the bus goes away,
-// unless it is told not to. Waiting for the connection is left to a thread, which needs no event loop and ends at once;
-// holding on to the connection makes sure that the library gets no other.
+// The library uses GLib's shared bus connection, which by default ends the process when the bus goes away. A thread
+// waits for the connection, so that a start does not, and then ends. The reference is kept, so that the library never
+// gets another connection.
 void outliveBus()
 {
     std::thread([] {

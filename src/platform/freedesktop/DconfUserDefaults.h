@@ -43,6 +43,6 @@ private:
     /// Values that could not be stored. An invalid one hides a stored one that could not be removed.
     QHash<QString, QVariant> m_unstored;
 
-    /// The marks of own writes whose echo is still to come; it announces nothing new.
+    /// The tags of our own writes whose change signals are still to come and must not be announced again.
     QSet<QByteArray> m_ownWrites;
 };

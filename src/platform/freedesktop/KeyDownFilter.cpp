@@ -9,8 +9,8 @@ KeyDownFilter::KeyDownFilter()
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-// Qt asks the window first whether it wants a key for itself rather than for a shortcut, and then sends the key, unless
-// a shortcut took it. A key that a program makes up may come without the question.
+// Qt sends a ShortcutOverride first and then, unless a shortcut took the key, a KeyPress. The monitors decide on the
+// first, and that decision is reused for the second. A synthetic key may come as a KeyPress alone.
 bool KeyDownFilter::eventFilter(QObject *receiver, QEvent *event)
 {
     const bool isQuestion = event->type() == QEvent::ShortcutOverride;

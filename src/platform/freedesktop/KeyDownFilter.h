@@ -20,8 +20,8 @@ protected:
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
 private:
-    /// What the monitors made of a key before Qt looked for a shortcut. Qt sends the same key again where there is
-    /// none.
+    /// What the monitors decided about a key on its ShortcutOverride. Where no shortcut takes the key, Qt sends it
+    /// again as a KeyPress, for which the decision is reused.
     struct Verdict {
         bool isAbout(const QKeyEvent &event) const;
 

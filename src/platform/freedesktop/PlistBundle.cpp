@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The library goes down into nested values by recursion, so the size of the file is what bounds the stack.
+/// The library parses nested values by recursion, so the size of the file bounds the stack.
 constexpr qint64 largestInfoPlist = 128LL * 1024; // bytes
 
 plist_t parsed(const QByteArray &text)

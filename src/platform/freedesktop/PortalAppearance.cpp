@@ -102,13 +102,13 @@ bool PortalAppearance::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// No sender is named in these two, since the bus would have to be asked who that is before going on.
+// Both name no sender: Qt would first ask the bus who that is, and wait for the answer.
 void PortalAppearance::listen()
 {
     auto bus = SessionBus::connection();
     if (!bus)
         return;
-    // Qt refuses a slot whose types it has not met yet.
+    // Qt refuses a slot with a type that is not registered.
     qRegisterMetaType<QDBusVariant>();
     bus->connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
                  SLOT(settingChanged(QString, QString, QDBusVariant)));
@@ -117,8 +117,7 @@ void PortalAppearance::listen()
                  SLOT(portalOwnerChanged(QString, QString, QString)));
 }
 
-// One question for everything: it is answered alike by every version of the portal, while the questions for a
-// single value differ between them.
+// One call for all settings: every version of the portal answers it alike, while the calls for a single value differ.
 void PortalAppearance::ask(int limit)
 {
     const auto bus = SessionBus::connection();

@@ -5,7 +5,7 @@
 /// The settings applications of the desktops.
 namespace SystemSettingsApps {
 
-/// Whether one of them names its windows so, in the value of WM_CLASS: two texts, each with a zero byte behind it.
+/// Whether a window with this WM_CLASS belongs to one of them. The value is two texts, each ended by a zero byte.
 bool haveWindowClass(QByteArrayView value);
 
 }

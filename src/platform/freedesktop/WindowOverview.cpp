@@ -28,7 +28,7 @@ QDBusMessage switchedOn(const Switch &overview)
     return call;
 }
 
-/// The window manager of this desktop does it for whoever invokes the shortcut.
+/// The window manager opens it when its shortcut is invoked.
 QDBusMessage shortcutInvoked()
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -48,7 +48,7 @@ void WindowOverview::open()
     QList<QDBusMessage> calls = {shortcutInvoked()};
     for (const Switch &overview : switches)
         calls.append(switchedOn(overview));
-    // Nobody but the desktop that runs is there to hear its call.
+    // Only the desktop that is running receives its call.
     for (QDBusMessage &call : calls) {
         call.setAutoStartService(false);
         bus->send(call);

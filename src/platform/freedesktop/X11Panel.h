@@ -2,14 +2,14 @@
 
 class QWindow;
 
-/// What Qt does not ask of an X server for a window that floats beside the others.
+/// What Qt leaves out when it shows a floating window on an X server.
 namespace X11Panel {
 
-/// Readies a window that is not shown to appear in front of the others on every desktop, and to be left out by the
-/// lists of windows. A window manager forgets it when the window is hidden.
+/// Prepares a hidden window to appear in front of the others, on every desktop and in no list of windows. A window
+/// manager forgets this when the window is hidden.
 void floatOnAllDesktops(QWindow &window);
 
-/// Whether somebody lets what lies behind a transparent window shine through.
+/// Whether a compositor runs, so that transparent windows show what lies behind them.
 bool isComposited();
 
 }

@@ -11,7 +11,7 @@ class GeneralActions : public QObject {
     QML_ELEMENT
     QML_SINGLETON
 public:
-    /// The application starts the guide; this room only knows that somebody can.
+    /// Sets what starts the guide, which this room cannot do itself.
     static void setGuideOpener(std::function<void()> opener);
 
     /// Stores the wish at once, so that the page shows it until the agent reports the real state, and tells

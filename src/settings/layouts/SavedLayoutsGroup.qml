@@ -3,7 +3,7 @@ import QtQuick
 import Embera.Rows
 import Corvane.Settings.Layouts
 
-/// The saved layouts, or the word that there are none yet.
+/// The saved layouts, or a row that says that there are none yet.
 EBGroup {
     id: group
 

@@ -23,7 +23,7 @@ public:
                                const QList<EBSettingsPage> &pages, const std::optional<QString> &initial);
     ~EBSettingsWindowController() override;
 
-    /// Begins to load what a window on these pages starts with, while the caller makes ready the rest.
+    /// Begins to load what a window on these pages starts with, while the caller prepares the rest.
     static void prefetch(ViewEngine &engine, const QList<EBSettingsPage> &pages, const std::optional<QString> &initial);
 
     void showWindow();

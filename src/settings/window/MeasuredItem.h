@@ -28,7 +28,7 @@ public:
 signals:
     void contentSizeChanged();
     void roomHeightChanged();
-    /// The size has changed. Said once a frame, however often the layout moved in between.
+    /// The size has changed. Emitted at most once a frame, however often the layout moved in between.
     void measured(QSizeF size);
 
 protected:

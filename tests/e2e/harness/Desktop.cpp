@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Whatever of the machine's own desktop would change how a program looks or behaves.
+/// The variables of the machine's own desktop that would change how a program looks or behaves.
 constexpr auto foreign = {
     "AT_SPI_BUS_ADDRESS",
     "CV_STEP",

@@ -2,7 +2,7 @@
 
 #include "XConnection.h"
 
-/// Hears what windows ask of a window manager, where there is none.
+/// Receives what windows ask of a window manager, in place of one.
 class RootListener {
 public:
     explicit RootListener(const QByteArray &display);
