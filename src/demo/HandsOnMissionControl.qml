@@ -15,21 +15,8 @@ Item {
     implicitHeight: 4 + grid.height + 14
     width: parent?.width ?? implicitWidth
 
-    AppStorage {
-        id: storedTheme
-        key: Key.buttonTheme
-    }
-    AppStorage {
-        id: storedSize
-        key: Key.buttonSizeOption
-    }
-    AppStorage {
-        id: minimizeIsShown
-        key: Key.showMinimizeButton
-    }
-    AppStorage {
-        id: maximizeIsShown
-        key: Key.showMaximizeButton
+    OverlayLook {
+        id: look
     }
     ShortcutMonitor {
         model: surface.model
@@ -52,10 +39,10 @@ Item {
 
                 model: surface.model
                 win: surface.model.wins[index]
-                theme: storedTheme.value
-                size: storedSize.value
-                showMinimize: minimizeIsShown.value
-                showMaximize: maximizeIsShown.value
+                theme: look.theme
+                size: look.size
+                showMinimize: look.showMinimize
+                showMaximize: look.showMaximize
             }
         }
     }

@@ -11,29 +11,16 @@ EBStageScreen {
     id: screen
 
     required property OnboardingFlow flow
-    readonly property string theme: ButtonChoices.theme(storedTheme.value)
-    readonly property string size: ButtonChoices.size(storedSize.value)
+    readonly property string theme: ButtonChoices.theme(look.theme)
+    readonly property string size: ButtonChoices.size(look.size)
 
     app: "corvane"
     kicker: flow.kicker("customize")
     title: qsTr("Make it yours")
     text: qsTr("Optional. Pick a look and a size; you can change them any time in Settings.")
 
-    AppStorage {
-        id: storedTheme
-        key: Key.buttonTheme
-    }
-    AppStorage {
-        id: storedSize
-        key: Key.buttonSizeOption
-    }
-    AppStorage {
-        id: showMinimize
-        key: Key.showMinimizeButton
-    }
-    AppStorage {
-        id: showMaximize
-        key: Key.showMaximizeButton
+    OverlayLook {
+        id: look
     }
     Row {
         width: parent.width
@@ -44,13 +31,14 @@ EBStageScreen {
             width: 176
             theme: screen.theme
             size: screen.size
-            showMinimize: showMinimize.value
-            showMaximize: showMaximize.value
+            showMinimize: look.showMinimize
+            showMaximize: look.showMaximize
             windowSize: Qt.size(128, 76)
             buttonScale: 1
         }
         EBGroup {
             width: parent.width - 176 - parent.spacing
+            ruleInset: 0
 
             Item {
                 width: parent.width
@@ -64,10 +52,9 @@ EBStageScreen {
                     width: parent.width - 2 * 12
                     compact: true
                     themeRaw: screen.theme
-                    onChosen: themeRaw => storedTheme.value = themeRaw
+                    onChosen: themeRaw => look.theme = themeRaw
                 }
             }
-            EBRule { }
             EBRow {
                 title: qsTr("Size")
 
@@ -75,20 +62,18 @@ EBStageScreen {
                     label: qsTr("Size")
                     options: ButtonChoices.sizes
                     selection: screen.size
-                    onSelected: value => storedSize.value = value
+                    onSelected: value => look.size = value
                 }
             }
-            EBRule { }
             EBSwitchRow {
                 title: qsTr("Minimize button")
-                isOn: showMinimize.value
-                onFlipped: value => showMinimize.value = value
+                isOn: look.showMinimize
+                onFlipped: value => look.showMinimize = value
             }
-            EBRule { }
             EBSwitchRow {
                 title: qsTr("Full screen button")
-                isOn: showMaximize.value
-                onFlipped: value => showMaximize.value = value
+                isOn: look.showMaximize
+                onFlipped: value => look.showMaximize = value
             }
         }
     }

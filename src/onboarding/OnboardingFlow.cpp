@@ -21,12 +21,6 @@ bool initialLaunchAtLogin(OnboardingFlow::Run run)
     return !isKnown || stored.toBool();
 }
 
-bool showsOptionalButton()
-{
-    return Shared::value(Shared::Key::showMinimizeButton).toBool()
-        || Shared::value(Shared::Key::showMaximizeButton).toBool();
-}
-
 }
 
 OnboardingFlow::OnboardingFlow(Run run, std::function<void()> finish)
@@ -36,8 +30,9 @@ OnboardingFlow::OnboardingFlow(Run run, std::function<void()> finish)
       m_reduceMotion(Platform::current().appearance().shouldReduceMotion())
 {
     connect(&m_demo, &DemoModel::doneChanged, this, &OnboardingFlow::hintChanged);
-    connect(&Shared::store(), &UserDefaults::changed, this, &OnboardingFlow::follow);
-    m_trusted = Shared::value(Shared::Key::agentAccessibilityTrusted).toBool();
+    connect(&m_look, &OverlayLook::changed, this, &OnboardingFlow::hintChanged);
+    m_trusted.setKey(Shared::Key::agentAccessibilityTrusted);
+    connect(&m_trusted, &AppStorage::valueChanged, this, &OnboardingFlow::followTrust);
 }
 
 QStringList OnboardingFlow::steps()
@@ -57,8 +52,9 @@ QString OnboardingFlow::kicker(const QString &caseName)
 QString OnboardingFlow::hint() const
 {
     if (!m_demo.done().contains(DemoModel::Task::close)) {
-        return showsOptionalButton() ? tr("Click a button, or press ⌘W to close it.")
-                                     : tr("Click the cross, or press ⌘W to close it.");
+        const bool isCloseAlone = !m_look.showMinimize() && !m_look.showMaximize();
+        return isCloseAlone ? tr("Click the cross, or press ⌘W to close it.")
+                            : tr("Click a button, or press ⌘W to close it.");
     }
     if (!m_demo.done().contains(DemoModel::Task::minimize))
         return tr("Now hover another window and press ⌘M to minimize it.");
@@ -109,7 +105,7 @@ void OnboardingFlow::requestAccess()
     Shared::send(Shared::Command::requestAccessibility);
     Platform::current().mainQueue().after(tileDelay, this, [this] {
         // Whoever has moved on in the meantime, or has the permission, has no use for the tile.
-        if (m_step == OnboardingStep::access && !m_trusted)
+        if (m_step == OnboardingStep::access && !trusted())
             m_dragTile.show();
     });
 }
@@ -122,10 +118,7 @@ void OnboardingFlow::looksGood()
 
 void OnboardingFlow::keepTheDefaults()
 {
-    using namespace Shared;
-    for (const QString &key :
-         {Key::buttonTheme, Key::buttonSizeOption, Key::showMinimizeButton, Key::showMaximizeButton})
-        store().setValue(key, Contract::defaultValue(key));
+    m_look.reset();
     looksGood();
 }
 
@@ -138,23 +131,10 @@ void OnboardingFlow::finishSetup(bool startAtLogin, bool openMissionControl)
     m_finish();
 }
 
-void OnboardingFlow::follow(const QString &key)
+void OnboardingFlow::followTrust()
 {
-    using namespace Shared;
-    const auto concerns = [&key](const QString &name) { return key.isEmpty() || key == name; };
-    if (concerns(Key::showMinimizeButton) || concerns(Key::showMaximizeButton))
-        emit hintChanged();
-    if (concerns(Key::agentAccessibilityTrusted))
-        setTrusted(value(Key::agentAccessibilityTrusted).toBool());
-}
-
-void OnboardingFlow::setTrusted(bool trusted)
-{
-    if (trusted == m_trusted)
-        return;
-    m_trusted = trusted;
     emit trustedChanged();
-    if (!trusted || m_step != OnboardingStep::access)
+    if (!trusted() || m_step != OnboardingStep::access)
         return;
     m_dragTile.hide();
     GuideVisibility::post(true);

@@ -3,6 +3,7 @@
 #include "DemoModel.h"
 #include "DragTileController.h"
 #include "OnboardingStep.h"
+#include "OverlayLook.h"
 
 #include <QObject>
 #include <QStringList>
@@ -44,7 +45,7 @@ public:
     static QStringList steps();
     DemoModel *demo() { return &m_demo; }
     QString hint() const;
-    bool trusted() const { return m_trusted; }
+    bool trusted() const { return m_trusted.value().toBool(); }
     bool accessRequested() const { return m_accessRequested; }
     bool launchAtLogin() const { return m_launchAtLogin; }
     DragTileController &dragTile() { return m_dragTile; }
@@ -81,14 +82,14 @@ signals:
 
 private:
     void goBy(int steps);
-    void follow(const QString &key);
-    void setTrusted(bool trusted);
+    void followTrust();
 
     std::function<void()> m_finish;
     OnboardingStep m_step;
     DemoModel m_demo;
     DragTileController m_dragTile;
-    bool m_trusted = false;
+    OverlayLook m_look;
+    AppStorage m_trusted;
     bool m_accessRequested = false;
     const bool m_launchAtLogin;
     const bool m_reduceMotion;

@@ -24,6 +24,7 @@ Pressable {
         spacing: 6
 
         ContinuousRectangle {
+            objectName: "strip"
             width: parent.width
             height: 34
             radius: 10
@@ -49,6 +50,7 @@ Pressable {
             spacing: 4
 
             ContinuousRectangle {
+                objectName: "dot"
                 anchors.verticalCenter: parent.verticalCenter
                 width: 5
                 height: 5

@@ -1,12 +1,16 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Embera.Tokens
 import Embera.Controls
+import Embera.Rows
 
-/// A card around rows and the rules between them.
+/// A card around rows, with a rule between each two that show.
 ContinuousRectangle {
     id: card
 
     default property alias content: rows.data
+    /// How far the rules stay away from the leading edge, in points; 0 lets them span the card.
+    property real ruleInset: KitMetrics.rowInset
 
     implicitWidth: rows.implicitWidth
     implicitHeight: rows.implicitHeight
@@ -18,6 +22,18 @@ ContinuousRectangle {
         id: rows
 
         width: parent.width
+        spacing: KitMetrics.ruleHeight
+        onPositioningComplete: rules.model = Array.from(visibleChildren).filter(row => row.height > 0 && row.y > 0).map(row => row.y)
+    }
+    Repeater {
+        id: rules
+
+        EBRule {
+            required property real modelData
+
+            y: modelData - height
+            inset: card.ruleInset
+        }
     }
     // Over the content, so that nothing in it hides the edge.
     ContinuousRectangle {

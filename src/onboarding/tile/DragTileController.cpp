@@ -1,5 +1,6 @@
 #include "DragTileController.h"
 
+#include "AgentBundle.h"
 #include "DragTilePanel.h"
 #include "GuideVisibility.h"
 #include "Platform.h"
@@ -15,13 +16,7 @@ constexpr double tick = 0.25; // seconds
 
 QUrl productBundle()
 {
-    const QUrl own = Platform::current().mainBundle().bundleURL();
-    if (!own.path().contains(QStringLiteral("/Contents/Helpers/")))
-        return QUrl::fromLocalFile(QStringLiteral("/Applications/Corvane.app"));
-    // This application's folder, then "Helpers", then "Contents".
-    return own.adjusted(QUrl::StripTrailingSlash)
-        .resolved(QUrl(QStringLiteral("../..")))
-        .adjusted(QUrl::StripTrailingSlash);
+    return AgentBundle::url().value_or(QUrl::fromLocalFile(QStringLiteral("/Applications/Corvane.app")));
 }
 
 qreal firstScreenHeight()

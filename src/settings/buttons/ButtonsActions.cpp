@@ -2,7 +2,7 @@
 
 #include "Shared.h"
 
-void ButtonsActions::announce()
+ButtonsActions::ButtonsActions(QObject *parent) : QObject(parent)
 {
-    Shared::send(Shared::Command::applySettings);
+    connect(&m_look, &OverlayLook::changed, this, [] { Shared::send(Shared::Command::applySettings); });
 }

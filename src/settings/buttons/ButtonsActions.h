@@ -1,16 +1,18 @@
 #pragma once
 
-#include <QObject>
-#include <qqmlregistration.h>
+#include "OverlayLook.h"
 
-/// What the Buttons page tells the agent.
+/// The look of the buttons for the Buttons page. For as long as it lives it has the agent read the store again after
+/// each change of the look, whoever made it. What the page finds when it opens is no change.
 class ButtonsActions : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_SINGLETON
+    Q_PROPERTY(OverlayLook *look READ look CONSTANT)
 public:
-    using QObject::QObject;
+    explicit ButtonsActions(QObject *parent = nullptr);
 
-    /// The look of the buttons has changed in the store: the agent should read it again.
-    Q_INVOKABLE void announce();
+    OverlayLook *look() { return &m_look; }
+
+private:
+    OverlayLook m_look;
 };

@@ -11,36 +11,12 @@ import Corvane.Settings.Buttons
 PaneStack {
     id: pane
 
-    readonly property string theme: ButtonChoices.theme(storedTheme.value)
-    readonly property string size: ButtonChoices.size(storedSize.value)
-    /// What the page finds when it opens is no change.
-    property bool isOpen: false
+    readonly property OverlayLook look: actions.look
+    readonly property string theme: ButtonChoices.theme(look.theme)
+    readonly property string size: ButtonChoices.size(look.size)
 
-    Component.onCompleted: isOpen = true
-
-    AppStorage {
-        id: storedTheme
-        key: Key.buttonTheme
-        onValueChanged: if (pane.isOpen)
-            ButtonsActions.announce()
-    }
-    AppStorage {
-        id: storedSize
-        key: Key.buttonSizeOption
-        onValueChanged: if (pane.isOpen)
-            ButtonsActions.announce()
-    }
-    AppStorage {
-        id: showMinimize
-        key: Key.showMinimizeButton
-        onValueChanged: if (pane.isOpen)
-            ButtonsActions.announce()
-    }
-    AppStorage {
-        id: showMaximize
-        key: Key.showMaximizeButton
-        onValueChanged: if (pane.isOpen)
-            ButtonsActions.announce()
+    ButtonsActions {
+        id: actions
     }
     // Never announced: the agent reads the mode each time it makes a window large.
     AppStorage {
@@ -51,8 +27,8 @@ PaneStack {
     ButtonsPreview {
         theme: pane.theme
         size: pane.size
-        showMinimize: showMinimize.value
-        showMaximize: showMaximize.value
+        showMinimize: pane.look.showMinimize
+        showMaximize: pane.look.showMaximize
         windowSize: Qt.size(200, 112)
         buttonScale: 1.15
     }
@@ -65,7 +41,7 @@ PaneStack {
             ThemeTiles {
                 width: parent.width - 2 * 16
                 themeRaw: pane.theme
-                onChosen: themeRaw => storedTheme.value = themeRaw
+                onChosen: themeRaw => pane.look.theme = themeRaw
             }
             EBText {
                 width: parent.width - 2 * 16
@@ -78,9 +54,6 @@ PaneStack {
                 Accessible.name: text
             }
         }
-        EBRule {
-            inset: 16
-        }
         EBRow {
             title: qsTr("Size")
 
@@ -88,7 +61,7 @@ PaneStack {
                 label: qsTr("Size")
                 options: ButtonChoices.sizes
                 selection: pane.size
-                onSelected: value => storedSize.value = value
+                onSelected: value => pane.look.size = value
             }
         }
     }
@@ -96,19 +69,13 @@ PaneStack {
         EBSwitchRow {
             title: qsTr("Minimize button")
             detail: qsTr("Next to Close, which is always there.")
-            isOn: showMinimize.value
-            onFlipped: value => showMinimize.value = value
-        }
-        EBRule {
-            inset: 16
+            isOn: pane.look.showMinimize
+            onFlipped: value => pane.look.showMinimize = value
         }
         EBSwitchRow {
             title: qsTr("Full screen button")
-            isOn: showMaximize.value
-            onFlipped: value => showMaximize.value = value
-        }
-        EBRule {
-            inset: 16
+            isOn: pane.look.showMaximize
+            onFlipped: value => pane.look.showMaximize = value
         }
         EBRow {
             title: qsTr("Full screen")

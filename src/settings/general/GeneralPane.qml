@@ -34,10 +34,6 @@ PaneStack {
             isOn: launchAtLogin.value || loginNeedsApproval.value
             onFlipped: value => GeneralActions.setLaunchAtLogin(value)
         }
-        EBRule {
-            visible: loginNeedsApproval.value
-            inset: 16
-        }
         EBRow {
             visible: loginNeedsApproval.value
             title: qsTr("Login Items")
@@ -49,9 +45,6 @@ PaneStack {
                 text: qsTr("Open")
                 onClicked: GeneralActions.openLoginItems()
             }
-        }
-        EBRule {
-            inset: 16
         }
         EBSwitchRow {
             title: qsTr("Show in the menu bar")
@@ -78,9 +71,6 @@ PaneStack {
                 text: qsTr("Open Settings")
                 onClicked: GeneralActions.requestAccessibility()
             }
-        }
-        EBRule {
-            inset: 16
         }
         EBRow {
             title: qsTr("Welcome guide")

@@ -1,11 +1,10 @@
 import QtQuick
 import Embera.Tokens
 import Embera.Controls
-import Embera.Rows
 import Corvane.Settings.Layouts
 
 /// One saved layout: its thumbnail, its name to type over, and the button that deletes it.
-Column {
+Item {
     id: entry
 
     required property int index
@@ -24,58 +23,50 @@ Column {
         button.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    implicitHeight: preview.height + 2 * 8
     width: parent?.width ?? implicitWidth
+    Accessible.role: Accessible.Grouping
+    Accessible.name: spokenName
 
-    EBRule {
-        visible: entry.index > 0
-        inset: 16
+    LayoutPreview {
+        id: preview
+        anchors {
+            left: parent.left
+            leftMargin: 16
+            verticalCenter: parent.verticalCenter
+        }
+        width: 72
+        // Inside the margins 66 x 36 are left, so that halves and thirds end on whole points.
+        height: 42
+        layout: entry.layout
+        color: EB.sunk
+        windowColor: EB.surface
+        borderColor: EB.lineStrong
+        Accessible.role: Accessible.Graphic
+        Accessible.name: label
     }
-    Item {
-        width: parent.width
-        height: preview.height + 2 * 8
-        Accessible.role: Accessible.Grouping
-        Accessible.name: entry.spokenName
-
-        LayoutPreview {
-            id: preview
-            anchors {
-                left: parent.left
-                leftMargin: 16
-                verticalCenter: parent.verticalCenter
-            }
-            width: 72
-            // Inside the margins 66 x 36 are left, so that halves and thirds end on whole points.
-            height: 42
-            layout: entry.layout
-            color: EB.sunk
-            windowColor: EB.surface
-            borderColor: EB.lineStrong
-            Accessible.role: Accessible.Graphic
-            Accessible.name: label
+    LayoutNameField {
+        anchors {
+            left: preview.right
+            leftMargin: 12 - leftPadding
+            right: button.left
+            rightMargin: 12
+            verticalCenter: parent.verticalCenter
         }
-        LayoutNameField {
-            anchors {
-                left: preview.right
-                leftMargin: 12 - leftPadding
-                right: button.left
-                rightMargin: 12
-                verticalCenter: parent.verticalCenter
-            }
-            name: entry.name
-            label: qsTr("Name of layout %1").arg(entry.index + 1)
-            onCommitted: name => entry.renamed(entry.index, name)
+        name: entry.name
+        label: qsTr("Name of layout %1").arg(entry.index + 1)
+        onCommitted: name => entry.renamed(entry.index, name)
+    }
+    EBIconButton {
+        id: button
+        anchors {
+            right: parent.right
+            rightMargin: 12
+            verticalCenter: parent.verticalCenter
         }
-        EBIconButton {
-            id: button
-            anchors {
-                right: parent.right
-                rightMargin: 12
-                verticalCenter: parent.verticalCenter
-            }
-            glyph: "close"
-            size: 24
-            label: qsTr("Delete %1").arg(entry.spokenName)
-            onClicked: entry.deleted(entry.index, activeFocus)
-        }
+        glyph: "close"
+        size: 24
+        label: qsTr("Delete %1").arg(entry.spokenName)
+        onClicked: entry.deleted(entry.index, activeFocus)
     }
 }

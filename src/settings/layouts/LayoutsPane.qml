@@ -46,18 +46,12 @@ PaneStack {
             isOn: storedEnabled.value
             onFlipped: isOn => storedEnabled.value = isOn
         }
-        EBRule {
-            inset: 16
-        }
         EBSwitchRow {
             enabled: storedEnabled.value
             title: qsTr("Layouts shelf")
             detail: qsTr("A Layouts handle at the bottom of Mission Control. Point at it to open your layouts and templates.")
             isOn: storedShelf.value
             onFlipped: isOn => storedShelf.value = isOn
-        }
-        EBRule {
-            inset: 16
         }
         EBRow {
             enabled: storedEnabled.value
@@ -70,9 +64,6 @@ PaneStack {
                 selection: storedGap.value
                 onSelected: value => storedGap.value = value
             }
-        }
-        EBRule {
-            inset: 16
         }
         EBSwitchRow {
             enabled: storedEnabled.value
@@ -93,7 +84,19 @@ PaneStack {
         Repeater {
             model: pane.tips
 
-            TipRow { }
+            EBRow {
+                id: tip
+
+                /// {title, detail, keys}; an empty detail is none.
+                required property var modelData
+
+                title: modelData.title
+                detail: modelData.detail
+
+                KeyCap {
+                    keys: tip.modelData.keys
+                }
+            }
         }
     }
     EBNote {

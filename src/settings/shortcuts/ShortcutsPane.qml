@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Embera.Controls
 import Embera.Rows
 import Corvane.Settings.Shortcuts
 
@@ -11,8 +12,26 @@ PaneStack {
                 id: shortcuts
             }
 
-            ShortcutRow {
-                onFlipped: (index, on) => shortcuts.setOn(index, on)
+            EBRow {
+                id: row
+
+                required property int index
+                required property string label
+                required property string keys
+                required property bool on
+
+                title: label
+
+                KeyCap {
+                    anchors.verticalCenter: parent?.verticalCenter
+                    keys: row.keys
+                }
+                EBSwitch {
+                    anchors.verticalCenter: parent?.verticalCenter
+                    label: row.label
+                    isOn: row.on
+                    onFlipped: on => shortcuts.setOn(row.index, on)
+                }
             }
         }
     }

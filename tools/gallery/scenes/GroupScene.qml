@@ -18,9 +18,6 @@ Sheet {
                     title: qsTr("Show the shelf")
                     isOn: true
                 }
-                EBRule {
-                    inset: 16
-                }
                 EBSwitchRow {
                     title: qsTr("Open applications that are not running")
                 }

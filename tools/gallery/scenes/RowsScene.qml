@@ -9,36 +9,41 @@ Sheet {
         title: qsTr("Texts")
         contentWidth: 400
 
+        // Rules of different insets, so they stand among the rows.
         EBGroup {
-            EBRow {
-                title: qsTr("A title alone")
-            }
-            EBRule {}
-            EBRow {
-                title: qsTr("A title")
-                detail: qsTr("And its detail.")
-            }
-            EBRule {
-                inset: 16
-            }
-            EBRow {
-                glyph: "wins"
-                title: qsTr("With a glyph")
-            }
-            EBRule {
-                inset: 56
-            }
-            EBRow {
-                glyph: "eye"
-                title: qsTr("With a glyph")
-                detail: qsTr("And a detail that is so long that it goes on in a second line below the first one.")
-            }
-            EBRule {
-                inset: 16
-            }
-            EBRow {
-                title: qsTr("A title that is so long that even the whole width of the card is not enough for it")
-                detail: qsTr("And its detail.")
+            Column {
+                width: parent.width
+
+                EBRow {
+                    title: qsTr("A title alone")
+                }
+                EBRule {}
+                EBRow {
+                    title: qsTr("A title")
+                    detail: qsTr("And its detail.")
+                }
+                EBRule {
+                    inset: 16
+                }
+                EBRow {
+                    glyph: "wins"
+                    title: qsTr("With a glyph")
+                }
+                EBRule {
+                    inset: 56
+                }
+                EBRow {
+                    glyph: "eye"
+                    title: qsTr("With a glyph")
+                    detail: qsTr("And a detail that is so long that it goes on in a second line below the first one.")
+                }
+                EBRule {
+                    inset: 16
+                }
+                EBRow {
+                    title: qsTr("A title that is so long that even the whole width of the card is not enough for it")
+                    detail: qsTr("And its detail.")
+                }
             }
         }
     }
@@ -52,17 +57,11 @@ Sheet {
                 detail: qsTr("It is on.")
                 isOn: true
             }
-            EBRule {
-                inset: 16
-            }
             EBSwitchRow {
                 glyph: "power"
                 title: qsTr("A switch that cannot be flipped")
                 detail: qsTr("Its row stays as it is, and the text keeps clear of the switch.")
                 enabled: false
-            }
-            EBRule {
-                inset: 16
             }
             EBRow {
                 title: qsTr("A button")
@@ -73,18 +72,12 @@ Sheet {
                     text: qsTr("Open")
                 }
             }
-            EBRule {
-                inset: 16
-            }
             EBRow {
                 title: qsTr("A status")
 
                 EBStatus {
                     state: "allowed"
                 }
-            }
-            EBRule {
-                inset: 16
             }
             EBRow {
                 title: qsTr("A chooser")
@@ -95,9 +88,6 @@ Sheet {
                     options: [{value: "small", title: qsTr("Small")}, {value: "medium", title: qsTr("Medium")}, {value: "large", title: qsTr("Large")}]
                     selection: "small"
                 }
-            }
-            EBRule {
-                inset: 16
             }
             EBRow {
                 glyph: "apps"
@@ -121,14 +111,13 @@ Sheet {
         LayoutMirroring.childrenInherit: true
 
         EBGroup {
+            ruleInset: 56
+
             EBSwitchRow {
                 glyph: "power"
                 title: qsTr("A switch")
                 detail: qsTr("It is on.")
                 isOn: true
-            }
-            EBRule {
-                inset: 56
             }
             EBRow {
                 title: qsTr("A status")

@@ -14,13 +14,19 @@ QUrl parent(const QUrl &url)
 
 }
 
-std::unique_ptr<Bundle> AgentBundle::bundle()
+std::optional<QUrl> AgentBundle::url()
 {
     const QUrl own = Platform::current().mainBundle().bundleURL();
     if (!own.path().contains(QStringLiteral("/Contents/Helpers/")))
-        return nullptr;
+        return std::nullopt;
     // This application's folder, then "Helpers", then "Contents".
-    return Platform::current().bundle(parent(parent(parent(own))));
+    return parent(parent(parent(own)));
+}
+
+std::unique_ptr<Bundle> AgentBundle::bundle()
+{
+    const auto found = url();
+    return found ? Platform::current().bundle(*found) : nullptr;
 }
 
 bool AgentBundle::updatesAvailable()
