@@ -1,8 +1,8 @@
 <<<<<<<< HEAD:tools/agent/AgentState.cpp
 #include "AgentState.h"
 ========
-#include "AgentKeys.h"
->>>>>>>> w-kit:tools/agent/AgentKeys.cpp
+#include "AgentState.h"
+>>>>>>>> w-kit:tools/agent/AgentState.cpp
 
 #include "Shared.h"
 #include "UserDefaults.h"
@@ -10,8 +10,8 @@
 <<<<<<<< HEAD:tools/agent/AgentState.cpp
 void AgentState::report(const QString &key, bool value)
 ========
-void AgentKeys::report(const QString &key, bool value)
->>>>>>>> w-kit:tools/agent/AgentKeys.cpp
+void AgentState::report(const QString &key, bool value)
+>>>>>>>> w-kit:tools/agent/AgentState.cpp
 {
     const QVariant stored = Shared::store().value(key);
     if (stored.typeId() != QMetaType::Bool || stored.toBool() != value)
