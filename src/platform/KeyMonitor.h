@@ -13,7 +13,8 @@ inline constexpr std::uint64_t commandFlag = 0x100000;
 
 }
 
-/// The virtual key codes that somebody here asks for: places on the ANSI keyboard, called after the keys that stand there.
+/// The virtual key codes that somebody here asks for: places on the ANSI keyboard, called after the keys that stand
+/// there.
 namespace KeyCodes {
 
 inline constexpr std::int64_t f = 3;

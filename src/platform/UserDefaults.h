@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QVariant>
 
+#include <optional>
+
 /// A suite of settings that several processes read and write. The last writer of a key wins.
 ///
 /// A value is a bool, a double or a QString. Main thread only.
@@ -23,4 +25,11 @@ signals:
     /// The value of `key` may have changed, by this process or by another one.
     /// An empty key says that any key may have.
     void changed(const QString &key);
+
+protected:
+    /// `value` as one of the types a suite holds, an invalid one included; none for a value of any other type.
+    static std::optional<QVariant> storable(const QVariant &value);
+
+    /// Whether the two have the same type and value.
+    static bool isSame(const QVariant &one, const QVariant &other);
 };

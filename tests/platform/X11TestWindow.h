@@ -67,12 +67,20 @@ public:
     static void setNumbers(const XConnection &x, xcb_window_t window, const char *property,
                            const QList<quint32> &numbers)
     {
-        xcb_change_property(x, XCB_PROP_MODE_REPLACE, window, x.atom(property), XCB_ATOM_CARDINAL, 32,
+        xcb_change_property(x, XCB_PROP_MODE_REPLACE, window, x.atom(property), typeOf(property), 32,
                             quint32(numbers.size()), numbers.constData());
         x.synchronise();
     }
 
 private:
+    /// As window managers and windows declare it.
+    static xcb_atom_t typeOf(QByteArrayView property)
+    {
+        if (property.startsWith("_NET_CLIENT_LIST"))
+            return XCB_ATOM_WINDOW;
+        return property == "_NET_WM_STATE" || property == "_NET_WM_WINDOW_TYPE" ? XCB_ATOM_ATOM : XCB_ATOM_CARDINAL;
+    }
+
     const XConnection &m_x;
     xcb_window_t m_id;
 };

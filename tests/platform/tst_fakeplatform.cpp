@@ -3,19 +3,22 @@
 
 #include <QSignalSpy>
 
+/// What a test can do with the services in memory, and see of them, beyond what they promise.
 class FakePlatformTest : public QObject {
     Q_OBJECT
 private slots:
     void init();
 
-    void aSuiteKeepsValuesAndAnnouncesChanges();
     void suitesThatCannotBeOpenedAreNull();
-    void postsAreRecordedAndHeardWhileTheContextLives();
-    void bundlesAreFoundByTheirURL();
-    void theWorkspaceRecordsAndCompletesLater();
-    void theAppearanceIsWhatItIsSetTo();
-    void theWindowsAreThoseItIsGiven();
-    void keysReachTheMonitorsThatAreHeld();
+    void postsAreRecordedAndHeardAtOnce();
+    void theWorkspaceRecords();
+    void anAppearanceMayMatchNone();
+    void aWindowMayTellNothing();
+    void heldMonitorsAreCounted();
+
+    void standingTimeStandsStill();
+    void passingTimeRunsWhatFallsDueAtItsMoment();
+    void whatWaitsIsCounted();
 
 private:
     FakePlatform *m_fake = nullptr;
@@ -28,65 +31,29 @@ void FakePlatformTest::init()
     QCOMPARE(&Platform::current(), m_fake);
 }
 
-void FakePlatformTest::aSuiteKeepsValuesAndAnnouncesChanges()
-{
-    const QString name = QStringLiteral("com.vexmoor.corvane");
-    UserDefaults *suite = Platform::current().userDefaults(name);
-    QCOMPARE(suite, &m_fake->suite(name));
-    QSignalSpy spy(suite, &UserDefaults::changed);
-    suite->setValue(QStringLiteral("key"), true);
-    suite->setValue(QStringLiteral("key"), true);
-    QCOMPARE(suite->value(QStringLiteral("key")), QVariant(true));
-    QCOMPARE(spy.size(), 1);
-    suite->setValue(QStringLiteral("key"), QVariant());
-    QVERIFY(!suite->value(QStringLiteral("key")).isValid());
-    QCOMPARE(spy.size(), 2);
-}
-
 void FakePlatformTest::suitesThatCannotBeOpenedAreNull()
 {
     m_fake->suitesCanBeOpened = false;
     QVERIFY(!Platform::current().userDefaults(QStringLiteral("com.vexmoor.corvane")));
 }
 
-void FakePlatformTest::postsAreRecordedAndHeardWhileTheContextLives()
+void FakePlatformTest::postsAreRecordedAndHeardAtOnce()
 {
     DistributedNotificationCenter &center = Platform::current().distributedNotificationCenter();
-    auto context = std::make_unique<QObject>();
-    QList<QVariantMap> heard;
-    center.observe(QStringLiteral("a"), context.get(), [&](const QVariantMap &userInfo) { heard.append(userInfo); });
+    int heard = 0;
+    center.observe(QStringLiteral("a"), this, [&](const QVariantMap &) { ++heard; });
     center.post(QStringLiteral("a"), {{QStringLiteral("command"), QStringLiteral("x")}});
+    QCOMPARE(heard, 1);
     center.post(QStringLiteral("b"), {});
-    context.reset();
-    center.post(QStringLiteral("a"), {});
-    QCOMPARE(heard, QList<QVariantMap>({{{QStringLiteral("command"), QStringLiteral("x")}}}));
-    QCOMPARE(m_fake->notifications.posts.size(), 3);
+    QCOMPARE(m_fake->notifications.posts.size(), 2);
+    QCOMPARE(m_fake->notifications.posts.at(0).userInfo.value(QStringLiteral("command")), QVariant("x"));
     QCOMPARE(m_fake->notifications.posts.at(1).name, QStringLiteral("b"));
 }
 
-void FakePlatformTest::bundlesAreFoundByTheirURL()
+void FakePlatformTest::theWorkspaceRecords()
 {
-    FakeBundle agent;
-    agent.url = QUrl::fromLocalFile(QStringLiteral("/Corvane.app"));
-    agent.info = {{QStringLiteral("CFBundleIdentifier"), QStringLiteral("com.vexmoor.corvane")}};
-    agent.resources = {{QStringLiteral("a.ttf"), QUrl::fromLocalFile(QStringLiteral("/a.ttf"))}};
-    m_fake->bundles = {agent};
-    const auto bundle = Platform::current().bundle(agent.url);
-    QVERIFY(bundle && bundle->hasInfoDictionary());
-    QCOMPARE(bundle->bundleIdentifier(), QStringLiteral("com.vexmoor.corvane"));
-    QCOMPARE(bundle->urlForResource(QStringLiteral("a"), QStringLiteral("ttf")).fileName(), QStringLiteral("a.ttf"));
-    QVERIFY(!Platform::current().bundle(QUrl::fromLocalFile(QStringLiteral("/other"))));
-    QVERIFY(!Platform::current().mainBundle().hasInfoDictionary());
-}
-
-void FakePlatformTest::theWorkspaceRecordsAndCompletesLater()
-{
-    bool isComplete = false;
     Workspace &workspace = Platform::current().workspace();
-    workspace.openApplication(QUrl::fromLocalFile(QStringLiteral("/a.app")), {QStringLiteral("--about")},
-                              [&] { isComplete = true; });
-    QVERIFY(!isComplete);
-    QTRY_VERIFY(isComplete);
+    workspace.openApplication(QUrl::fromLocalFile(QStringLiteral("/a.app")), {QStringLiteral("--about")}, [] {});
     QCOMPARE(m_fake->space.openedApplications.constFirst().arguments, QStringList(QStringLiteral("--about")));
     workspace.open(QUrl(QStringLiteral("https://example.com")));
     workspace.openLoginItemsSettings();
@@ -96,48 +63,74 @@ void FakePlatformTest::theWorkspaceRecordsAndCompletesLater()
     QCOMPARE(m_fake->space.missionControlOpened, 1);
 }
 
-void FakePlatformTest::theAppearanceIsWhatItIsSetTo()
+void FakePlatformTest::anAppearanceMayMatchNone()
 {
-    Appearance &appearance = Platform::current().appearance();
-    QCOMPARE(appearance.bestMatch(), AppearanceName::Aqua);
-    QSignalSpy spy(&appearance, &Appearance::changed);
+    QSignalSpy spy(&Platform::current().appearance(), &Appearance::changed);
     m_fake->look.setName(std::nullopt);
     m_fake->look.setName(std::nullopt);
-    m_fake->look.setReduceMotion(true);
-    QVERIFY(!appearance.bestMatch());
-    QVERIFY(appearance.shouldReduceMotion());
-    QCOMPARE(spy.size(), 2);
+    QVERIFY(!Platform::current().appearance().bestMatch());
+    QCOMPARE(spy.size(), 1);
 }
 
-void FakePlatformTest::theWindowsAreThoseItIsGiven()
+void FakePlatformTest::aWindowMayTellNothing()
 {
-    QVERIFY(Platform::current().windowList().onScreenWindows().isEmpty());
-    m_fake->windows.windows = {{0, true, QRectF(1, 2, 3, 4)}, {}};
-    const QList<OnScreenWindow> windows = Platform::current().windowList().onScreenWindows();
-    QCOMPARE(windows.size(), 2);
-    QCOMPARE(windows.constFirst().bounds, std::optional(QRectF(1, 2, 3, 4)));
-    QVERIFY(!windows.constLast().layer && !windows.constLast().ownerIsSystemSettings && !windows.constLast().bounds);
+    m_fake->windows.windows = {{}};
+    const OnScreenWindow window = Platform::current().windowList().onScreenWindows().constFirst();
+    QVERIFY(!window.layer && !window.ownerIsSystemSettings && !window.bounds);
 }
 
-void FakePlatformTest::keysReachTheMonitorsThatAreHeld()
+void FakePlatformTest::heldMonitorsAreCounted()
 {
-    constexpr std::int64_t wCode = 13;
-    QVERIFY(!m_fake->pressKey({wCode, KeyFlags::commandFlag, false}));
-    QList<KeyDown> heard;
-    auto monitor = Platform::current().monitorKeyDown([&](const KeyDown &key) {
-        heard.append(key);
-        return key.flags == KeyFlags::commandFlag;
-    });
+    auto monitor = Platform::current().monitorKeyDown([](const KeyDown &) { return true; });
     QCOMPARE(m_fake->keyMonitorCount(), 1);
-    QVERIFY(m_fake->pressKey({wCode, KeyFlags::commandFlag, true}));
-    QVERIFY(!m_fake->pressKey({wCode, 0, false}));
-    QCOMPARE(heard.size(), 2);
-    QCOMPARE(heard.constFirst().keyCode, wCode);
-    QVERIFY(heard.constFirst().isARepeat);
     monitor.reset();
     QCOMPARE(m_fake->keyMonitorCount(), 0);
-    QVERIFY(!m_fake->pressKey({wCode, KeyFlags::commandFlag, false}));
-    QCOMPARE(heard.size(), 2);
+}
+
+void FakePlatformTest::standingTimeStandsStill()
+{
+    FakeMainQueue queue;
+    int runs = 0;
+    queue.after(0, this, [&] { ++runs; });
+    queue.after(0.45, this, [&] { ++runs; });
+    QCoreApplication::processEvents();
+    QCOMPARE(runs, 0);
+    queue.advance(0);
+    QCOMPARE(runs, 1);
+    queue.advance(0.449);
+    QCOMPARE(runs, 1);
+    queue.advance(0.001);
+    QCOMPARE(runs, 2);
+}
+
+void FakePlatformTest::passingTimeRunsWhatFallsDueAtItsMoment()
+{
+    FakeMainQueue queue;
+    QString order;
+    auto repetition = queue.every(0.25, this, [&] { order += 'r'; });
+    queue.after(0.3, this, [&] {
+        order += 'a';
+        // 0.4 from the beginning, so before the repetition runs again.
+        queue.after(0.1, this, [&] { order += 'b'; });
+    });
+    queue.after(0.6, this, [&] { repetition.reset(); });
+    queue.advance(2);
+    QCOMPARE(order, "rabr");
+}
+
+void FakePlatformTest::whatWaitsIsCounted()
+{
+    FakeMainQueue queue;
+    auto context = std::make_unique<QObject>();
+    queue.after(1, context.get(), [] {});
+    auto repetition = queue.every(1, this, [] {});
+    QCOMPARE(queue.waiting(), 2);
+    context.reset();
+    QCOMPARE(queue.waiting(), 1);
+    queue.advance(5);
+    QCOMPARE(queue.waiting(), 1);
+    repetition.reset();
+    QCOMPARE(queue.waiting(), 0);
 }
 
 CORVANE_TEST(FakePlatformTest, runInCore)

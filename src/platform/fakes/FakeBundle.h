@@ -21,7 +21,9 @@ public:
     bool hasInfoDictionary() const override { return info.has_value(); }
     QVariant objectForInfoDictionaryKey(const QString &key) const override
     {
-        return info ? info->value(key) : QVariant();
+        const QVariant value = info ? info->value(key) : QVariant();
+        const int type = value.typeId();
+        return type == QMetaType::QString || type == QMetaType::Bool || type == QMetaType::Int ? value : QVariant();
     }
     QUrl urlForResource(const QString &name, const QString &extension) const override
     {

@@ -4,21 +4,22 @@
 
 #include <QVariantMap>
 
-/// A suite in memory. It takes values of any type, so that a test can store what a reader must refuse.
+/// A suite in memory.
 class FakeUserDefaults : public UserDefaults {
 public:
-    /// Every stored value. Writing here emits no signal.
+    /// Every stored value, which may have a type that a suite does not hold: other programs store what they like.
+    /// Writing here emits no signal.
     QVariantMap values;
 
-    QVariant value(const QString &key) const override { return values.value(key); }
+    QVariant value(const QString &key) const override { return storable(values.value(key)).value_or(QVariant()); }
 
     void setValue(const QString &key, const QVariant &value) override
     {
-        const QVariant before = values.value(key);
-        if (before == value && before.metaType() == value.metaType())
+        const auto typed = storable(value);
+        if (!typed || isSame(this->value(key), *typed))
             return;
-        if (value.isValid())
-            values.insert(key, value);
+        if (typed->isValid())
+            values.insert(key, *typed);
         else
             values.remove(key);
         emit changed(key);

@@ -80,31 +80,6 @@ GVariant *toGVariant(const QVariant &value)
     }
 }
 
-/// `value` as one of the types a suite holds; none for a value of any other type.
-std::optional<QVariant> storable(const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::UnknownType:
-    case QMetaType::Bool:
-    case QMetaType::QString:
-    case QMetaType::Double:
-        return value;
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-    case QMetaType::Float:
-        return value.toDouble();
-    default:
-        return std::nullopt;
-    }
-}
-
-bool isSame(const QVariant &one, const QVariant &other)
-{
-    return one.metaType() == other.metaType() && one == other;
-}
-
 }
 
 DconfUserDefaults::DconfUserDefaults(const QString &suiteName) : m_folder(folderOf(suiteName))

@@ -38,7 +38,7 @@ QString quoted(QString argument)
 QString DesktopEntry::text(const QString &path, const char *key)
 {
     const Owned<char> text(g_key_file_get_locale_string(read(path).get(), group, key, nullptr, nullptr));
-    return QString::fromUtf8(text.get());
+    return QString::fromUtf8(text.get()).trimmed();
 }
 
 std::optional<bool> DesktopEntry::boolean(const QString &path, const char *key)

@@ -7,7 +7,8 @@
 /// The files by which a desktop knows its applications. A file that is missing or damaged holds nothing.
 namespace DesktopEntry {
 
-/// The text of `key` in the entry's own group, in the person's language; empty when there is none.
+/// The text of `key` in the entry's own group, in the person's language and without the space around it; empty when
+/// there is none.
 QString text(const QString &path, const char *key);
 
 /// The Boolean of `key` in the entry's own group; none when there is none, or something else.

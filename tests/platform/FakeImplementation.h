@@ -1,0 +1,54 @@
+#pragma once
+
+#include "FakePlatform.h"
+#include "Implementation.h"
+
+/// The services in memory.
+class FakeImplementation : public Implementation {
+public:
+    ~FakeImplementation() override { Platform::install(nullptr); }
+
+    void store(const QString &key, const QVariant &value) override
+    {
+        FakeUserDefaults &suite = m_platform.suite(suiteName());
+        suite.values.insert(key, value);
+        emit suite.changed(key);
+    }
+
+    void choose(const Look &look) override
+    {
+        const auto name = look.isHighContrast ? (look.isDark ? AppearanceName::AccessibilityHighContrastDarkAqua
+                                                             : AppearanceName::AccessibilityHighContrastAqua)
+                                              : (look.isDark ? AppearanceName::DarkAqua : AppearanceName::Aqua);
+        m_platform.look.setName(name);
+        m_platform.look.setReduceMotion(look.reducesMotion);
+    }
+
+    bool press(const KeyDown &key) override { return m_platform.pressKey(key); }
+
+    void show(const QList<OnScreenWindow> &windows) override { m_platform.windows.windows = windows; }
+
+    QUrl makeBundle(const QVariantMap &info, const QStringList &resources) override
+    {
+        FakeBundle bundle;
+        bundle.url = QUrl(QStringLiteral("file:///bundles/%1").arg(m_platform.bundles.size()));
+        bundle.info = info;
+        for (const QString &name : resources)
+            bundle.resources.insert(name, QUrl(bundle.url.toString() + u'/' + name));
+        m_platform.bundles.append(bundle);
+        return bundle.url;
+    }
+
+    bool waitFor(const std::function<bool()> &isTrue) override
+    {
+        constexpr double step = 0.001; // seconds
+        for (double passed = 0; !isTrue() && passed < 5; passed += step) {
+            m_platform.queue.advance(step);
+            QCoreApplication::processEvents();
+        }
+        return isTrue();
+    }
+
+private:
+    FakePlatform &m_platform = FakePlatform::install();
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Implementation.h"
+#include "SettingsPortal.h"
+#include "X11TestWindow.h"
+
+#include <QTemporaryDir>
+#include <QWindow>
+
+class Desktop;
+
+/// The services of a Linux desktop, on one of the test's own.
+class FreedesktopImplementation : public Implementation {
+public:
+    explicit FreedesktopImplementation(const Desktop &desktop);
+    ~FreedesktopImplementation() override;
+
+    void store(const QString &key, const QVariant &value) override;
+    void choose(const Look &look) override;
+    bool press(const KeyDown &key) override;
+    void show(const QList<OnScreenWindow> &windows) override;
+    QUrl makeBundle(const QVariantMap &info, const QStringList &resources) override;
+    bool waitFor(const std::function<bool()> &isTrue) override { return QTest::qWaitFor(isTrue); }
+
+private:
+    /// Tells whether it was sent a key.
+    class Window : public QWindow {
+    public:
+        bool isSentAKey = false;
+
+    protected:
+        void keyPressEvent(QKeyEvent *) override { isSentAKey = true; }
+    };
+
+    const Desktop &m_desktop;
+    SettingsPortal m_portal;
+    Window m_window;
+    std::vector<std::unique_ptr<X11TestWindow>> m_shown;
+    QTemporaryDir m_bundles;
+    int m_bundleCount = 0;
+};
