@@ -1,13 +1,25 @@
+include(GNUInstallDirs)
+
 # The agent's bundle, which holds this application's bundle in its Helpers folder.
 set(CORVANE_BUNDLE "${PROJECT_BINARY_DIR}/Corvane.app")
 
-# corvane_bundle(target folder plist [RESOURCES …]): the program becomes the executable of a bundle in `folder`.
+# corvane_bundle(target folder plist [INSTALLED] [RESOURCES …]): the program becomes the executable of a bundle in `folder`.
+# An INSTALLED one is installed below lib/corvane/, where its property CORVANE_INSTALL_FOLDER says.
 function(corvane_bundle target folder plist)
-    cmake_parse_arguments(ARG "" "" "RESOURCES" ${ARGN})
+    cmake_parse_arguments(ARG "INSTALLED" "" "RESOURCES" ${ARGN})
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${folder}/Contents/MacOS")
     configure_file("${plist}" "${folder}/Contents/Info.plist" @ONLY)
     foreach(file IN LISTS ARG_RESOURCES)
         get_filename_component(name "${file}" NAME)
         configure_file("${file}" "${folder}/Contents/Resources/${name}" COPYONLY)
     endforeach()
+
+    if(ARG_INSTALLED)
+        cmake_path(RELATIVE_PATH folder BASE_DIRECTORY "${PROJECT_BINARY_DIR}" OUTPUT_VARIABLE place)
+        set(place "${CMAKE_INSTALL_LIBDIR}/corvane/${place}")
+        set_target_properties(${target} PROPERTIES CORVANE_INSTALL_FOLDER "${place}")
+        install(TARGETS ${target} RUNTIME DESTINATION "${place}/Contents/MacOS")
+        install(FILES "${folder}/Contents/Info.plist" DESTINATION "${place}/Contents")
+        install(FILES ${ARG_RESOURCES} DESTINATION "${place}/Contents/Resources")
+    endif()
 endfunction()

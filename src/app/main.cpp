@@ -3,6 +3,7 @@
 #include "SettingsAppDelegate.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QQuickWindow>
 
 namespace {
@@ -13,6 +14,24 @@ void chooseRenderer()
 {
     if (!qEnvironmentVariableIsSet("QSG_RHI_BACKEND") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+/// The picture that stands for the windows in a task list, in the sizes between which a window manager scales.
+void setIcon()
+{
+    const Bundle &bundle = Platform::current().mainBundle();
+    QIcon icon;
+    for (const char *name : {"Corvane-16", "Corvane-24", "Corvane-32", "Corvane-48", "Corvane-128"})
+        icon.addFile(bundle.urlForResource(QString::fromLatin1(name), QStringLiteral("png")).toLocalFile());
+    QGuiApplication::setWindowIcon(icon);
+}
+
+/// Nobody waits for the icon, and it would only be in the way of the first frame.
+void setIconAfterFirstFrame()
+{
+    auto *window = qobject_cast<QQuickWindow *>(QGuiApplication::topLevelWindows().constFirst());
+    QObject::connect(window, &QQuickWindow::frameSwapped, qApp, &setIcon,
+                     static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 }
@@ -33,5 +52,6 @@ int main(int argc, char *argv[])
 
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
+    setIconAfterFirstFrame();
     return QGuiApplication::exec();
 }

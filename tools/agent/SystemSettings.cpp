@@ -1,6 +1,7 @@
 #include "SystemSettings.h"
 
 #include "EBKitFonts.h"
+#include "Platform.h"
 
 #include <QGuiApplication>
 #include <QQuickItem>
@@ -11,6 +12,9 @@ void SystemSettings::openAccessibility()
 {
     if (!m_window) {
         EBKitFonts::registerFonts();
+        Platform &platform = Platform::current();
+        QGuiApplication::setWindowIcon(
+            platform.workspace().iconForFile(platform.mainBundle().bundleURL().toLocalFile()));
         m_window = std::make_unique<EBWindow>(QSize(480, 300), EBWindow::Style{.miniaturizeButtonEnabled = true});
         m_window->setTitle(QGuiApplication::translate("SystemSettings", "System Settings"));
         m_window->host(ViewEngine::make(m_engine, QStringLiteral("qrc:/qt/qml/Corvane/Agent/AccessibilityPage.qml"),

@@ -48,6 +48,7 @@ int main(int argc, char *argv[])
     QGuiApplication application(argc, argv);
     // The name is also the class of the only window there is.
     QGuiApplication::setApplicationName(SystemSettings::windowClass);
+    QGuiApplication::setDesktopFileName(Shared::suiteName);
     QGuiApplication::setApplicationVersion(QStringLiteral("1.0"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
 

@@ -29,7 +29,7 @@ xcb_atom_t XConnection::atom(const char *name) const
 
 QByteArray XConnection::property(xcb_window_t window, xcb_atom_t name) const
 {
-    constexpr quint32 longest = 16384;
+    constexpr quint32 longest = 65536; // 32-bit units; the icons of a window are tens of thousands
     const auto request = xcb_get_property(m_connection, false, window, name, XCB_ATOM_ANY, 0, longest);
     const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, request, nullptr));
     if (!reply)

@@ -1,0 +1,270 @@
+#include "EndToEndTest.h"
+#include "EntryFile.h"
+#include "InstalledTree.h"
+#include "TestProgram.h"
+#include "WindowIcon.h"
+
+#include <QDirIterator>
+#include <QImageReader>
+#include <QProcess>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString settingsEntry = u"share/applications/com.vexmoor.corvane.settings.desktop"_s;
+const QString agentEntry = u"share/applications/com.vexmoor.corvane.desktop"_s;
+
+/// What a checker of files says of them; nothing when it has no fault to find.
+QString faults(const QString &checker, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(checker, arguments);
+    if (!process.waitForFinished())
+        return checker + u" does not run"_s;
+    const QString said = QString::fromUtf8(process.readAllStandardError());
+    if (process.exitCode() == 0 && said.isEmpty())
+        return {};
+    return u"%1 (%2): %3%4"_s.arg(checker).arg(process.exitCode()).arg(said, process.readAllStandardOutput());
+}
+
+QString read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// How far apart two pictures of one size are, as a mean over all channels of all pixels, from 0 to 255.
+double distance(const QImage &one, const QImage &other)
+{
+    qint64 sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            sum += qAbs(qRed(a) - qRed(b)) + qAbs(qGreen(a) - qGreen(b)) + qAbs(qBlue(a) - qBlue(b))
+                + qAbs(qAlpha(a) - qAlpha(b));
+        }
+    }
+    return double(sum) / (4.0 * one.width() * one.height());
+}
+
+}
+
+/// The installed application: how it is found, how it starts from where it lies, and that it goes again.
+class TestInstall : public EndToEndTest {
+    Q_OBJECT
+
+private:
+    /// Starts what the desktop entry, or an action of it, names.
+    bool openFromEntry(const InstalledTree &tree, const QString &action = {});
+
+private slots:
+    void startsFromItsDesktopEntry_data();
+    void startsFromItsDesktopEntry();
+    void theWindowHasTheIcon_data();
+    void theWindowHasTheIcon();
+    void entriesNameThePathsOfThePrefix_data();
+    void entriesNameThePathsOfThePrefix();
+    void aStagedInstallationNamesThePathsItWillHave();
+    void runsFromAMovedFolderThatCannotBeWrittenTo();
+    void removalLeavesOnlyTheStore();
+
+    void desktopsAcceptTheEntries();
+    void manualsAndCompletionsNameEveryOption_data();
+    void manualsAndCompletionsNameEveryOption();
+    void theIconsShowTheDrawing();
+};
+
+bool TestInstall::openFromEntry(const InstalledTree &tree, const QString &action)
+{
+    QStringList command = EntryFile(tree.path(settingsEntry)).command(action);
+    if (command.isEmpty())
+        return false;
+    const QString program = command.takeFirst();
+    return open({.arguments = command, .executable = program});
+}
+
+void TestInstall::startsFromItsDesktopEntry_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("the settings") << QString() << u"Corvane Settings"_s << u"Settings · 01"_s;
+    QTest::newRow("About") << u"about"_s << u"About Corvane"_s << u"1.0 (1)"_s;
+    QTest::newRow("Show guide") << u"guide"_s << u"Welcome to Corvane"_s << u"Welcome · 01 / 05"_s;
+}
+
+void TestInstall::startsFromItsDesktopEntry()
+{
+    QFETCH(QString, action);
+    const InstalledTree tree(u"Büro & Co"_s);
+    QVERIFY(tree.isValid());
+    QVERIFY(openFromEntry(tree, action));
+    QTEST(window()->title(), "title");
+    const EntryFile entry(tree.path(settingsEntry));
+    QCOMPARE(window()->windowClass(), entry.value(u"StartupWMClass"_s));
+    QFETCH(QString, text);
+    QVERIFY(shows(text));
+}
+
+void TestInstall::theWindowHasTheIcon_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("the settings") << QStringList();
+    QTest::newRow("About") << QStringList{u"--about"_s};
+    QTest::newRow("the guide") << QStringList{u"--onboarding"_s};
+}
+
+void TestInstall::theWindowHasTheIcon()
+{
+    const InstalledTree tree;
+    QVERIFY(tree.isValid());
+    QFETCH(QStringList, arguments);
+    QVERIFY(open({.arguments = arguments, .executable = tree.path(u"bin/corvane-settings"_s)}));
+    QTRY_VERIFY(!windowIcon(desktop().x(), *window()).isEmpty());
+    QList<int> sizes;
+    for (const QImage &picture : windowIcon(desktop().x(), *window())) {
+        sizes.append(picture.width());
+        const QImage file(
+            tree.path(u"share/icons/hicolor/%1x%1/apps/com.vexmoor.corvane.settings.png"_s.arg(picture.width())));
+        // As a pixmap holds it.
+        const QImage shown = file.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QCOMPARE(picture, shown.convertToFormat(QImage::Format_ARGB32));
+    }
+    std::sort(sizes.begin(), sizes.end());
+    QCOMPARE(sizes, (QList{16, 24, 32, 48, 128}));
+}
+
+void TestInstall::entriesNameThePathsOfThePrefix_data()
+{
+    QTest::addColumn<QString>("prefix");
+    QTest::newRow("plain") << u"opt"_s;
+    QTest::newRow("with a space and umlauts") << u"Größe 1"_s;
+    QTest::newRow("with a per cent") << u"100%f"_s;
+}
+
+void TestInstall::entriesNameThePathsOfThePrefix()
+{
+    QFETCH(QString, prefix);
+    const InstalledTree tree(prefix);
+    QVERIFY(tree.isValid());
+    const EntryFile settings(tree.path(settingsEntry));
+    const QString program = tree.path(u"bin/corvane-settings"_s);
+    QCOMPARE(settings.command(), QStringList{program});
+    QCOMPARE(settings.command(u"about"_s), (QStringList{program, u"--about"_s}));
+    QCOMPARE(settings.command(u"guide"_s), (QStringList{program, u"--onboarding"_s, u"--replay"_s}));
+    QCOMPARE(EntryFile(tree.path(agentEntry)).command(), QStringList{tree.path(u"bin/corvane-agent"_s)});
+    QCOMPARE(faults(u"desktop-file-validate"_s, {tree.path(settingsEntry)}), QString());
+}
+
+void TestInstall::aStagedInstallationNamesThePathsItWillHave()
+{
+    const InstalledTree tree = InstalledTree::staged();
+    QVERIFY(tree.isValid());
+    QCOMPARE(EntryFile(tree.path(settingsEntry)).value(u"Exec"_s), u"/usr/bin/corvane-settings"_s);
+    QVERIFY(open({.executable = tree.path(u"bin/corvane-settings"_s)}));
+    QVERIFY(shows(u"Settings · 01"_s));
+}
+
+void TestInstall::runsFromAMovedFolderThatCannotBeWrittenTo()
+{
+    InstalledTree tree;
+    QVERIFY(tree.isValid());
+    QVERIFY(tree.moveAndProtect(u"Über den Wolken"_s));
+    const auto before = tree.files();
+    // The version and the offer of updates come from the two bundles, and a missing font would be in the log.
+    QVERIFY(open({.arguments = {u"--about"_s}, .executable = tree.path(u"bin/corvane-settings"_s)}));
+    QVERIFY(shows(u"1.0 (1)"_s));
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Check for Updates"_s));
+    window()->close();
+    QVERIFY(program().waitForExit());
+    QCOMPARE(tree.files(), before);
+}
+
+void TestInstall::removalLeavesOnlyTheStore()
+{
+    const InstalledTree tree;
+    QVERIFY(tree.isValid());
+    QVERIFY(openFromEntry(tree));
+    FIND(icon, ATSPI_ROLE_CHECK_BOX, "Show in the menu bar");
+    QVERIFY(icon.doAction(u"Toggle"_s));
+    QVERIFY(store().waitFor(u"menuBarIconHidden"_s, true));
+    window()->close();
+    QVERIFY(program().waitForExit());
+
+    QVERIFY(tree.uninstall());
+    QCOMPARE(tree.files().keys(), QStringList());
+    QStringList left;
+    for (const QString &folder : {desktop().session().configFolder(), desktop().session().dataFolder()}) {
+        QDirIterator entries(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+        while (entries.hasNext())
+            left.append(entries.next().mid(folder.size() + 1));
+    }
+    QCOMPARE(left, QStringList{u"dconf/user"_s});
+}
+
+void TestInstall::desktopsAcceptTheEntries()
+{
+    const InstalledTree tree;
+    QVERIFY(tree.isValid());
+    const QString metainfo = tree.path(u"share/metainfo/com.vexmoor.corvane.settings.metainfo.xml"_s);
+    QCOMPARE(faults(u"desktop-file-validate"_s, {tree.path(settingsEntry), tree.path(agentEntry)}), QString());
+    QCOMPARE(faults(u"appstreamcli"_s, {u"validate"_s, u"--no-net"_s, u"--strict"_s, metainfo}), QString());
+    for (const char *command : {"corvane-settings", "corvane-agent"}) {
+        const QString page = tree.path(u"share/man/man1/%1.1"_s.arg(QLatin1String(command)));
+        QCOMPARE(faults(u"man"_s, {u"--warnings"_s, u"-Tutf8"_s, u"-l"_s, page}), QString());
+    }
+}
+
+void TestInstall::manualsAndCompletionsNameEveryOption_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("settings") << u"corvane-settings"_s << QStringList{u"about"_s, u"onboarding"_s, u"replay"_s};
+
+    QProcess help;
+    help.start(QStringLiteral(PROGRAM_CORVANE_AGENT), {u"--headless"_s, u"--help"_s});
+    help.waitForFinished();
+    QStringList options;
+    static const QRegularExpression option(u"--([a-z-]+)"_s);
+    for (auto hit = option.globalMatch(QString::fromUtf8(help.readAllStandardOutput())); hit.hasNext();)
+        options.append(hit.next().captured(1));
+    QTest::newRow("agent") << u"corvane-agent"_s << options;
+}
+
+void TestInstall::manualsAndCompletionsNameEveryOption()
+{
+    QFETCH(QString, command);
+    QFETCH(QStringList, options);
+    QVERIFY(options.size() >= 3);
+    const InstalledTree tree;
+    QVERIFY(tree.isValid());
+    const QString manual = read(tree.path(u"share/man/man1/"_s + command + u".1"_s)).remove(u'\\');
+    const QString bash = read(tree.path(u"share/bash-completion/completions/"_s + command));
+    const QString zsh = read(tree.path(u"share/zsh/site-functions/_"_s + command));
+    const QString fish = read(tree.path(u"share/fish/vendor_completions.d/"_s + command + u".fish"_s));
+    for (const QString &option : std::as_const(options)) {
+        QVERIFY2(manual.contains(u"--"_s + option), qPrintable(option));
+        QVERIFY2(bash.contains(u"--"_s + option), qPrintable(option));
+        QVERIFY2(zsh.contains(u"--"_s + option), qPrintable(option));
+        QVERIFY2(fish.contains(u"-l "_s + option), qPrintable(option));
+    }
+}
+
+void TestInstall::theIconsShowTheDrawing()
+{
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        QImageReader drawing(QStringLiteral(ICON_FOLDER "Corvane.svg"));
+        drawing.setScaledSize({size, size});
+        const QImage picture(QStringLiteral(ICON_FOLDER "Corvane-%1.png").arg(size));
+        QCOMPARE(picture.size(), QSize(size, size));
+        const double apart = distance(picture.convertToFormat(QImage::Format_ARGB32),
+                                      drawing.read().convertToFormat(QImage::Format_ARGB32));
+        QVERIFY2(apart < 3, qPrintable(u"%1: %2; scripts/icons makes them anew"_s.arg(size).arg(apart)));
+    }
+}
+
+CORVANE_TEST(TestInstall, runInCore)
+#include "e2e_install.moc"
