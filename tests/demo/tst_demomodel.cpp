@@ -21,7 +21,6 @@ private slots:
 
     void itBeginsWithSixWindowsOfFourApplications();
     void itBeginsWithNothingHoveredDoneLitOrCounted();
-    void theTasksAndTheStatesAreInTheirOrder();
 
     void aShortcutChangesWindowsAndRecordsATask_data();
     void aShortcutChangesWindowsAndRecordsATask();
@@ -96,19 +95,6 @@ void TestDemoModel::itBeginsWithNothingHoveredDoneLitOrCounted()
     QVERIFY(m_model->done().isEmpty());
     QVERIFY(!m_model->flash());
     QCOMPARE(m_model->nudge(), 0);
-}
-
-void TestDemoModel::theTasksAndTheStatesAreInTheirOrder()
-{
-    QStringList tasks;
-    for (const Task task : DemoModel::allTasks)
-        tasks.append(DemoModel::rawValue(task));
-    QCOMPARE(tasks, QStringList({"hover", "close", "minimize", "fullscreen"}));
-
-    QStringList states;
-    for (int state = 0; state <= int(State::full); ++state)
-        states.append(rawValue(State(state)));
-    QCOMPARE(states, QStringList({"normal", "closed", "minimized", "hidden", "full"}));
 }
 
 void TestDemoModel::aShortcutChangesWindowsAndRecordsATask_data()

@@ -15,45 +15,9 @@ private slots:
         FakePlatform::install();
     }
 
-    void theProductsComeInOrder();
-    void aRawValueIsTheCaseName();
-    void anyOtherTextNamesNoProduct_data();
-    void anyOtherTextNamesNoProduct();
     void aProductOwnsItsAccentFamily_data();
     void aProductOwnsItsAccentFamily();
 };
-
-void TestEBApp::theProductsComeInOrder()
-{
-    QCOMPARE(EBApps::allCases, (std::array{EBApp::quiller, EBApp::corvane, EBApp::parcelo}));
-}
-
-void TestEBApp::aRawValueIsTheCaseName()
-{
-    QCOMPARE(EBApps::fromRawValue(u"quiller"), std::optional(EBApp::quiller));
-    QCOMPARE(EBApps::fromRawValue(u"corvane"), std::optional(EBApp::corvane));
-    QCOMPARE(EBApps::fromRawValue(u"parcelo"), std::optional(EBApp::parcelo));
-    QCOMPARE(EBApps::rawValue(EBApp::quiller), "quiller");
-    QCOMPARE(EBApps::rawValue(EBApp::corvane), "corvane");
-    QCOMPARE(EBApps::rawValue(EBApp::parcelo), "parcelo");
-}
-
-void TestEBApp::anyOtherTextNamesNoProduct_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("capitalised") << "Corvane";
-    QTest::newRow("upper case") << "CORVANE";
-    QTest::newRow("empty") << "";
-    QTest::newRow("with a space") << "corvane ";
-    QTest::newRow("unknown") << "embera";
-    QTest::newRow("a number") << "1";
-}
-
-void TestEBApp::anyOtherTextNamesNoProduct()
-{
-    QFETCH(QString, text);
-    QVERIFY(!EBApps::fromRawValue(text));
-}
 
 void TestEBApp::aProductOwnsItsAccentFamily_data()
 {

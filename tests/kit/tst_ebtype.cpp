@@ -43,9 +43,7 @@ private slots:
 
     void everyRoleHasItsFontAndTracking_data();
     void everyRoleHasItsFontAndTracking();
-    void theRolesComeInOrder();
     void aNumberThatIsNoRoleHasNoTracking();
-    void anUnknownNameIsNoRole();
 
     void theSystemFontIsThatOfTheDesktop();
     void aGenericSystemFontIsInter_data();
@@ -123,23 +121,10 @@ void TestEBType::everyRoleHasItsFontAndTracking()
     }
 }
 
-void TestEBType::theRolesComeInOrder()
-{
-    QCOMPARE(EBTypes::allCases.size(), std::size_t(12));
-    for (int number = 0; number < 12; ++number)
-        QCOMPARE(int(EBTypes::allCases[std::size_t(number)]), number);
-}
-
 void TestEBType::aNumberThatIsNoRoleHasNoTracking()
 {
     for (const int number : {12, 13, 1000, -1})
         QCOMPARE(EBTypes::tracking(number), 0.0);
-}
-
-void TestEBType::anUnknownNameIsNoRole()
-{
-    for (const QString &name : {QStringLiteral("Body"), QString(), QStringLiteral("footnote")})
-        QVERIFY(!EBTypes::fromRawValue(name));
 }
 
 void TestEBType::theSystemFontIsThatOfTheDesktop()

@@ -1,5 +1,5 @@
 #include "ContinuousRect.h"
-#include "EBKitGlyph.h"
+#include "GlyphPaths.h"
 #include "GlyphShape.h"
 #include "TestProgram.h"
 
@@ -105,12 +105,18 @@ bool endsClosed(QPainterPath &&path)
 
 GlyphName named(const QString &raw)
 {
-    return glyphName(raw).value();
+    return GlyphNames::fromRawValue(raw).value();
 }
 
-EBKitGlyph kitNamed(const QString &raw)
+QPainterPath path(const QString &raw)
 {
-    return ebKitGlyph(raw).value();
+    return GlyphNames::path(named(raw));
+}
+
+// The outline of the other set, which is drawn without continuous corners.
+QPainterPath circularPath(const QString &raw)
+{
+    return glyphPath(named(raw), CornerStyle::circular);
 }
 
 }
@@ -119,48 +125,6 @@ class TestGlyphs : public QObject {
     Q_OBJECT
 
 private slots:
-    void bothSetsHoldTheSameNamesInTheSameOrder()
-    {
-        QStringList names;
-        for (const GlyphName name : allGlyphNames())
-            names << rawValue(name);
-        QStringList kitNames;
-        for (const EBKitGlyph glyph : allEBKitGlyphs())
-            kitNames << rawValue(glyph);
-        QCOMPARE(names.size(), 41);
-        QCOMPARE(names, namesInOrder);
-        QCOMPARE(kitNames, namesInOrder);
-    }
-
-    void everyRawValueRoundTrips()
-    {
-        for (const GlyphName name : allGlyphNames())
-            QCOMPARE(glyphName(rawValue(name)), std::optional(name));
-        for (const EBKitGlyph glyph : allEBKitGlyphs())
-            QCOMPARE(ebKitGlyph(rawValue(glyph)), std::optional(glyph));
-        QCOMPARE(glyphName(u"wins"), std::optional(GlyphName::wins));
-        QCOMPARE(ebKitGlyph(u"wins"), std::optional(EBKitGlyph::wins));
-        QCOMPARE(rawValue(GlyphName::playpause), QStringLiteral("playpause"));
-    }
-
-    void anUnknownStringYieldsNoGlyph_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::newRow("null") << QString();
-        QTest::newRow("empty") << QStringLiteral("");
-        QTest::newRow("another word") << QStringLiteral("window");
-        QTest::newRow("other case") << QStringLiteral("Wins");
-        QTest::newRow("trailing space") << QStringLiteral("wins ");
-        QTest::newRow("part of a name") << QStringLiteral("play pause");
-    }
-
-    void anUnknownStringYieldsNoGlyph()
-    {
-        QFETCH(QString, text);
-        QVERIFY(!glyphName(text));
-        QVERIFY(!ebKitGlyph(text));
-    }
-
     void theExactGlyphsHaveExactlyTheirPaths_data()
     {
         QTest::addColumn<QString>("steps");
@@ -207,8 +171,8 @@ private slots:
     {
         QFETCH(QString, steps);
         const QString name = QString::fromLatin1(QTest::currentDataTag());
-        QCOMPARE(path(named(name)), drawn(steps, Corners::continuous));
-        QCOMPARE(path(kitNamed(name)), drawn(steps, Corners::circular));
+        QCOMPARE(path(name), drawn(steps, Corners::continuous));
+        QCOMPARE(circularPath(name), drawn(steps, Corners::circular));
     }
 
     void theOtherGlyphsKeepTheirGivenParts_data()
@@ -239,50 +203,50 @@ private slots:
         QFETCH(QString, parts);
         QFETCH(QList<QPointF>, points);
         const QString name = QString::fromLatin1(QTest::currentDataTag());
-        const QPainterPath outline = path(named(name));
-        const QPainterPath kitOutline = path(kitNamed(name));
+        const QPainterPath outline = path(name);
+        const QPainterPath circular = circularPath(name);
         for (const QPainterPath &part : subpaths(drawn(parts, Corners::continuous)))
             QVERIFY(subpaths(outline).contains(part));
         for (const QPainterPath &part : subpaths(drawn(parts, Corners::circular)))
-            QVERIFY(subpaths(kitOutline).contains(part));
+            QVERIFY(subpaths(circular).contains(part));
         for (const QPointF &point : points)
-            QVERIFY(passesThrough(outline, point) && passesThrough(kitOutline, point));
+            QVERIFY(passesThrough(outline, point) && passesThrough(circular, point));
     }
 
     void theDownloadArrowStandsOverATray()
     {
-        const auto parts = subpaths(path(GlyphName::download));
+        const auto parts = subpaths(GlyphNames::path(GlyphName::download));
         QVERIFY(std::any_of(parts.begin(), parts.end(), [](const QPainterPath &part) {
             const QRectF bounds = part.boundingRect();
             return bounds.top() == 19.5 && bounds.bottom() == 19.5 && bounds.left() < 12 && bounds.right() > 12;
         }));
     }
 
-    void theWifiSignHasThreeArcsAndADot() { QCOMPARE(subpaths(path(GlyphName::wifi)).size(), 4); }
+    void theWifiSignHasThreeArcsAndADot() { QCOMPARE(subpaths(GlyphNames::path(GlyphName::wifi)).size(), 4); }
 
     void theSetsDifferInTheCornersOfRoundedRectanglesOnly()
     {
         for (const QString &name : namesInOrder) {
-            const auto parts = subpaths(path(named(name)));
-            const auto kitParts = subpaths(path(kitNamed(name)));
-            QCOMPARE(kitParts.size(), parts.size());
+            const auto parts = subpaths(path(name));
+            const auto circularParts = subpaths(circularPath(name));
+            QCOMPARE(circularParts.size(), parts.size());
             bool differs = false;
             for (int i = 0; i < parts.size(); ++i) {
-                if (parts[i] == kitParts[i])
+                if (parts[i] == circularParts[i])
                     continue;
                 differs = true;
                 const QRectF bounds = parts[i].boundingRect();
-                const QRectF kitBounds = kitParts[i].boundingRect();
-                QVERIFY(std::abs(bounds.left() - kitBounds.left()) < 1e-9);
-                QVERIFY(std::abs(bounds.top() - kitBounds.top()) < 1e-9);
-                QVERIFY(std::abs(bounds.right() - kitBounds.right()) < 1e-9);
-                QVERIFY(std::abs(bounds.bottom() - kitBounds.bottom()) < 1e-9);
+                const QRectF circularBounds = circularParts[i].boundingRect();
+                QVERIFY(std::abs(bounds.left() - circularBounds.left()) < 1e-9);
+                QVERIFY(std::abs(bounds.top() - circularBounds.top()) < 1e-9);
+                QVERIFY(std::abs(bounds.right() - circularBounds.right()) < 1e-9);
+                QVERIFY(std::abs(bounds.bottom() - circularBounds.bottom()) < 1e-9);
             }
             QVERIFY2(differs == cornered.contains(name), qPrintable(name));
         }
     }
 
-    void aCornerBeginsAtTheRadiusInTheKitSetAndFurtherOutInTheOther()
+    void aCornerBeginsAtTheRadiusWhereItIsCircularAndFurtherOutWhereItIsContinuous()
     {
         // The first window of `wins` has its top side from 3 to 15 at y 4, with corners of radius 2.
         const auto topSideEnds = [](const QPainterPath &window) {
@@ -298,28 +262,28 @@ private slots:
             }
             return std::pair(left, right);
         };
-        const auto kit = topSideEnds(subpaths(path(EBKitGlyph::wins)).first());
-        QCOMPARE(kit, std::pair(5.0, 13.0));
-        const auto continuous = topSideEnds(subpaths(path(GlyphName::wins)).first());
+        const auto circular = topSideEnds(subpaths(circularPath(QStringLiteral("wins"))).first());
+        QCOMPARE(circular, std::pair(5.0, 13.0));
+        const auto continuous = topSideEnds(subpaths(GlyphNames::path(GlyphName::wins)).first());
         QVERIFY(continuous.first > 5.25 && continuous.second < 12.75);
     }
 
     void theSparkIsClosedInOneSetAndLeftOpenInTheOther()
     {
-        const QPainterPath outline = path(GlyphName::spark);
-        const QPainterPath kitOutline = path(EBKitGlyph::spark);
-        QVERIFY(endsClosed(path(GlyphName::spark)));
-        QVERIFY(!endsClosed(path(EBKitGlyph::spark)));
+        const QPainterPath outline = GlyphNames::path(GlyphName::spark);
+        const QPainterPath circular = circularPath(QStringLiteral("spark"));
+        QVERIFY(endsClosed(GlyphNames::path(GlyphName::spark)));
+        QVERIFY(!endsClosed(circularPath(QStringLiteral("spark"))));
         // The same four curves all the same, and the last one ends on the start.
-        QCOMPARE(kitOutline, outline);
-        QCOMPARE(kitOutline.elementCount(), 1 + 4 * 3);
-        QCOMPARE(kitOutline.currentPosition(), QPointF(12, 3));
+        QCOMPARE(circular, outline);
+        QCOMPARE(circular.elementCount(), 1 + 4 * 3);
+        QCOMPARE(circular.currentPosition(), QPointF(12, 3));
     }
 
     void theSparkIsTheOnlyOutlineClosedInOneSetAlone()
     {
         for (const QString &name : namesInOrder) {
-            const bool same = endsClosed(path(named(name))) == endsClosed(path(kitNamed(name)));
+            const bool same = endsClosed(path(name)) == endsClosed(circularPath(name));
             QVERIFY2(same == (name != u"spark"), qPrintable(name));
         }
     }
@@ -340,24 +304,24 @@ private slots:
             QVERIFY2(QRectF(0, 0, 24, 24).contains(inked), qPrintable(name));
         };
         for (const QString &name : namesInOrder) {
-            check(path(named(name)), name);
-            check(path(kitNamed(name)), name);
+            check(path(name), name);
+            check(circularPath(name), name);
         }
     }
 
     void noTwoGlyphsAreTheSame()
     {
-        for (const GlyphName one : allGlyphNames()) {
-            for (const GlyphName other : allGlyphNames())
-                QCOMPARE(path(one) == path(other), one == other);
+        for (const GlyphName one : GlyphNames::allCases) {
+            for (const GlyphName other : GlyphNames::allCases)
+                QCOMPARE(GlyphNames::path(one) == GlyphNames::path(other), one == other);
         }
     }
 
     void aPathThatIsChangedLeavesTheGlyphAsItWas()
     {
-        QPainterPath mine = path(EBKitGlyph::minus);
+        QPainterPath mine = GlyphNames::path(GlyphName::minus);
         mine.lineTo(0, 0);
-        QCOMPARE(path(EBKitGlyph::minus), drawn(QStringLiteral("M 5.5,12 L 18.5,12"), Corners::circular));
+        QCOMPARE(GlyphNames::path(GlyphName::minus), drawn(QStringLiteral("M 5.5,12 L 18.5,12"), Corners::continuous));
     }
 
     void aShapeIsCentredAndScaledByTheShortSide_data()
@@ -392,7 +356,7 @@ private slots:
     {
         QFETCH(QRectF, rect);
         QFETCH(QPointF, centre);
-        for (const GlyphName name : allGlyphNames()) {
+        for (const GlyphName name : GlyphNames::allCases) {
             const QPainterPath collapsed = GlyphShape{name}.path(rect);
             QVERIFY(collapsed.elementCount() > 0);
             for (int i = 0; i < collapsed.elementCount(); ++i)

@@ -177,7 +177,7 @@ void TestPalette::aTokenIsOneObjectInEveryThread()
 
 void TestPalette::aColourOfItsOwnResolvesLikeAToken()
 {
-    const EBKitColor color = eb({1, 0, 0, 1}, {0, 0, 1, 0.5});
+    const EBKitColor color = EBKitColor::eb({1, 0, 0, 1}, {0, 0, 1, 0.5});
     m_platform->look.setName(AppearanceName::Aqua);
     compare(color.current(), QStringLiteral("#FF0000"), 1);
     m_platform->look.setName(AppearanceName::DarkAqua);
@@ -261,7 +261,7 @@ void TestPalette::sixDigitsMakeAColour()
 {
     QFETCH(QString, text);
     QFETCH(QString, color);
-    const std::optional<QColor> parsed = hex(text);
+    const std::optional<QColor> parsed = EBKitColor::hex(text);
     QVERIFY(parsed);
     compare(*parsed, color, 1);
 }
@@ -299,7 +299,7 @@ void TestPalette::anythingElseMakesNone_data()
 void TestPalette::anythingElseMakesNone()
 {
     QFETCH(QString, text);
-    QVERIFY(!hex(text));
+    QVERIFY(!EBKitColor::hex(text));
 }
 
 CORVANE_TEST(TestPalette, runInCore)

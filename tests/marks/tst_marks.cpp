@@ -1,6 +1,4 @@
 #include "ContinuousRect.h"
-#include "EBKit.h"
-#include "EBKitApp.h"
 #include "FakePlatform.h"
 #include "MarkGeometry.h"
 #include "MarkShape.h"
@@ -78,10 +76,6 @@ private slots:
     void aMarkIsScaledByTheShortSideAndCentred();
     void aRectangleWithoutAreaCollapsesTheMark();
     void aRectangleThatIsNoNumberGivesAnEmptyMark();
-
-    void theKitsMarksAreThoseOfTheProducts();
-    void anyOtherTextNamesNoMark();
-    void aProductsRecordHoldsItsNameMarkAndColours();
 };
 
 void TestMarks::aMarkConsistsOfItsParts_data()
@@ -197,49 +191,6 @@ void TestMarks::aRectangleThatIsNoNumberGivesAnEmptyMark()
     QVERIFY(MarkShape{EBApp::corvane}.path({notANumber, 0, 64, 64}).isEmpty());
     QVERIFY(MarkShape{EBApp::corvane}.path({0, 0, notANumber, 64}).isEmpty());
     QVERIFY(MarkShape{EBApp::corvane}.path({0, 0, 64, notANumber}).isEmpty());
-}
-
-void TestMarks::theKitsMarksAreThoseOfTheProducts()
-{
-    QCOMPARE(EBKitMarks::allCases, (std::array{EBKitMark::quiller, EBKitMark::corvane, EBKitMark::parcelo}));
-    const QStringList rawValues = {"quiller", "corvane", "parcelo"};
-    const QRectF rect(1, 2, 30, 40);
-    for (qsizetype i = 0; i < 3; ++i) {
-        const EBKitMark mark = EBKitMarks::allCases[std::size_t(i)];
-        QCOMPARE(EBKitMarks::rawValue(mark), rawValues[i]);
-        QCOMPARE(EBKitMarks::fromRawValue(rawValues[i]), std::optional(mark));
-        QCOMPARE(path(mark, rect), MarkShape{EBApps::allCases[std::size_t(i)]}.path(rect));
-    }
-}
-
-void TestMarks::anyOtherTextNamesNoMark()
-{
-    for (const char *text : {"Corvane", "", "corvane ", "spark"})
-        QVERIFY(!EBKitMarks::fromRawValue(QString::fromLatin1(text)));
-}
-
-void TestMarks::aProductsRecordHoldsItsNameMarkAndColours()
-{
-    const struct {
-        EBApp app;
-        const char *name;
-        EBKitMark mark;
-        const EBKitColor &color;
-        const EBKitColor &onColor;
-    } rows[] = {
-        {EBApp::quiller, "Quiller", EBKitMark::quiller, EBKit::coral(), EBKit::onCoral()},
-        {EBApp::corvane, "Corvane", EBKitMark::corvane, EBKit::indigo(), EBKit::onIndigo()},
-        {EBApp::parcelo, "Parcelo", EBKitMark::parcelo, EBKit::teal(), EBKit::onTeal()},
-    };
-    for (const auto &row : rows) {
-        const EBKitApp record = EBKitApps::of(row.app);
-        QCOMPARE(record.name, QString::fromLatin1(row.name));
-        QCOMPARE(record.mark, row.mark);
-        for (const AppearanceName name : {AppearanceName::Aqua, AppearanceName::DarkAqua}) {
-            QCOMPARE(record.color.resolved(name), row.color.resolved(name));
-            QCOMPARE(record.onColor.resolved(name), row.onColor.resolved(name));
-        }
-    }
 }
 
 CORVANE_TEST(TestMarks, runInCore)

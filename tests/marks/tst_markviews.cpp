@@ -323,7 +323,7 @@ void TestMarkViews::aDotFieldDrawsItsLayout()
     view.set("calm", QVariant::fromValue(calm));
     QCOMPARE(view.item().implicitWidth(), 560.0);
     QCOMPARE(view.item().implicitHeight(), 388.0);
-    QCOMPARE(qobject_cast<DotField *>(&view.item())->calm(), calm);
+    QCOMPARE(view.item().property("calm").value<QList<Zone>>(), calm);
     const QImage picture = view.picture();
     const auto marks = DotLayout::layout({560, 388}, 22, 21, 0.7, 80, 2, calm);
     QVERIFY(marks.size() > 50);
@@ -384,7 +384,7 @@ void TestMarkViews::aDotFieldIsDrawnOnceForEachChange()
     window.resize(room);
     CountedField field;
     field.setParentItem(window.contentItem());
-    field.setArea({200, 200});
+    field.setProperty("size", QSizeF(200, 200));
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     window.grabWindow();
@@ -393,15 +393,15 @@ void TestMarkViews::aDotFieldIsDrawnOnceForEachChange()
 
     field.setOpacity(0.5);
     field.setPosition({10, 10});
-    field.setArea({200, 200});
-    field.setSeed(field.seed());
-    field.setCalm(QList(field.calm()));
+    field.setProperty("size", QSizeF(200, 200));
+    field.setProperty("seed", 0);
+    field.setProperty("calm", QVariant::fromValue(QList<Zone>()));
     window.grabWindow();
     QCOMPARE(field.paintings, paintings);
 
-    field.setSeed(3);
-    field.setDensity(0.4);
-    field.setCalm({{100, 100, 20, 30}});
+    field.setProperty("seed", 3);
+    field.setProperty("density", 0.4);
+    field.setProperty("calm", QVariant::fromValue(QList<Zone>{{100, 100, 20, 30}}));
     window.grabWindow();
     QCOMPARE(field.paintings, ++paintings);
     window.grabWindow();
@@ -531,7 +531,7 @@ void TestMarkViews::theDrawingSaysWhatTheMarkIsBuiltOf()
     QFETCH(QStringList, notes);
     const QString app = QString::fromLatin1(QTest::currentDataTag());
     OpenDrawing drawing;
-    drawing.setApp(app);
+    drawing.setProperty("app", app);
     drawing.setSize({412, 116});
     WritingDevice device;
     QPainter painter(&device);

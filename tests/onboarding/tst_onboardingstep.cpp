@@ -5,7 +5,6 @@ class TestOnboardingStep : public QObject {
     Q_OBJECT
 
 private slots:
-    void theStepsAreInTheOrderOfTheirRawValues();
     void everyStepHasItsNameWordCounterAndKicker_data();
     void everyStepHasItsNameWordCounterAndKicker();
     void aDecimalIntegerNamesAStep_data();
@@ -13,16 +12,6 @@ private slots:
     void anyOtherTextNamesNone_data();
     void anyOtherTextNamesNone();
 };
-
-void TestOnboardingStep::theStepsAreInTheOrderOfTheirRawValues()
-{
-    for (int rawValue = 0; rawValue < 5; ++rawValue) {
-        QCOMPARE(static_cast<int>(OnboardingSteps::allCases[static_cast<std::size_t>(rawValue)]), rawValue);
-        QCOMPARE(OnboardingSteps::fromRawValue(rawValue), OnboardingStep(rawValue));
-    }
-    QVERIFY(!OnboardingSteps::fromRawValue(5));
-    QVERIFY(!OnboardingSteps::fromRawValue(-1));
-}
 
 void TestOnboardingStep::everyStepHasItsNameWordCounterAndKicker_data()
 {

@@ -1,4 +1,5 @@
 #include "DemoButton.h"
+#include "FakePlatform.h"
 #include "TestProgram.h"
 
 #include <QGuiApplication>
@@ -64,7 +65,11 @@ qreal measured(const QImage &image, qreal x, const QColor &color, qreal from, qr
 class DemoButtonTest : public QObject {
     Q_OBJECT
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(".*"));
+        FakePlatform::install();
+    }
     void theDiscHasItsFillAndLeavesTheCornersFree();
     void theLineOfTheGlyphFollowsTheSizeDownToAFloor_data();
     void theLineOfTheGlyphFollowsTheSizeDownToAFloor();
@@ -176,22 +181,22 @@ void DemoButtonTest::anItemIsAsLargeAsItsButtonAndDrawsWhatItIsTold()
     window.setColor(Qt::black);
     window.resize(60, 60);
     DemoButton button(window.contentItem());
-    button.setKind("minimize");
-    button.setTheme("soft");
-    button.setSize(30);
+    button.setProperty("kind", "minimize");
+    button.setProperty("theme", "soft");
+    button.setProperty("size", 30);
     QCOMPARE(button.implicitWidth(), 30.0);
     QCOMPARE(button.implicitHeight(), 30.0);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor("#E3C47A"));
     QCOMPARE(window.grabWindow().pixelColor(15, 15), QColor(Qt::white));
-    button.setTheme("graphite");
+    button.setProperty("theme", "graphite");
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor("#636366"));
-    button.setKind("close");
+    button.setProperty("kind", "close");
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor("#2C2C2E"));
-    button.setDim(true);
+    button.setProperty("dim", true);
     QVERIFY(isNear(window.grabWindow().pixelColor(14, 5), over(clear("#2C2C2E", 0.18F), Qt::black)));
-    button.setSize(0);
+    button.setProperty("size", 0);
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor(Qt::black));
 }
 
@@ -201,12 +206,12 @@ void DemoButtonTest::unknownTextsDrawTheDefaultThemeAndNoButton()
     window.setColor(Qt::black);
     window.resize(60, 60);
     DemoButton button(window.contentItem());
-    button.setSize(28);
-    button.setTheme("neon");
+    button.setProperty("size", 28);
+    button.setProperty("theme", "neon");
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor("#EC4640"));
-    button.setKind("zoom");
+    button.setProperty("kind", "zoom");
     QCOMPARE(window.grabWindow().pixelColor(14, 5), QColor(Qt::black));
 }
 

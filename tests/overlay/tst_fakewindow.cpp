@@ -68,8 +68,8 @@ void FakeWindowTest::itsGlyphStandsBesideTheCaption()
     OverlayView view("FakeWindow", withGlyph, 0);
     const auto glyphs = view.all<Glyph>();
     QCOMPARE(glyphs.size(), 1);
-    QCOMPARE(glyphs.constFirst()->name(), "globe");
-    QVERIFY(isNear(glyphs.constFirst()->color(), EBKit::inkMuted().current()));
+    QCOMPARE(glyphs.constFirst()->property("name").toString(), "globe");
+    QVERIFY(isNear(glyphs.constFirst()->property("color").value<QColor>(), EBKit::inkMuted().current()));
     const QRectF caption = view.rectOf(view.textItem("BROWSER"));
     const QRectF glyph = view.rectOf(glyphs.constFirst());
     QCOMPARE(glyph.right(), 128.0 - view.all<WindowFace>().constFirst()->margin());

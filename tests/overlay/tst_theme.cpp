@@ -14,9 +14,6 @@ private slots:
 
     void everyThemeHasItsTitleAndDescriptionInTheOrderOfTheTiles();
     void everySizeHasItsDiameterAndTitleInOrder();
-    void buttonsAreNumberedInOrder();
-    void textsThatAreNoRawValueYieldNothing();
-    void numbersThatAreNoButtonYieldNothing();
     void theColorTable_data();
     void theColorTable();
     void aButtonOrThemeThatDoesNotExistIsAProgrammingError();
@@ -51,35 +48,6 @@ void ThemeTest::everySizeHasItsDiameterAndTitleInOrder()
         QCOMPARE(ButtonSizes::fromRawValue(ButtonSizes::rawValue(size)), size);
     }
     QCOMPARE(found, expected);
-}
-
-void ThemeTest::buttonsAreNumberedInOrder()
-{
-    QCOMPARE(int(OverlayButtons::allCases.size()), 3);
-    QCOMPARE(OverlayButtons::fromRawValue(0), OverlayButton::close);
-    QCOMPARE(OverlayButtons::fromRawValue(1), OverlayButton::minimize);
-    QCOMPARE(OverlayButtons::fromRawValue(2), OverlayButton::maximize);
-    QCOMPARE(OverlayButtons::fromCaseName(u"close"), OverlayButton::close);
-    QCOMPARE(OverlayButtons::fromCaseName(u"minimize"), OverlayButton::minimize);
-    QCOMPARE(OverlayButtons::fromCaseName(u"maximize"), OverlayButton::maximize);
-    for (int place = 0; place < 3; ++place)
-        QCOMPARE(OverlayButtons::rawValue(OverlayButtons::allCases[std::size_t(place)]), place);
-}
-
-void ThemeTest::textsThatAreNoRawValueYieldNothing()
-{
-    for (const QStringView text : {u"", u"Classic", u"No color", u"classic ", u"large"})
-        QVERIFY2(!Themes::fromRawValue(text), qPrintable(text.toString()));
-    for (const QStringView text : {u"", u"Medium", u"huge", u"classic"})
-        QVERIFY2(!ButtonSizes::fromRawValue(text), qPrintable(text.toString()));
-    for (const QStringView text : {u"", u"Close", u"zoom"})
-        QVERIFY2(!OverlayButtons::fromCaseName(text), qPrintable(text.toString()));
-}
-
-void ThemeTest::numbersThatAreNoButtonYieldNothing()
-{
-    QVERIFY(!OverlayButtons::fromRawValue(-1));
-    QVERIFY(!OverlayButtons::fromRawValue(3));
 }
 
 void ThemeTest::theColorTable_data()

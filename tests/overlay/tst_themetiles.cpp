@@ -102,7 +102,7 @@ QList<QQuickItem *> ThemeTilesTest::tiles() const
 ContinuousRectangle *ThemeTilesTest::strip(int place)
 {
     for (auto *shape : m_view->all<ContinuousRectangle>()) {
-        if (shape->radius() == 10 && tile(place)->isAncestorOf(shape))
+        if (shape->property("radius").toReal() == 10 && tile(place)->isAncestorOf(shape))
             return shape;
     }
     return nullptr;
@@ -164,7 +164,7 @@ void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
         const QRectF ground = m_view->rectOf(strip(place));
         QCOMPARE(ground.width(), tile(place)->width());
         QCOMPARE(ground.height(), 34.0);
-        QCOMPARE(strip(place)->color(), EBKit::chip().current());
+        QCOMPARE(strip(place)->property("color").value<QColor>(), EBKit::chip().current());
 
         QList<DemoButton *> buttons;
         for (DemoButton *button : m_view->all<DemoButton>()) {
@@ -172,12 +172,14 @@ void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
                 buttons.append(button);
         }
         QCOMPARE(buttons.size(), 3);
-        const QStringList kinds = {buttons.at(0)->kind(), buttons.at(1)->kind(), buttons.at(2)->kind()};
+        const QStringList kinds = {buttons.at(0)->property("kind").toString(),
+                                   buttons.at(1)->property("kind").toString(),
+                                   buttons.at(2)->property("kind").toString()};
         QCOMPARE(kinds, QStringList({"close", "minimize", "maximize"}));
         for (int button = 0; button < 3; ++button) {
-            QCOMPARE(buttons.at(button)->size(), diameter);
-            QCOMPARE(buttons.at(button)->theme(), themes.at(place));
-            QVERIFY(!buttons.at(button)->dim());
+            QCOMPARE(buttons.at(button)->property("size").toReal(), diameter);
+            QCOMPARE(buttons.at(button)->property("theme").toString(), themes.at(place));
+            QVERIFY(!buttons.at(button)->property("dim").toBool());
             QCOMPARE(buttons.at(button)->x() - buttons.at(0)->x(), button * (diameter + 3));
         }
         const QPointF middle = m_view->rectOf(buttons.at(1)).center() - ground.center();
@@ -196,10 +198,10 @@ void ThemeTilesTest::theChosenTileHasARingADotAndAStrongTitle()
     show({{"themeRaw", "soft"}});
     for (int place = 0; place < 5; ++place) {
         const bool chosen = place == 1;
-        QCOMPARE(strip(place)->strokeWidth(), chosen ? 1.5 : 0.0);
+        QCOMPARE(strip(place)->property("strokeWidth").toReal(), chosen ? 1.5 : 0.0);
         QCOMPARE(tile(place)->property("isChosen").toBool(), chosen);
     }
-    QCOMPARE(strip(1)->strokeColor(), EBKit::ink().current());
+    QCOMPARE(strip(1)->property("strokeColor").value<QColor>(), EBKit::ink().current());
     QVERIFY(isNear(m_view->pixel(strip(1), {30, 0}), EBKit::ink().current()));
     QVERIFY(isNear(m_view->pixel(strip(0), {30, 0}), over(EBKit::chip().current(), EBKit::paper().current())));
 
@@ -216,26 +218,26 @@ void ThemeTilesTest::theChosenTileHasARingADotAndAStrongTitle()
     QVERIFY(std::abs(m_view->rectOf(title).left() - dot.right() - 4) < 1e-6);
 
     m_view->root().setProperty("themeRaw", "mono");
-    QCOMPARE(strip(1)->strokeWidth(), 0.0);
-    QCOMPARE(strip(3)->strokeWidth(), 1.5);
+    QCOMPARE(strip(1)->property("strokeWidth").toReal(), 0.0);
+    QCOMPARE(strip(3)->property("strokeWidth").toReal(), 1.5);
 }
 
 void ThemeTilesTest::inTheCompactFormTheChosenTileHasNoDot()
 {
     show({{"compact", true}});
     QVERIFY(dots().isEmpty());
-    QCOMPARE(strip(0)->strokeWidth(), 1.5);
+    QCOMPARE(strip(0)->property("strokeWidth").toReal(), 1.5);
     QCOMPARE(m_view->textItem("Classic")->property("font").value<QFont>().weight(), QFont::DemiBold);
 }
 
 void ThemeTilesTest::theDotHasTheColorOfTheProduct()
 {
     show();
-    QCOMPARE(dots().constFirst()->color(), EBKit::indigo().current());
+    QCOMPARE(dots().constFirst()->property("color").value<QColor>(), EBKit::indigo().current());
     EBEnvironment::of(&m_view->root())->setEbApp(EBApp::quiller);
-    QCOMPARE(dots().constFirst()->color(), EBKit::coral().current());
+    QCOMPARE(dots().constFirst()->property("color").value<QColor>(), EBKit::coral().current());
     EBEnvironment::of(&m_view->root())->setEbApp(EBApp::parcelo);
-    QCOMPARE(dots().constFirst()->color(), EBKit::teal().current());
+    QCOMPARE(dots().constFirst()->property("color").value<QColor>(), EBKit::teal().current());
 }
 
 void ThemeTilesTest::anUnknownThemeMarksNoTile()

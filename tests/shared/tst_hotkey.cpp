@@ -26,10 +26,6 @@ private slots:
 
     void everyRawValueNamesItsCase_data();
     void everyRawValueNamesItsCase();
-    void anIntegerOutsideTheCasesNamesNone_data();
-    void anIntegerOutsideTheCasesNamesNone();
-    void anyOtherTextNamesNone();
-    void theCasesComeInRawOrder();
 
     void theCombinationsAreExactlyThese_data();
     void theCombinationsAreExactlyThese();
@@ -68,34 +64,6 @@ void TestHotkey::everyRawValueNamesItsCase()
     QTEST(Hotkeys::caseName(hotkey), "caseName");
     QTEST(Hotkeys::shownAs(hotkey), "shownAs");
     QCOMPARE(Hotkeys::fromCaseName(Hotkeys::caseName(hotkey)), std::optional(hotkey));
-}
-
-void TestHotkey::anyOtherTextNamesNone()
-{
-    for (const char *text : {"", "Close", "closeall", "close ", "0"})
-        QVERIFY2(!Hotkeys::fromCaseName(QString::fromLatin1(text)), text);
-}
-
-void TestHotkey::anIntegerOutsideTheCasesNamesNone_data()
-{
-    QTest::addColumn<int>("raw");
-    QTest::newRow("7") << 7;
-    QTest::newRow("-1") << -1;
-    QTest::newRow("largest") << std::numeric_limits<int>::max();
-    QTest::newRow("smallest") << std::numeric_limits<int>::min();
-}
-
-void TestHotkey::anIntegerOutsideTheCasesNamesNone()
-{
-    QFETCH(int, raw);
-    QVERIFY(!Hotkeys::fromRawValue(raw));
-}
-
-void TestHotkey::theCasesComeInRawOrder()
-{
-    QCOMPARE(Hotkeys::allCases.size(), std::size_t(7));
-    for (int raw = 0; raw < 7; ++raw)
-        QCOMPARE(static_cast<int>(Hotkeys::allCases[std::size_t(raw)]), raw);
 }
 
 void TestHotkey::theCombinationsAreExactlyThese_data()

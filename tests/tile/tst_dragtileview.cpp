@@ -141,8 +141,8 @@ void DragTileViewTest::theIconTheTextsAndTheArrowStandWhereTheyShould()
     const QQuickItem *hint = text("Drop Corvane onto the Accessibility list above.");
     QVERIFY(icon && arrow && title && hint);
     QCOMPARE(frame(icon), QRectF(12, 14, 48, 48));
-    QCOMPARE(arrow->name(), "arrow");
-    QCOMPARE(arrow->size(), 16.0);
+    QCOMPARE(arrow->property("name").toString(), "arrow");
+    QCOMPARE(arrow->property("size").toReal(), 16.0);
     QCOMPARE(arrow->rotation(), -90.0);
     QCOMPARE(frame(arrow), QRectF(302, 33, 16, 16));
     QCOMPARE(frame(title).left(), 72.0);

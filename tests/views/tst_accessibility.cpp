@@ -187,11 +187,11 @@ private slots:
 
     void whatIsHiddenFromAssistiveTechnologiesDoesNotShow()
     {
-        const Interface button =
-            show(QStringLiteral("Item { property bool accessibleHidden: false; EBButton { text: 'Continue' } }"))
-                ->child(0);
+        const Interface button = show(QStringLiteral("Item { property bool goes: false; EBAccessible.hidden: goes; "
+                                                     "EBButton { text: 'Continue' } }"))
+                                     ->child(0);
         QVERIFY(!button->state().invisible);
-        item(button)->parentItem()->setProperty("accessibleHidden", true);
+        item(button)->parentItem()->setProperty("goes", true);
         QVERIFY(button->state().invisible);
         QVERIFY(item(button)->isVisible());
     }
@@ -261,12 +261,13 @@ private slots:
     void tabsAndListItemsCanBePressed()
     {
         QFETCH(const QString, declared);
-        const Interface found =
-            show(QStringLiteral("Pressable { text: 'General'; readonly property int accessibleRole: ") + declared
-                 + QStringLiteral("; width: 9; height: 9 }"))
-                ->child(0);
+        const Interface found = show(QStringLiteral("Pressable { text: 'General'; EBAccessible.role: ") + declared
+                                     + QStringLiteral("; width: 9; height: 9 }"))
+                                    ->child(0);
         QTEST(found->role(), "role");
-        QCOMPARE(found->actionInterface()->actionNames().count(QAccessibleActionInterface::pressAction()), 1);
+        QCOMPARE(
+            found->actionInterface()->actionNames(),
+            QStringList({QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::setFocusAction()}));
         QSignalSpy clicked(item(found), SIGNAL(clicked()));
         found->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(clicked.size(), 1);
@@ -324,8 +325,8 @@ private slots:
     void anActionWithoutANameIsNotOffered()
     {
         const Interface found =
-            show(QStringLiteral("Item { Accessible.role: Accessible.Grouping; Accessible.name: 'x'; readonly property "
-                                "list<AccessibleAction> accessibleActions: [AccessibleAction {}] }"))
+            show(QStringLiteral("Item { Accessible.role: Accessible.Grouping; Accessible.name: 'x'; "
+                                "AccessibleAction {} }"))
                 ->child(0);
         QVERIFY(!found->actionInterface()->actionNames().contains(QString()));
     }
@@ -334,9 +335,8 @@ private slots:
     {
         const Interface root = show(QStringLiteral("Item { Loader { id: loader; sourceComponent: Item { "
                                                    "Accessible.role: Accessible.Grouping; Accessible.name: 'x'; "
-                                                   "readonly property list<AccessibleAction> accessibleActions: "
-                                                   "[AccessibleAction { name: 'Close'; onPerformed: loader.active = "
-                                                   "false }] } } }"));
+                                                   "AccessibleAction { name: 'Close'; onPerformed: loader.active = "
+                                                   "false } } } }"));
         root->child(0)->actionInterface()->doAction(QStringLiteral("Close"));
         QTRY_COMPARE(root->childCount(), 0);
     }
@@ -387,10 +387,10 @@ private:
     static QString withActions(const QString &type = QStringLiteral("Item"), const QString &more = {})
     {
         return QStringLiteral("%1 { id: root; property string performed; Accessible.role: Accessible.Grouping; "
-                              "Accessible.name: 'x'; Accessible.description: 'Use the actions.'; readonly property "
-                              "list<AccessibleAction> accessibleActions: [AccessibleAction { name: 'Close'; "
-                              "onPerformed: root.performed += 'close ' }, AccessibleAction { name: 'Full screen'; "
-                              "description: 'Fills the screen'; onPerformed: root.performed += 'full ' }]; %2 }")
+                              "Accessible.name: 'x'; Accessible.description: 'Use the actions.'; "
+                              "AccessibleAction { name: 'Close'; onPerformed: root.performed += 'close ' } "
+                              "AccessibleAction { name: 'Full screen'; description: 'Fills the screen'; "
+                              "onPerformed: root.performed += 'full ' } %2 }")
             .arg(type, more);
     }
     void create(const QString &qml)

@@ -22,25 +22,24 @@ constexpr auto content = R"(
     Item {
         id: root
         property string performed
-        readonly property list<AccessibleAction> accessibleActions: [
-            AccessibleAction {
-                name: "Close"
-                onPerformed: root.performed += "closed "
-            },
-            AccessibleAction {
-                name: "Full screen"
-                onPerformed: root.performed += "filled "
-            },
-            AccessibleAction {
-                name: "Disable"
-                onPerformed: root.enabled = false
-            }
-        ]
         width: 100
         height: 50
         Accessible.role: Accessible.Grouping
         Accessible.name: "Browser window"
         Accessible.description: performed
+
+        AccessibleAction {
+            name: "Close"
+            onPerformed: root.performed += "closed "
+        }
+        AccessibleAction {
+            name: "Full screen"
+            onPerformed: root.performed += "filled "
+        }
+        AccessibleAction {
+            name: "Disable"
+            onPerformed: root.enabled = false
+        }
     })";
 
 int runWindow(int argc, char **argv)

@@ -1,4 +1,5 @@
 #include "CrispItem.h"
+#include "FakePlatform.h"
 #include "TestProgram.h"
 
 #include <QPainter>
@@ -7,6 +8,8 @@
 
 /// Stripes one device pixel wide, black on the even ones: any stretching or smoothing turns some of them grey.
 class Stripes : public CrispItem {
+    Q_OBJECT
+    Q_PROPERTY(qreal shade MEMBER m_shade NOTIFY changed)
 public:
     int paintings = 0;
 
@@ -19,6 +22,9 @@ protected:
         for (int column = 0; column * pixel < width(); ++column)
             painter->fillRect(QRectF(column * pixel, 0, pixel, height()), column % 2 ? Qt::white : Qt::black);
     }
+
+private:
+    qreal m_shade = 0;
 };
 
 class CrispItemTest : public QObject {
@@ -27,6 +33,7 @@ private slots:
     void init()
     {
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+        m_platform = &FakePlatform::install();
         m_window = std::make_unique<QQuickWindow>();
         m_window->setColor(Qt::red);
         m_window->resize(100, 60);
@@ -86,6 +93,15 @@ private slots:
         m_item->update();
         m_window->grabWindow();
         QCOMPARE(m_item->paintings, before + 2);
+        m_item->setProperty("shade", 0.5);
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, before + 3);
+        m_item->setProperty("shade", 0.5);
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, before + 3);
+        m_platform->look.setName(AppearanceName::DarkAqua);
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, before + 4);
     }
 
     void withoutASizeNothingIsPainted()
@@ -96,6 +112,7 @@ private slots:
     }
 
 private:
+    FakePlatform *m_platform = nullptr;
     std::unique_ptr<QQuickWindow> m_window;
     Stripes *m_item = nullptr;
 };

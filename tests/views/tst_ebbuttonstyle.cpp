@@ -16,19 +16,6 @@ private slots:
         m_platform = &FakePlatform::install();
     }
 
-    void rawStringsAreTheCaseNames()
-    {
-        QCOMPARE(EBButtonStyle::parseVariant(u"primary"), Variant::primary);
-        QCOMPARE(EBButtonStyle::parseVariant(u"secondary"), Variant::secondary);
-        QCOMPARE(EBButtonStyle::parseVariant(u"onLoud"), Variant::onLoud);
-        QCOMPARE(EBButtonStyle::parseVariant(u"plain"), Variant::plain);
-        QCOMPARE(EBButtonStyle::parseVariant(u"Primary"), std::nullopt);
-        QCOMPARE(EBButtonStyle::parseSize(u"md"), Size::md);
-        QCOMPARE(EBButtonStyle::parseSize(u"sm"), Size::sm);
-        QCOMPARE(EBButtonStyle::parseSize(u"xs"), Size::xs);
-        QCOMPARE(EBButtonStyle::parseSize(u"lg"), std::nullopt);
-    }
-
     void geometryFollowsTheSize_data()
     {
         QTest::addColumn<int>("size");
