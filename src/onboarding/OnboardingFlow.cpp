@@ -29,8 +29,9 @@ OnboardingFlow::OnboardingFlow(Run run, std::function<void()> finish)
       m_launchAtLogin(initialLaunchAtLogin(run)),
       m_reduceMotion(Platform::current().appearance().shouldReduceMotion())
 {
-    connect(&m_demo, &DemoModel::doneChanged, this, &OnboardingFlow::hintChanged);
-    connect(&m_look, &OverlayLook::changed, this, &OnboardingFlow::hintChanged);
+    connect(&m_demo, &DemoModel::doneChanged, this, &OnboardingFlow::updateHint);
+    connect(&m_look, &OverlayLook::changed, this, &OnboardingFlow::updateHint);
+    updateHint();
     m_trusted.setKey(Shared::Key::agentAccessibilityTrusted);
     connect(&m_trusted, &AppStorage::valueChanged, this, &OnboardingFlow::followTrust);
 }
@@ -49,7 +50,16 @@ QString OnboardingFlow::kicker(const QString &caseName)
     return step ? OnboardingSteps::kicker(*step) : QString();
 }
 
-QString OnboardingFlow::hint() const
+void OnboardingFlow::updateHint()
+{
+    const QString hint = nextHint();
+    if (hint == m_hint)
+        return;
+    m_hint = hint;
+    emit hintChanged();
+}
+
+QString OnboardingFlow::nextHint() const
 {
     if (!m_demo.done().contains(DemoModel::Task::close)) {
         const bool isCloseAlone = !m_look.showMinimize() && !m_look.showMaximize();

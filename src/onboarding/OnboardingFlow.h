@@ -44,7 +44,7 @@ public:
     QString stepName() const { return OnboardingSteps::caseName(m_step); }
     static QStringList steps();
     DemoModel *demo() { return &m_demo; }
-    QString hint() const;
+    QString hint() const { return m_hint; }
     bool trusted() const { return m_trusted.value().toBool(); }
     bool accessRequested() const { return m_accessRequested; }
     bool launchAtLogin() const { return m_launchAtLogin; }
@@ -82,6 +82,8 @@ signals:
 
 private:
     void goBy(int steps);
+    void updateHint();
+    QString nextHint() const;
     void followTrust();
 
     std::function<void()> m_finish;
@@ -89,6 +91,7 @@ private:
     DemoModel m_demo;
     DragTileController m_dragTile;
     OverlayLook m_look;
+    QString m_hint;
     AppStorage m_trusted;
     bool m_accessRequested = false;
     const bool m_launchAtLogin;

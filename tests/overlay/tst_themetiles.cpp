@@ -2,6 +2,7 @@
 #include "DemoButton.h"
 #include "EBEnvironment.h"
 #include "EBKit.h"
+#include "NamedItems.h"
 #include "OverlayView.h"
 #include "TestProgram.h"
 
@@ -92,27 +93,21 @@ void ThemeTilesTest::show(const QVariantMap &properties, qreal width)
 QList<QQuickItem *> ThemeTilesTest::tiles() const
 {
     QList<QQuickItem *> found;
-    for (QQuickItem *child : m_view->root().childItems()) {
-        if (child->property("isChosen").isValid())
-            found.append(child);
-    }
+    for (const char *name : {"Classic look", "Soft look", "Graphite look", "Mono look", "No color look"})
+        found.append(NamedItems::first(&m_view->root(), name, QAccessible::Button));
     return found;
 }
 
 ContinuousRectangle *ThemeTilesTest::strip(int place)
 {
-    for (auto *shape : m_view->all<ContinuousRectangle>()) {
-        if (shape->property("radius").toReal() == 10 && tile(place)->isAncestorOf(shape))
-            return shape;
-    }
-    return nullptr;
+    return tile(place)->findChild<ContinuousRectangle *>("strip");
 }
 
 QList<ContinuousRectangle *> ThemeTilesTest::dots()
 {
     QList<ContinuousRectangle *> found;
     for (auto *shape : m_view->all<ContinuousRectangle>()) {
-        if (shape->width() == 5)
+        if (shape->objectName() == "dot")
             found.append(shape);
     }
     return found;
@@ -161,6 +156,7 @@ void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
     const QStringList titles = {"Classic", "Soft", "Graphite", "Mono", "No color"};
     for (int place = 0; place < 5; ++place) {
         QVERIFY(strip(place));
+        QCOMPARE(strip(place)->radius(), 10.0);
         const QRectF ground = m_view->rectOf(strip(place));
         QCOMPARE(ground.width(), tile(place)->width());
         QCOMPARE(ground.height(), 34.0);

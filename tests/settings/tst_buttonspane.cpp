@@ -54,6 +54,7 @@ private slots:
     void choosingWhatIsChosenAlreadyStoresItAndTellsNobody();
     void theArrowKeysChooseToo();
     void changesOfOthersAreAnnouncedToo();
+    void onceThePageIsLeftNothingIsAnnounced();
     void anUnknownThemeShowsClassicAndIsKeptUntilATileIsPicked();
     void anUnknownSizeShowsMediumAndIsKept();
     void anUnknownFullScreenModeMarksNeitherSegment();
@@ -403,6 +404,14 @@ void TestButtonsPane::changesOfOthersAreAnnouncedToo()
     QCOMPARE(commands().size(), 4);
     m_store->setValue("maximizeMode", "fill");
     QCOMPARE(commands().size(), 4);
+}
+
+void TestButtonsPane::onceThePageIsLeftNothingIsAnnounced()
+{
+    cleanup();
+    m_store->setValue("buttonTheme", "mono");
+    m_store->setValue("showMinimizeButton", true);
+    QVERIFY(commands().isEmpty());
 }
 
 void TestButtonsPane::anUnknownThemeShowsClassicAndIsKeptUntilATileIsPicked()

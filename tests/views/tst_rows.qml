@@ -36,10 +36,11 @@ KitTestCase {
                     label: "Title"
                 }
             }
-            EBRule {
-                id: rule
+            EBRow {
+                id: hiddenRow
 
-                inset: 16
+                title: "Sometimes"
+                visible: false
             }
             EBRow {
                 id: longRow
@@ -89,6 +90,26 @@ KitTestCase {
 
             glyph: "plus"
         }
+        EBRule {
+            id: rule
+
+            width: 200
+            inset: 16
+        }
+        EBGroup {
+            id: otherGroup
+
+            width: 200
+
+            EBRow {
+                title: "First"
+            }
+            EBRow {
+                id: secondRow
+
+                title: "Second"
+            }
+        }
     }
     TextMetrics {
         id: metrics
@@ -103,6 +124,8 @@ KitTestCase {
         disc.on = false;
         plainRow.minHeight = 40;
         switchRow.stored = false;
+        hiddenRow.visible = false;
+        plainRow.visible = true;
         testCase.LayoutMirroring.enabled = false;
     }
 
@@ -162,7 +185,7 @@ KitTestCase {
 
     function test_group_is_a_bordered_card_with_round_corners() {
         compare(group.width, 300);
-        compare(group.height, plainRow.height + 1 + longRow.height + switchRow.height);
+        compare(group.height, plainRow.height + 1 + longRow.height + 1 + switchRow.height);
         comparePixel(group, 150, 4, EB.surface);
         comparePixel(group, 150, 0, over(EB.line, EB.surface));
         comparePixel(group, 0, 30, over(EB.line, EB.surface));
@@ -174,15 +197,57 @@ KitTestCase {
 
     function test_rule_is_a_hairline_from_its_inset_on() {
         compare(rule.height, 1);
-        compare(rule.width, 300);
-        comparePixel(rule, 15, 0, EB.surface);
-        comparePixel(rule, 16, 0, over(EB.line, EB.surface));
-        comparePixel(rule, 290, 0, over(EB.line, EB.surface));
+        compare(rule.width, 200);
+        comparePixel(rule, 15, 0, EB.paper);
+        comparePixel(rule, 16, 0, over(EB.line, EB.paper));
+        comparePixel(rule, 199, 0, over(EB.line, EB.paper));
         testCase.LayoutMirroring.childrenInherit = true;
         testCase.LayoutMirroring.enabled = true;
-        comparePixel(rule, 284, 0, EB.surface);
-        comparePixel(rule, 283, 0, over(EB.line, EB.surface));
-        comparePixel(rule, 10, 0, over(EB.line, EB.surface));
+        comparePixel(rule, 184, 0, EB.paper);
+        comparePixel(rule, 183, 0, over(EB.line, EB.paper));
+        comparePixel(rule, 0, 0, over(EB.line, EB.paper));
+    }
+
+    /// Whether a rule lies above the row, from the padding of the rows on to the other edge of the card.
+    function isRuledOff(row) {
+        const line = over(EB.line, EB.surface);
+        const place = x => group.mapFromItem(row, 0, 0).y - 1 >= 0 ? pixel(row, x, -1) : EB.surface;
+        return isNear(place(16), line) && isNear(place(298), line) && isNear(place(15), EB.surface);
+    }
+
+    function test_rules_lie_between_the_rows_that_show() {
+        compare(longRow.y, plainRow.height + 1);
+        verify(!isRuledOff(plainRow));
+        comparePixel(group, 150, -1, EB.paper);
+        verify(isRuledOff(longRow));
+        verify(isRuledOff(switchRow));
+        hiddenRow.visible = true;
+        tryCompare(hiddenRow, "y", plainRow.height + 1);
+        tryVerify(() => isRuledOff(hiddenRow) && isRuledOff(longRow) && isRuledOff(switchRow));
+        compare(group.height, plainRow.height + 1 + hiddenRow.height + 1 + longRow.height + 1 + switchRow.height);
+        hiddenRow.visible = false;
+        tryCompare(longRow, "y", plainRow.height + 1);
+        tryVerify(() => isRuledOff(longRow) && isRuledOff(switchRow));
+        hiddenRow.visible = true;
+        // Without the first row the second one is the first.
+        plainRow.visible = false;
+        tryCompare(hiddenRow, "y", 0);
+        tryVerify(() => isRuledOff(longRow));
+        verify(isNear(pixel(hiddenRow, 150, 1), EB.surface));
+    }
+
+    function test_rules_are_indented_as_the_group_says() {
+        const line = over(EB.line, EB.surface);
+        otherGroup.ruleInset = 56;
+        comparePixel(secondRow, 55, -1, EB.surface);
+        comparePixel(secondRow, 56, -1, line);
+        otherGroup.ruleInset = 0;
+        comparePixel(secondRow, 1, -1, line);
+        testCase.LayoutMirroring.childrenInherit = true;
+        testCase.LayoutMirroring.enabled = true;
+        otherGroup.ruleInset = 56;
+        comparePixel(secondRow, 200 - 56, -1, EB.surface);
+        comparePixel(secondRow, 200 - 57, -1, line);
     }
 
     function test_row_with_only_a_title_is_40_high() {
