@@ -18,6 +18,20 @@ KeyFile read(const QString &path)
     return file;
 }
 
+/// A percent sign and what follows stand for a file or the like, and none is opened here; two stand for the sign
+/// itself.
+QString withoutFieldCodes(const QString &word)
+{
+    QString plain;
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        if (word[i] != u'%')
+            plain += word[i];
+        else if (QStringView(word).mid(++i).startsWith(u'%'))
+            plain += u'%';
+    }
+    return plain;
+}
+
 }
 
 AutostartEntry::AutostartEntry(const QString &path) : m_path(path), m_isValid(read(path) != nullptr) { }
@@ -42,7 +56,7 @@ QStringList AutostartEntry::command() const
         return {};
     QStringList command;
     for (char **word = words; *word; ++word)
-        command.append(QString::fromUtf8(*word).replace(QStringLiteral("%%"), QStringLiteral("%")));
+        command.append(withoutFieldCodes(QString::fromUtf8(*word)));
     g_strfreev(words);
     return command;
 }

@@ -82,7 +82,6 @@ private slots:
     void aNoticeIsOnTheBusWhenThePostReturns();
     void anObserverHearsThisProcessAndOthers();
     void anObserverHearsNothingElse();
-    void anObserverHearsNothingAfterItsContextIsGone();
     void aNameThatIsNoSignalIsLost_data();
     void aNameThatIsNoSignalIsLost();
 };
@@ -169,21 +168,6 @@ void DBusNotificationCenterTest::anObserverHearsNothingElse()
     QTRY_VERIFY(!heard.isEmpty());
     QCOMPARE(heard.size(), 1);
     QCOMPARE(heard.first().value(QStringLiteral("command")), QVariant(QStringLiteral("last")));
-}
-
-void DBusNotificationCenterTest::anObserverHearsNothingAfterItsContextIsGone()
-{
-    DBusNotificationCenter center;
-    int heardBefore = 0;
-    int heardAfter = 0;
-    auto gone = std::make_unique<QObject>();
-    QObject context;
-    center.observe(name, gone.get(), [&](const QVariantMap &) { ++heardBefore; });
-    center.observe(name, &context, [&](const QVariantMap &) { ++heardAfter; });
-    gone.reset();
-    center.post(name, {});
-    QTRY_COMPARE(heardAfter, 1);
-    QCOMPARE(heardBefore, 0);
 }
 
 void DBusNotificationCenterTest::aNameThatIsNoSignalIsLost_data()

@@ -78,7 +78,6 @@ private slots:
     void aValueIsStoredWithItsTypeBeforeTheCallReturns_data();
     void aValueIsStoredWithItsTypeBeforeTheCallReturns();
     void aKeyIsReadUnderItsNameWithItsDots();
-    void anAbsentKeyReadsAsInvalid();
     void aNumberOfAnyTypeIsReadAsADouble_data();
     void aNumberOfAnyTypeIsReadAsADouble();
     void aValueOfAnotherTypeReadsAsInvalid_data();
@@ -131,11 +130,6 @@ void DconfUserDefaultsTest::aKeyIsReadUnderItsNameWithItsDots()
     const QString key = QStringLiteral("hotkey.close.disabled");
     writeFromOutside(key, QStringLiteral("true"));
     QCOMPARE(DconfUserDefaults(suiteName).value(key), QVariant(true));
-}
-
-void DconfUserDefaultsTest::anAbsentKeyReadsAsInvalid()
-{
-    QVERIFY(!DconfUserDefaults(suiteName).value(QStringLiteral("absent")).isValid());
 }
 
 void DconfUserDefaultsTest::aNumberOfAnyTypeIsReadAsADouble_data()

@@ -16,7 +16,6 @@ private slots:
     void cleanupTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
 
-    void aSuiteIsMadeOnce();
     void aSuiteThatCannotBeOpenedIsNull();
     void aProgramOutsideABundleHasStandardDefaultsUnderItsName();
     void theMainBundleIsTheFolderOfTheExecutable();
@@ -33,15 +32,6 @@ void FreedesktopPlatformTest::cleanupTestCase()
 {
     Platform::current().appearance().settle();
     Platform::install(nullptr);
-}
-
-void FreedesktopPlatformTest::aSuiteIsMadeOnce()
-{
-    const QString name = QStringLiteral("com.vexmoor.corvane");
-    UserDefaults *suite = Platform::current().userDefaults(name);
-    QVERIFY(suite);
-    QCOMPARE(Platform::current().userDefaults(name), suite);
-    QVERIFY(Platform::current().userDefaults(QStringLiteral("com.vexmoor.other")) != suite);
 }
 
 void FreedesktopPlatformTest::aSuiteThatCannotBeOpenedIsNull()
