@@ -2,7 +2,6 @@
 #include "EntryFile.h"
 #include "InstalledTree.h"
 #include "TestProgram.h"
-#include "WindowIcon.h"
 
 #include <QDirIterator>
 #include <QImageReader>
@@ -125,9 +124,9 @@ void TestInstall::theWindowHasTheIcon()
     QVERIFY(tree.isValid());
     QFETCH(QStringList, arguments);
     QVERIFY(open({.arguments = arguments, .executable = tree.path(u"bin/corvane-settings"_s)}));
-    QTRY_VERIFY(!windowIcon(desktop().x(), *window()).isEmpty());
+    QTRY_VERIFY(!window()->icon().isEmpty());
     QList<int> sizes;
-    for (const QImage &picture : windowIcon(desktop().x(), *window())) {
+    for (const QImage &picture : window()->icon()) {
         sizes.append(picture.width());
         const QString file = u"share/icons/hicolor/%1x%1/apps/com.vexmoor.corvane.settings.png"_s.arg(picture.width());
         QVERIFY2(distance(picture, QImage(tree.path(file))) < sameDrawing, qPrintable(file));
