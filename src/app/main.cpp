@@ -1,9 +1,9 @@
 #include "LaunchFlags.h"
 #include "NativePlatform.h"
 #include "SettingsAppDelegate.h"
+#include "WindowIcon.h"
 
 #include <QGuiApplication>
-#include <QIcon>
 #include <QQuickWindow>
 
 namespace {
@@ -16,22 +16,13 @@ void chooseRenderer()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// The picture that stands for the windows in a task list, in the sizes between which a window manager scales.
-void setIcon()
-{
-    const Bundle &bundle = Platform::current().mainBundle();
-    QIcon icon;
-    for (const char *name : {"Corvane-16", "Corvane-24", "Corvane-32", "Corvane-48", "Corvane-128"})
-        icon.addFile(bundle.urlForResource(QString::fromLatin1(name), QStringLiteral("png")).toLocalFile());
-    QGuiApplication::setWindowIcon(icon);
-}
-
 /// Nobody waits for the icon, and it would only be in the way of the first frame.
 void setIconAfterFirstFrame()
 {
     auto *window = qobject_cast<QQuickWindow *>(QGuiApplication::topLevelWindows().constFirst());
-    QObject::connect(window, &QQuickWindow::frameSwapped, qApp, &setIcon,
-                     static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, qApp, [] { QGuiApplication::setWindowIcon(windowIcon()); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 }

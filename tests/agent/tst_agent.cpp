@@ -275,6 +275,7 @@ void AgentTest::registeringWritesADesktopEntry()
     QCOMPARE(entry.text("Name"), "Corvane");
     QVERIFY(entry.text("Exec").startsWith(u'"'));
     QCOMPARE(entry.command(), QStringList(QFileInfo(program).canonicalFilePath()));
+    QCOMPARE(entry.text("TryExec"), QFileInfo(program).canonicalFilePath());
     QVERIFY(!entry.isHidden());
 }
 

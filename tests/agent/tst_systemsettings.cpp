@@ -1,8 +1,8 @@
 #include "Accessible.h"
 #include "Desktop.h"
+#include "OnDesktop.h"
 #include "Program.h"
 #include "Store.h"
-#include "OnDesktop.h"
 #include "TopLevel.h"
 
 #include <QDBusConnection>
@@ -27,6 +27,7 @@ private slots:
     void cleanup();
 
     void theWindowIsKnownByItsClass();
+    void theWindowHasTheIconOfTheAgent();
     void theListIsEmptyAtFirst();
     void aListedAgentHasASwitchThatIsOff();
     void anAgentThatHasThePermissionIsListed();
@@ -100,6 +101,14 @@ void SystemSettingsTest::theWindowIsKnownByItsClass()
     QCOMPARE(window()->title(), "System Settings");
     QCOMPARE(window()->windowClass(), "com.vexmoor.corvane.systemsettings");
     QVERIFY(window()->geometry().width() > 300);
+}
+
+void SystemSettingsTest::theWindowHasTheIconOfTheAgent()
+{
+    open();
+    QTRY_VERIFY(!window()->icon().isEmpty());
+    const QImage icon = window()->icon().constLast();
+    QCOMPARE(icon.pixelColor(icon.width() / 8, icon.height() / 2), QColor(0x5A, 0x5C, 0xF2));
 }
 
 void SystemSettingsTest::theListIsEmptyAtFirst()

@@ -55,6 +55,8 @@ void DesktopEntry::write(const QString &path, const QString &name, const QString
     g_key_file_set_string(file.get(), group, G_KEY_FILE_DESKTOP_KEY_TYPE, G_KEY_FILE_DESKTOP_TYPE_APPLICATION);
     g_key_file_set_string(file.get(), group, G_KEY_FILE_DESKTOP_KEY_NAME, name.toUtf8().constData());
     g_key_file_set_string(file.get(), group, G_KEY_FILE_DESKTOP_KEY_EXEC, quoted(executable).toUtf8().constData());
+    // Once the program has been removed the desktop passes over the entry.
+    g_key_file_set_string(file.get(), group, G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, executable.toUtf8().constData());
     if (isHidden)
         g_key_file_set_boolean(file.get(), group, G_KEY_FILE_DESKTOP_KEY_HIDDEN, TRUE);
     g_key_file_save_to_file(file.get(), QFile::encodeName(path).constData(), nullptr);

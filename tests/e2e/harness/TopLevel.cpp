@@ -3,6 +3,7 @@
 #include "XConnection.h"
 #include "XReply.h"
 
+#include <cstring>
 #include <xcb/xcb_icccm.h>
 
 QList<TopLevel> TopLevel::ofProcess(const XConnection &x, qint64 processId)
@@ -34,6 +35,27 @@ QString TopLevel::title() const
 QString TopLevel::windowClass() const
 {
     return QString::fromUtf8(m_x->property(m_id, XCB_ATOM_WM_CLASS).split('\0').value(1));
+}
+
+QList<QImage> TopLevel::icon() const
+{
+    const QByteArray bytes = m_x->property(m_id, m_x->atom("_NET_WM_ICON"));
+    QList<quint32> numbers(bytes.size() / qsizetype(sizeof(quint32)));
+    std::memcpy(numbers.data(), bytes.constData(), numbers.size() * sizeof(quint32));
+
+    // Each picture is its width, its height and its pixels.
+    QList<QImage> pictures;
+    for (qsizetype at = 0; at + 2 < numbers.size();) {
+        const QSize size(int(numbers[at]), int(numbers[at + 1]));
+        at += 2;
+        const qsizetype pixels = qsizetype(size.width()) * size.height();
+        if (pixels <= 0 || at + pixels > numbers.size())
+            break;
+        const auto *data = reinterpret_cast<const uchar *>(numbers.constData() + at);
+        pictures.append(QImage(data, size.width(), size.height(), QImage::Format_ARGB32).copy());
+        at += pixels;
+    }
+    return pictures;
 }
 
 bool TopLevel::isViewable() const

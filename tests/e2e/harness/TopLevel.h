@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArrayList>
+#include <QImage>
 #include <QRect>
 #include <QString>
 
@@ -21,6 +22,9 @@ public:
 
     /// The class part of WM_CLASS.
     QString windowClass() const;
+
+    /// The pictures that it gives to task lists (_NET_WM_ICON), one a size.
+    QList<QImage> icon() const;
 
     /// On the screen: mapped, and not hidden by an unmapped parent.
     bool isViewable() const;
