@@ -107,6 +107,7 @@ private slots:
     void thePointerDoesNotEnterAWindowWhoseButtonItPressed();
 
     void aShortcutActsOnTheHoveredWindow();
+    void theControlKeyServesAsCommand();
     void aShortcutWithoutAHoverNudges();
     void aHeldKeyDoesNothingMoreAndIsSwallowed();
     void otherKeysGoTheirWay_data();
@@ -827,6 +828,17 @@ void TestMissionControl::aShortcutActsOnTheHoveredWindow()
     QCOMPARE(view->model().nudge(), 0);
 }
 
+void TestMissionControl::theControlKeyServesAsCommand()
+{
+    const std::unique_ptr<DemoView> view(make());
+    hover(*view, 3);
+    QVERIFY(view->press(keyF, Hotkeys::controlFlag));
+    QCOMPARE(state(*view, 3), State::full);
+    QVERIFY(view->press(keyW, Hotkeys::controlFlag | Hotkeys::optionFlag));
+    QCOMPARE(state(*view, 3), State::closed);
+    QCOMPARE(view->model().flash(), std::optional(Hotkey::closeAll));
+}
+
 void TestMissionControl::aShortcutWithoutAHoverNudges()
 {
     const std::unique_ptr<DemoView> view(make());
@@ -859,6 +871,7 @@ void TestMissionControl::otherKeysGoTheirWay_data()
     QTest::newRow("a letter with shift") << keyW << Hotkeys::shiftFlag;
     QTest::newRow("select all") << keyA << Hotkeys::commandFlag;
     QTest::newRow("one modifier too many") << keyM << (Hotkeys::commandFlag | Hotkeys::shiftFlag);
+    QTest::newRow("control beside command") << keyW << (Hotkeys::commandFlag | Hotkeys::controlFlag);
     QTest::newRow("a key without a position") << std::int64_t(-1) << Hotkeys::commandFlag;
 }
 
