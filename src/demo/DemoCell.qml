@@ -7,7 +7,7 @@ import Corvane.Demo
 
 /// The place of one pretend window: the window itself as long as it is visible, and the overlay buttons over its corner
 /// while it is hovered. Having the keyboard focus counts as being hovered, so that all can be practised without a
-/// pointer.
+/// pointer, and so does the touch of a finger.
 Item {
     id: cell
 
@@ -24,10 +24,18 @@ Item {
     readonly property bool isHovered: isVisible && model?.hovered === win.id
     /// The buttons that stick out across the corner belong to the window while they are there, and no pointer enters it
     /// because they go.
-    readonly property bool isUnderPointer: overWindow.hovered || overButtons.hovered
+    readonly property bool isPointerHere: overWindow.hovered || overButtons.hovered || isTouched
+    /// A finger has touched the window, which stays hovered until something else is.
+    property bool isTouched: false
 
     function perform(hotkey: string) {
         model.apply(hotkey, win.id);
+    }
+    /// What has the keyboard focus counts again, unless the pointer is over another window already.
+    function hoverTheFocused() {
+        const focused = cell.Window.activeFocusItem?.parent as DemoCell;
+        if (focused?.model.hovered === -1)
+            focused.model.enter(focused.win.id);
     }
 
     implicitWidth: 128
@@ -35,7 +43,19 @@ Item {
     z: isHovered || isFull ? 2 : 1
     // Only while it holds the focus for a window that is gone: the next Tab goes on from here.
     activeFocusOnTab: activeFocus
-    onIsUnderPointerChanged: isUnderPointer ? model.enter(win.id) : model?.leave(win.id)
+    onIsHoveredChanged: if (!isHovered)
+        isTouched = false
+    onIsPointerHereChanged: {
+        if (!isPointerHere) {
+            model?.leave(win.id);
+            hoverTheFocused();
+        } else if (isVisible) {
+            model.enter(win.id);
+        }
+    }
+    // Nobody is over a window that is gone, and whoever waits at its place is over it once it is back.
+    onIsVisibleChanged: if (isPointerHere)
+        isVisible ? model.enter(win.id) : model.leave(win.id)
     // What nobody sees is not hovered.
     onVisibleChanged: if (!visible)
         model?.leave(win.id)
@@ -45,6 +65,14 @@ Item {
         id: overWindow
 
         enabled: cell.enabled
+    }
+    // The window around, which may move by its background, gets no press from here.
+    MouseArea {
+        anchors.fill: parent
+        onPressed: mouse => {
+            if (cell.isVisible && mouse.source !== Qt.MouseEventNotSynthesized)
+                cell.isTouched = true;
+        }
     }
     // Below the buttons.
     FocusRing {
@@ -106,7 +134,7 @@ Item {
                 }
             }
         }
-        // Below the buttons, which are pictures. It takes the press from a window that moves by its background.
+        // Below the buttons, which are pictures, and like them partly outside the window.
         MouseArea {
             x: cluster.x
             y: cluster.y

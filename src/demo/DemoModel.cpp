@@ -134,8 +134,9 @@ void DemoModel::pulse(Hotkey hotkey)
 
 void DemoModel::press(Hotkey hotkey)
 {
-    if (m_hovered) {
-        apply(hotkey, *m_hovered);
+    const Win *target = m_hovered ? find(m_wins, *m_hovered) : nullptr;
+    if (target && target->isVisible()) {
+        apply(hotkey, target->id);
         return;
     }
     pulse(hotkey);

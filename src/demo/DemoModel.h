@@ -28,7 +28,7 @@ class DemoModel : public QObject {
     Q_PROPERTY(QStringList done READ doneNames NOTIFY doneChanged)
     /// The shortcut that has just been performed, "" for none.
     Q_PROPERTY(QString flash READ flashName NOTIFY flashChanged)
-    /// Counts the shortcuts that were pressed while the pointer was over no window.
+    /// Counts the shortcuts that were pressed while the pointer was over no window that is there.
     Q_PROPERTY(int nudge READ nudge NOTIFY nudgeChanged)
     /// How a change of this moment is to move: `reset` has a spring of its own, which stands here while it changes the
     /// windows.
@@ -62,7 +62,8 @@ public:
     /// Lights a shortcut for 0.45 seconds, in place of the one before.
     void pulse(Hotkey hotkey);
 
-    /// The shortcut was pressed: it is performed on the hovered window, and without one it is lit and counted.
+    /// The shortcut was pressed: it is performed on the hovered window. Without one, or where that window is gone, it
+    /// is lit and counted, and nothing comes back.
     void press(Hotkey hotkey);
 
     /// The pointer entered the window, or left it. Leaving a window that another has taken over from changes nothing.

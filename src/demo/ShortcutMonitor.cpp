@@ -2,6 +2,17 @@
 
 #include "Platform.h"
 
+namespace {
+
+/// The key of Control lies where some keyboards have Command, and people try it. Beside Command it stays what it is.
+std::uint64_t meant(std::uint64_t flags)
+{
+    const bool isAlone = (flags & KeyFlags::controlFlag) && !(flags & KeyFlags::commandFlag);
+    return isAlone ? (flags & ~KeyFlags::controlFlag) | KeyFlags::commandFlag : flags;
+}
+
+}
+
 void ShortcutMonitor::setActive(bool active)
 {
     if (active == this->active())
@@ -13,7 +24,7 @@ void ShortcutMonitor::setActive(bool active)
 
 bool ShortcutMonitor::handle(const KeyDown &key)
 {
-    const auto hotkey = Hotkeys::match(key.keyCode, key.flags);
+    const auto hotkey = Hotkeys::match(key.keyCode, meant(key.flags));
     if (!hotkey)
         return false;
     if (!key.isARepeat && m_model)

@@ -23,6 +23,13 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
     m_window.installEventFilter(this);
     m_window.host(ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
                                    {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}}));
+    const auto followStep = [this] {
+        // The practice goes by the places of the keys and these shortcuts by their letters, which in many layouts lie
+        // elsewhere: whoever does what the hint says must not lose the guide.
+        m_window.setShortcutsEnabled(m_flow.step() != OnboardingStep::tryIt);
+    };
+    connect(&m_flow, &OnboardingFlow::stepChanged, this, followStep);
+    followStep();
     m_keyMonitor = Platform::current().monitorKeyDown([this](const KeyDown &key) {
         const bool isEscape = key.keyCode == KeyCodes::escape;
         if (isEscape)

@@ -11,6 +11,7 @@ Item {
     implicitWidth: 560
     implicitHeight: 388
     EBEnvironment.ebApp: "corvane"
+    LayoutMirroring.childrenInherit: true
 
     StepHolder {
         flow: view.flow

@@ -14,6 +14,7 @@ EBStageScreen {
     kicker: flow.kicker("tryIt")
     title: qsTr("Give it a try")
     text: flow.hint
+    isLive: true
 
     Item {
         width: parent.width

@@ -27,10 +27,10 @@ public:
     /// lies there. Never a null icon.
     virtual QIcon iconForFile(const QString &path) = 0;
 
-    /// Opens the page of the desktop's settings on which login items are allowed.
+    /// Opens the page of the desktop's settings on which login items are allowed, or what comes nearest to it.
     virtual void openLoginItemsSettings() = 0;
 
-    /// Shows the desktop's overview of all windows.
+    /// Shows the desktop's overview of all windows, or what comes nearest to it.
     virtual void openMissionControl() = 0;
 
     /// Prepares `window`, which must be hidden, to appear in front of the others, on every workspace and in no list of

@@ -46,6 +46,8 @@ private slots:
 
     void pressingWithoutAHoverOnlyLightsAndCounts();
     void pressingOverAWindowActsOnIt();
+    void pressingOverAWindowThatIsGoneBringsNothingBack_data();
+    void pressingOverAWindowThatIsGoneBringsNothingBack();
 
     void resetBringsTheWindowsBackAndNothingElse();
     void aChangeMovesWithItsOwnSpring();
@@ -334,6 +336,29 @@ void TestDemoModel::pressingOverAWindowActsOnIt()
     // It is gone, so the next one acts on nothing.
     m_model->press(Hotkey::minimize);
     QCOMPARE(m_model->nudge(), 1);
+}
+
+void TestDemoModel::pressingOverAWindowThatIsGoneBringsNothingBack_data()
+{
+    QTest::addColumn<Hotkey>("pressed");
+    for (const Hotkey pressed : Hotkeys::allCases)
+        QTest::newRow(qPrintable(Hotkeys::caseName(pressed))) << pressed;
+}
+
+void TestDemoModel::pressingOverAWindowThatIsGoneBringsNothingBack()
+{
+    QFETCH(const Hotkey, pressed);
+    m_model->enter(5);
+    // It goes together with another window, and stays hovered.
+    m_model->apply(Hotkey::closeAll, 0);
+    QCOMPARE(m_model->hovered(), std::optional(5));
+    const QList<DemoModel::Win> wins = m_model->wins();
+    const QSet<Task> done = m_model->done();
+    m_model->press(pressed);
+    QCOMPARE(m_model->wins(), wins);
+    QCOMPARE(m_model->done(), done);
+    QCOMPARE(m_model->nudge(), 1);
+    QCOMPARE(m_model->flash(), std::optional(pressed));
 }
 
 void TestDemoModel::resetBringsTheWindowsBackAndNothingElse()

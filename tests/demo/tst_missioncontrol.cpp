@@ -30,6 +30,22 @@ qreal sprung(qreal response, qreal damping, qreal time)
 
 constexpr std::int64_t keyW = 13, keyM = 46, keyF = 3, keyA = 0;
 
+/// Counts the presses that nothing above it takes.
+class Background : public QQuickItem {
+public:
+    explicit Background(QQuickItem *parent) : QQuickItem(parent)
+    {
+        setAcceptedMouseButtons(Qt::LeftButton);
+        setSize({600, 420});
+        setZ(-1);
+    }
+
+    int presses = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent *) override { ++presses; }
+};
+
 const QVariantMap allButtons = {{"showMinimizeButton", true}, {"showMaximizeButton", true}};
 
 }
@@ -71,7 +87,11 @@ private slots:
 
     void thePointerHoversAndLeaves();
     void movingStraightOnKeepsTheNewHover();
-    void thePlaceOfAHiddenWindowIsHoveredToo();
+    void thePlaceOfAWindowThatIsGoneIsNotHovered_data();
+    void thePlaceOfAWindowThatIsGoneIsNotHovered();
+    void onlyResettingBringsAWindowBack_data();
+    void onlyResettingBringsAWindowBack();
+    void aWindowThatComesBackUnderThePointerIsHovered();
     void aViewThatGoesIsLeft();
     void aDisabledViewIsNeitherHoveredNorHears();
     void theButtonsBeyondTheCornerKeepTheHover();
@@ -80,11 +100,14 @@ private slots:
     void clickingAButtonActsOnItsWindow();
     void clickingBesideAButtonDoesNothing();
     void anotherMouseButtonDoesNothing();
-    void aButtonTakesItsPressFromTheWindow();
+    void aPressOnAWindowDoesNotReachTheWindowAround();
+    void aFingerHoversByTouching();
+    void aFingerPressesTheButtons();
     void closingByTheButtonTakesTheButtonsAway();
     void thePointerDoesNotEnterAWindowWhoseButtonItPressed();
 
     void aShortcutActsOnTheHoveredWindow();
+    void theControlKeyServesAsCommand();
     void aShortcutWithoutAHoverNudges();
     void aHeldKeyDoesNothingMoreAndIsSwallowed();
     void otherKeysGoTheirWay_data();
@@ -99,6 +122,9 @@ private slots:
     void whatIsNotVisibleIsAbsentFromAccessibility();
 
     void theKeyboardFocusHovers();
+    void thePointerThatLeavesGivesTheHoverBackToTheFocus();
+    void aViewThatGoesGivesNothingBackToTheFocus();
+    void aShortcutOverTheWindowThatWasClosedNudgesInSpiteOfAFocus();
     void theFocusShowsARing();
     void theFocusGoesOnWhenItsWindowIsGone();
     void everythingCanBePractisedByKeyboardAlone();
@@ -502,14 +528,68 @@ void TestMissionControl::movingStraightOnKeepsTheNewHover()
     QCOMPARE(view->model().hovered(), std::optional(0));
 }
 
-void TestMissionControl::thePlaceOfAHiddenWindowIsHoveredToo()
+void TestMissionControl::thePlaceOfAWindowThatIsGoneIsNotHovered_data()
+{
+    QTest::addColumn<Hotkey>("hotkey");
+    QTest::newRow("closed") << Hotkey::close;
+    QTest::newRow("minimized") << Hotkey::minimize;
+    QTest::newRow("hidden") << Hotkey::hide;
+}
+
+void TestMissionControl::thePlaceOfAWindowThatIsGoneIsNotHovered()
+{
+    QFETCH(const Hotkey, hotkey);
+    const std::unique_ptr<DemoView> view(make());
+    view->model().apply(hotkey, 2);
+    hover(*view, 2);
+    QVERIFY(!view->model().hovered());
+    QVERIFY(!view->model().done().contains(Task::hover));
+    view->click(cell(*view, 2), {64, 37});
+    QVERIFY(!view->model().hovered());
+    hover(*view, 1);
+    QCOMPARE(view->model().hovered(), std::optional(1));
+}
+
+void TestMissionControl::onlyResettingBringsAWindowBack_data()
+{
+    QTest::addColumn<std::int64_t>("gone");
+    QTest::addColumn<std::int64_t>("pressed");
+    for (const std::int64_t gone : {keyW, keyM}) {
+        for (const std::int64_t pressed : {keyW, keyM, keyF})
+            QTest::addRow("%d then %d", int(gone), int(pressed)) << gone << pressed;
+    }
+}
+
+void TestMissionControl::onlyResettingBringsAWindowBack()
+{
+    QFETCH(const std::int64_t, gone);
+    QFETCH(const std::int64_t, pressed);
+    const std::unique_ptr<DemoView> view(make());
+    hover(*view, 0);
+    view->press(gone);
+    const QList<DemoModel::Win> wins = view->model().wins();
+    const QSet<Task> done = view->model().done();
+    // Both where the pointer stayed and where it comes back.
+    for (const int nudges : {1, 2}) {
+        QVERIFY(view->press(pressed));
+        QCOMPARE(view->model().wins(), wins);
+        QCOMPARE(view->model().done(), done);
+        QCOMPARE(view->model().nudge(), nudges);
+        view->pointAway();
+        hover(*view, 0);
+    }
+    view->model().reset();
+    QCOMPARE(state(*view, 0), State::normal);
+}
+
+void TestMissionControl::aWindowThatComesBackUnderThePointerIsHovered()
 {
     const std::unique_ptr<DemoView> view(make());
-    view->model().apply(Hotkey::minimize, 2);
     hover(*view, 2);
+    view->press(keyW);
+    QVERIFY(!view->model().hovered());
+    view->model().reset();
     QCOMPARE(view->model().hovered(), std::optional(2));
-    QCOMPARE(view->model().done(), QSet({Task::hover, Task::minimize}));
-    QVERIFY(buttons(*view, 2).isEmpty());
 }
 
 void TestMissionControl::aViewThatGoesIsLeft()
@@ -623,27 +703,82 @@ void TestMissionControl::anotherMouseButtonDoesNothing()
     QCOMPARE(state(*view, 4), State::normal);
 }
 
-void TestMissionControl::aButtonTakesItsPressFromTheWindow()
+void TestMissionControl::aPressOnAWindowDoesNotReachTheWindowAround()
 {
     const std::unique_ptr<DemoView> view(make());
-    // A window that moves by its background moves when nothing takes the press.
-    const auto isTaken = [&](QPointF at) {
-        const QPointF place = cell(*view, 4)->mapToScene(at);
-        const auto send = [&](QEvent::Type type, Qt::MouseButtons buttons) {
-            QMouseEvent event(type, place, view->window().mapToGlobal(place), Qt::LeftButton, buttons, {});
-            QCoreApplication::sendEvent(&view->window(), &event);
-            return event.isAccepted();
-        };
-        const bool taken = send(QEvent::MouseButtonPress, Qt::LeftButton);
-        send(QEvent::MouseButtonRelease, Qt::NoButton);
-        return taken;
+    // A window that moves by its background has something like this below all.
+    const Background around(view->window().contentItem());
+    const auto reachesIt = [&](QPointF at) {
+        const int before = around.presses;
+        QTest::mouseClick(&view->window(), Qt::LeftButton, {}, cell(*view, 4)->mapToScene(at).toPoint());
+        return around.presses > before;
     };
-    QVERIFY(!isTaken({-3, -2}));
+    QVERIFY(reachesIt({-3, -2}));
+    for (const QPointF at : {QPointF(2, 40), QPointF(126, 72), QPointF(64, 37)})
+        QVERIFY2(!reachesIt(at), qPrintable(QString::number(at.x())));
     hover(*view, 4);
-    QVERIFY(!isTaken({64, 50}));
-    QVERIFY(isTaken({-3, -2}));
+    QVERIFY(!reachesIt({64, 50}));
+    QCOMPARE(state(*view, 4), State::normal);
+    // The buttons reach beyond it.
+    QVERIFY(!reachesIt({-3, -2}));
     QCOMPARE(state(*view, 4), State::closed);
-    QVERIFY(!isTaken({-3, -2}));
+    QVERIFY(reachesIt({-3, -2}));
+    const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
+    const int before = around.presses;
+    const QPoint at = cell(*view, 5)->mapToScene({64, 37}).toPoint();
+    QTest::touchEvent(&view->window(), finger.get()).press(0, at, &view->window());
+    QTest::touchEvent(&view->window(), finger.get()).release(0, at, &view->window());
+    QCOMPARE(around.presses, before);
+}
+
+void TestMissionControl::aFingerHoversByTouching()
+{
+    const std::unique_ptr<DemoView> view(make());
+    const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
+    const auto tap = [&](int id) {
+        const QPoint at = cell(*view, id)->mapToScene({64, 50}).toPoint();
+        QTest::touchEvent(&view->window(), finger.get()).press(0, at, &view->window());
+        QTest::touchEvent(&view->window(), finger.get()).release(0, at, &view->window());
+    };
+    tap(1);
+    QCOMPARE(view->model().hovered(), std::optional(1));
+    // The pointer's last place becomes the finger's when a picture is drawn.
+    view->picture();
+    QCoreApplication::processEvents();
+    QCOMPARE(view->model().hovered(), std::optional(1));
+    QCOMPARE(buttons(*view, 1).size(), 1);
+    tap(5);
+    QCOMPARE(view->model().hovered(), std::optional(5));
+    QVERIFY(buttons(*view, 1).isEmpty());
+    QCOMPARE(view->model().done(), QSet{Task::hover});
+    QVERIFY(view->press(keyM));
+    QCOMPARE(state(*view, 5), State::minimized);
+    tap(5);
+    QVERIFY(!view->model().hovered());
+}
+
+void TestMissionControl::aFingerPressesTheButtons()
+{
+    const std::unique_ptr<DemoView> view(make(allButtons));
+    const std::unique_ptr<QPointingDevice> finger(QTest::createTouchDevice());
+    const auto tap = [&](QPointF scene) {
+        const QPoint at = scene.toPoint();
+        QTest::touchEvent(&view->window(), finger.get()).press(0, at, &view->window());
+        QTest::touchEvent(&view->window(), finger.get()).release(0, at, &view->window());
+    };
+    // Where the first button is going to be: a window shows its buttons before one of them can be pressed.
+    tap(cell(*view, 4)->mapToScene({4, 4}));
+    QCOMPARE(state(*view, 4), State::normal);
+    view->picture();
+    QCoreApplication::processEvents();
+    QQuickItem *maximize = buttons(*view, 4).at(2);
+    tap(maximize->mapToScene(middle(maximize)));
+    QCOMPARE(state(*view, 4), State::full);
+    QCOMPARE(view->model().hovered(), std::optional(4));
+    QQuickItem *close = buttons(*view, 4).at(0);
+    tap(close->mapToScene({2, 10}));
+    QCOMPARE(state(*view, 4), State::closed);
+    QVERIFY(!view->model().hovered());
 }
 
 void TestMissionControl::closingByTheButtonTakesTheButtonsAway()
@@ -693,6 +828,17 @@ void TestMissionControl::aShortcutActsOnTheHoveredWindow()
     QCOMPARE(view->model().nudge(), 0);
 }
 
+void TestMissionControl::theControlKeyServesAsCommand()
+{
+    const std::unique_ptr<DemoView> view(make());
+    hover(*view, 3);
+    QVERIFY(view->press(keyF, Hotkeys::controlFlag));
+    QCOMPARE(state(*view, 3), State::full);
+    QVERIFY(view->press(keyW, Hotkeys::controlFlag | Hotkeys::optionFlag));
+    QCOMPARE(state(*view, 3), State::closed);
+    QCOMPARE(view->model().flash(), std::optional(Hotkey::closeAll));
+}
+
 void TestMissionControl::aShortcutWithoutAHoverNudges()
 {
     const std::unique_ptr<DemoView> view(make());
@@ -725,6 +871,7 @@ void TestMissionControl::otherKeysGoTheirWay_data()
     QTest::newRow("a letter with shift") << keyW << Hotkeys::shiftFlag;
     QTest::newRow("select all") << keyA << Hotkeys::commandFlag;
     QTest::newRow("one modifier too many") << keyM << (Hotkeys::commandFlag | Hotkeys::shiftFlag);
+    QTest::newRow("control beside command") << keyW << (Hotkeys::commandFlag | Hotkeys::controlFlag);
     QTest::newRow("a key without a position") << std::int64_t(-1) << Hotkeys::commandFlag;
 }
 
@@ -843,6 +990,51 @@ void TestMissionControl::theKeyboardFocusHovers()
     QCOMPARE(view->model().done(), QSet{Task::hover});
     QTest::keyClick(&view->window(), Qt::Key_Backtab);
     QCOMPARE(view->model().hovered(), std::optional(4));
+}
+
+void TestMissionControl::thePointerThatLeavesGivesTheHoverBackToTheFocus()
+{
+    const std::unique_ptr<DemoView> view(make());
+    QTest::keyClick(&view->window(), Qt::Key_Tab);
+    hover(*view, 0);
+    view->pointAway();
+    QCOMPARE(view->model().hovered(), std::optional(0));
+    hover(*view, 4);
+    QCOMPARE(view->model().hovered(), std::optional(4));
+    hover(*view, 5);
+    QCOMPARE(view->model().hovered(), std::optional(5));
+    view->pointAway();
+    QCOMPARE(view->model().hovered(), std::optional(0));
+    QVERIFY(view->press(keyM));
+    QCOMPARE(state(*view, 0), State::minimized);
+    hover(*view, 4);
+    view->pointAway();
+    QVERIFY(!view->model().hovered());
+}
+
+void TestMissionControl::aViewThatGoesGivesNothingBackToTheFocus()
+{
+    const std::unique_ptr<DemoView> view(make());
+    for (const char *property : {"enabled", "visible"}) {
+        QTest::keyClick(&view->window(), Qt::Key_Tab);
+        hover(*view, 4);
+        view->root().setProperty(property, false);
+        QVERIFY2(!view->model().hovered(), property);
+        view->root().setProperty(property, true);
+        view->pointAway();
+    }
+}
+
+void TestMissionControl::aShortcutOverTheWindowThatWasClosedNudgesInSpiteOfAFocus()
+{
+    const std::unique_ptr<DemoView> view(make());
+    QTest::keyClick(&view->window(), Qt::Key_Tab);
+    hover(*view, 4);
+    view->press(keyM);
+    QVERIFY(!view->model().hovered());
+    view->press(keyM);
+    QCOMPARE(view->model().nudge(), 1);
+    QCOMPARE(state(*view, 0), State::normal);
 }
 
 void TestMissionControl::theFocusShowsARing()

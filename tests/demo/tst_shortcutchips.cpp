@@ -37,6 +37,7 @@ private slots:
     void aNudgeShakesTheRow();
     void aNudgeDuringAShakeStartsFromWhereItIs();
     void withReducedMotionNothingMoves();
+    void whetherItMovesIsAskedAtEachNudge();
     void whatItFindsWhenItIsMadeIsNoNudge();
 
 private:
@@ -305,6 +306,31 @@ void TestShortcutChips::withReducedMotionNothingMoves()
     QCOMPARE(view.model().nudge(), 1);
     QCOMPARE(furthest, 0.0);
     QCOMPARE(offset(view), 0.0);
+}
+
+void TestShortcutChips::whetherItMovesIsAskedAtEachNudge()
+{
+    FakePlatform &platform = FakePlatform::install();
+    platform.look.setReduceMotion(true);
+    AnimationClock clock;
+    ViewEngine engine;
+    DemoModel model;
+    const std::unique_ptr<QQuickItem> chips(
+        ViewEngine::make(engine, "qrc:/qt/qml/Corvane/Demo/ShortcutChips.qml",
+                         {{"model", QVariant::fromValue(&model)}, {"shown", practised}}));
+    for (const bool isReduced : {false, true, false}) {
+        platform.look.setReduceMotion(isReduced);
+        model.press(Hotkey::close);
+        QCOMPARE(chips->property("isShaking").toBool(), !isReduced);
+        if (isReduced)
+            continue;
+        clock.advance(0);
+        clock.advance(25);
+        const qreal offset = chips->property("offset").toReal();
+        QVERIFY2(std::abs(offset - 3) < 0.2, qPrintable(QString::number(offset)));
+        clock.advance(1000);
+        QCOMPARE(chips->property("offset").toReal(), 0.0);
+    }
 }
 
 void TestShortcutChips::whatItFindsWhenItIsMadeIsNoNudge()

@@ -1,13 +1,17 @@
+#include "Accessibility.h"
+#include "EBKit.h"
 #include "FakePlatform.h"
 #include "GuideVisibility.h"
 #include "GuideWindowController.h"
 #include "Hotkey.h"
+#include "NamedItems.h"
 #include "Shared.h"
 #include "TestProgram.h"
 #include "ViewEngine.h"
 
 #include <QGuiApplication>
 #include <QRegularExpression>
+#include <QSignalSpy>
 
 #include <memory>
 
@@ -22,9 +26,16 @@ private slots:
     void theWindowIsCentredAndNotShownYet();
     void theWindowCannotBeMiniaturizedOrResized();
     void theCloseButtonStandsOutOnALoudScreen();
+    void theGroundIsPaper();
+    void whereTextRunsTheOtherWayEveryScreenIsMirrored_data();
+    void whereTextRunsTheOtherWayEveryScreenIsMirrored();
     void escapeEndsTheOnboardingOnEveryStep_data();
     void escapeEndsTheOnboardingOnEveryStep();
     void everyOtherKeyPassesThrough();
+    void onThePracticeNoShortcutClosesOrQuits_data();
+    void onThePracticeNoShortcutClosesOrQuits();
+    void onEveryOtherStepTheyDo_data();
+    void onEveryOtherStepTheyDo();
     void closingTheWindowEndsTheOnboarding();
     void closingAndEscapeEndItOnce();
     void theFlowEndsItToo();
@@ -33,7 +44,12 @@ private slots:
     void afterTheEndNothingBringsItBack();
 
 private:
+    void make();
     void showGuide();
+    /// Where the first item of that accessible name stands; empty when there is none.
+    QRectF frame(const QString &name);
+    /// Whether the window's shortcut with that key has ended the guide, or asks the process to end.
+    bool closes(Qt::Key key);
     EBWindow &window() { return m_guide->window(); }
 
     FakePlatform *m_platform = nullptr;
@@ -46,7 +62,16 @@ void TestGuideWindow::init()
 {
     QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support)"));
     m_platform = &FakePlatform::install();
+    installKitAccessibility();
+    QAccessible::setActive(true);
+    m_platform->look.setReduceMotion(true);
+    make();
+}
+
+void TestGuideWindow::make()
+{
     m_finished = 0;
+    m_guide.reset();
     m_engine = std::make_unique<ViewEngine>();
     m_guide = std::make_unique<GuideWindowController>(*m_engine, OnboardingFlow::Run::first, [this] { ++m_finished; });
 }
@@ -55,12 +80,26 @@ void TestGuideWindow::cleanup()
 {
     m_guide.reset();
     m_engine.reset();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+QRectF TestGuideWindow::frame(const QString &name)
+{
+    const QQuickItem *item = NamedItems::all(window().contentItem(), name).value(0);
+    return item ? item->mapRectToScene(item->boundingRect()) : QRectF();
+}
+
+bool TestGuideWindow::closes(Qt::Key key)
+{
+    const QSignalSpy quits(m_engine.get(), &QQmlEngine::quit);
+    QTest::keyClick(&window(), key, Qt::ControlModifier);
+    return m_finished > 0 || !quits.isEmpty();
 }
 
 void TestGuideWindow::showGuide()
 {
     window().makeKeyAndOrderFront();
-    QVERIFY(QTest::qWaitForWindowExposed(&window()));
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
 }
 
 void TestGuideWindow::theWindowHasTheSizeAndTheTitleOfTheGuide()
@@ -93,6 +132,50 @@ void TestGuideWindow::theCloseButtonStandsOutOnALoudScreen()
     QVERIFY(picture.pixelColor(insideTheDisc * scale).saturation() < 20);
 }
 
+void TestGuideWindow::theGroundIsPaper()
+{
+    for (const AppearanceName name : {AppearanceName::Aqua, AppearanceName::DarkAqua}) {
+        m_platform->look.setName(name);
+        QCOMPARE(window().color(), EBKit::paper().current());
+    }
+}
+
+void TestGuideWindow::whereTextRunsTheOtherWayEveryScreenIsMirrored_data()
+{
+    QTest::addColumn<OnboardingStep>("step");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("welcome") << OnboardingStep::welcome << "Get started";
+    QTest::newRow("practice") << OnboardingStep::tryIt << "Browser window, Start page";
+    QTest::newRow("its reset button") << OnboardingStep::tryIt << "Reset windows";
+    QTest::newRow("permission") << OnboardingStep::access << "Open System Settings";
+    QTest::newRow("its list") << OnboardingStep::access << "Step 1 of 5, Welcome, done";
+    QTest::newRow("look") << OnboardingStep::customize << "Looks Good";
+    QTest::newRow("its tiles") << OnboardingStep::customize << "Classic look";
+    QTest::newRow("end") << OnboardingStep::done << "Open Mission Control";
+}
+
+void TestGuideWindow::whereTextRunsTheOtherWayEveryScreenIsMirrored()
+{
+    QFETCH(OnboardingStep, step);
+    QFETCH(QString, name);
+    showGuide();
+    m_guide->flow().go(step);
+    window().grabWindow();
+    const QRectF usual = frame(name);
+    QVERIFY(!usual.isEmpty());
+    const QRectF usualClose = frame("Close");
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    make();
+    showGuide();
+    m_guide->flow().go(step);
+    window().grabWindow();
+    const auto mirrored = [](const QRectF &rect) {
+        return QRectF(560 - rect.right(), rect.top(), rect.width(), rect.height());
+    };
+    QCOMPARE(frame(name), mirrored(usual));
+    QCOMPARE(frame("Close"), mirrored(usualClose));
+}
+
 void TestGuideWindow::escapeEndsTheOnboardingOnEveryStep_data()
 {
     QTest::addColumn<OnboardingStep>("step");
@@ -120,6 +203,46 @@ void TestGuideWindow::everyOtherKeyPassesThrough()
     QVERIFY(!m_platform->pressKey({36, 0, false}));
     QVERIFY(window().isVisible());
     QCOMPARE(m_finished, 0);
+}
+
+void TestGuideWindow::onThePracticeNoShortcutClosesOrQuits_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Ctrl+W") << Qt::Key_W;
+    QTest::newRow("Ctrl+Q") << Qt::Key_Q;
+}
+
+void TestGuideWindow::onThePracticeNoShortcutClosesOrQuits()
+{
+    QFETCH(Qt::Key, key);
+    showGuide();
+    m_guide->flow().go(OnboardingStep::tryIt);
+    // Typed as letters, which in other layouts lie where no shortcut of the practice does.
+    QVERIFY(!closes(key));
+    QVERIFY(window().isVisible());
+    m_guide->flow().next();
+    QVERIFY(closes(key));
+}
+
+void TestGuideWindow::onEveryOtherStepTheyDo_data()
+{
+    QTest::addColumn<OnboardingStep>("step");
+    QTest::addColumn<Qt::Key>("key");
+    for (const OnboardingStep step : OnboardingSteps::allCases) {
+        if (step == OnboardingStep::tryIt)
+            continue;
+        QTest::newRow(qPrintable("Ctrl+W on " + OnboardingSteps::caseName(step))) << step << Qt::Key_W;
+        QTest::newRow(qPrintable("Ctrl+Q on " + OnboardingSteps::caseName(step))) << step << Qt::Key_Q;
+    }
+}
+
+void TestGuideWindow::onEveryOtherStepTheyDo()
+{
+    QFETCH(OnboardingStep, step);
+    QFETCH(Qt::Key, key);
+    showGuide();
+    m_guide->flow().go(step);
+    QVERIFY(closes(key));
 }
 
 void TestGuideWindow::closingTheWindowEndsTheOnboarding()

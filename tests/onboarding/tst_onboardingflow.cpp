@@ -32,7 +32,9 @@ private slots:
     void theHintFollowsTheStore();
 
     void skippingTheSetupEndsTheFlowAndSendsNothing();
+    void skippingTheSetupHidesTheTile();
     void askingForAccessStepsAsideSendsAndShowsTheTileLater();
+    void theGuideIsAsideBeforeTheAgentIsAsked();
     void askingAgainAsksTheAgentAgain();
     void theTileIsNotShownToWhomeverHasMovedOn();
     void theTileIsNotShownOnceThePermissionIsThere();
@@ -48,6 +50,7 @@ private slots:
     void looksGoodSendsAndGoesOn();
     void keepTheDefaultsOverwritesBeforeItSends();
     void openMissionControlSendsBothCommandsInOrderOpensAndEnds();
+    void theFlowEndsLast();
     void notStartingAtLoginSendsFalseAndOpensNothing_data();
     void notStartingAtLoginSendsFalseAndOpensNothing();
 
@@ -246,6 +249,16 @@ void TestOnboardingFlow::skippingTheSetupEndsTheFlowAndSendsNothing()
     QCOMPARE(m_visibilities, QList<bool>());
 }
 
+void TestOnboardingFlow::skippingTheSetupHidesTheTile()
+{
+    OnboardingFlow &flow = makeAt(OnboardingStep::access);
+    flow.requestAccess();
+    m_platform->queue.advance(0.8);
+    QVERIFY(flow.dragTile().panel());
+    flow.skipSetup();
+    QVERIFY(!flow.dragTile().panel());
+}
+
 void TestOnboardingFlow::askingForAccessStepsAsideSendsAndShowsTheTileLater()
 {
     OnboardingFlow &flow = makeAt(OnboardingStep::access);
@@ -258,6 +271,16 @@ void TestOnboardingFlow::askingForAccessStepsAsideSendsAndShowsTheTileLater()
     QVERIFY(!flow.dragTile().panel());
     m_platform->queue.advance(0.01);
     QVERIFY(flow.dragTile().panel());
+}
+
+void TestOnboardingFlow::theGuideIsAsideBeforeTheAgentIsAsked()
+{
+    OnboardingFlow &flow = makeAt(OnboardingStep::access);
+    QList<bool> atArrival;
+    m_platform->notifications.observe(Shared::Command::name, this,
+                                      [&](const QVariantMap &) { atArrival = m_visibilities; });
+    flow.requestAccess();
+    QCOMPARE(atArrival, QList<bool>{false});
 }
 
 void TestOnboardingFlow::askingAgainAsksTheAgentAgain()
@@ -412,6 +435,19 @@ void TestOnboardingFlow::openMissionControlSendsBothCommandsInOrderOpensAndEnds(
     QCOMPARE(commands(), (QStringList{"setLaunchAtLogin true", "applySettings"}));
     QCOMPARE(m_platform->space.missionControlOpened, 1);
     QCOMPARE(m_finished, 1);
+}
+
+void TestOnboardingFlow::theFlowEndsLast()
+{
+    QStringList atTheEnd;
+    int openedAtTheEnd = 0;
+    m_flow = std::make_unique<OnboardingFlow>(OnboardingFlow::Run::first, [&] {
+        atTheEnd = commands();
+        openedAtTheEnd = m_platform->space.missionControlOpened;
+    });
+    m_flow->finishSetup(true, true);
+    QCOMPARE(atTheEnd, (QStringList{"setLaunchAtLogin true", "applySettings"}));
+    QCOMPARE(openedAtTheEnd, 1);
 }
 
 void TestOnboardingFlow::notStartingAtLoginSendsFalseAndOpensNothing_data()

@@ -7,6 +7,7 @@
 #include "Shared.h"
 #include "TestProgram.h"
 #include "ViewEngine.h"
+#include "Views.h"
 
 #include <QQuickWindow>
 #include <QRegularExpression>
@@ -30,6 +31,7 @@ private slots:
     void resetBringsTheWindowsBackAndKeepsWhatWasPractised();
     void leavingThePracticeLeavesItsWindowAndItsKeys();
     void theHintIsTheText();
+    void aNewHintIsReadOut();
     void theAccessStepExplainsThePermission();
     void theAccessStepChangesOnceThePermissionWasAskedFor();
     void theAccessStepShowsThePermission();
@@ -83,6 +85,12 @@ private:
     /// The screens that exist at this moment, by their step.
     QStringList screens() const;
     qreal opacityOf(const QString &step) const;
+
+    /// A text that stands for itself, not the great word of a loud screen, which runs out of the window.
+    static bool isReadable(const QQuickItem *text)
+    {
+        return !text->property("text").toString().isEmpty() && text->property("font").value<QFont>().pixelSize() < 60;
+    }
 
     FakePlatform *m_platform = nullptr;
     FakeUserDefaults *m_store = nullptr;
@@ -273,6 +281,20 @@ void TestOnboardingView::theHintIsTheText()
     QVERIFY(shows(QString::fromUtf8("Click a button, or press ⌘W to close it.")));
     m_flow->demo()->apply(Hotkey::close, 2);
     QVERIFY(shows(QString::fromUtf8("Now hover another window and press ⌘M to minimize it.")));
+}
+
+void TestOnboardingView::aNewHintIsReadOut()
+{
+    make(OnboardingStep::tryIt);
+    const QString first = QString::fromUtf8("Click the cross, or press ⌘W to close it.");
+    const QQuickItem *hint = control(first, QAccessible::Notification);
+    QVERIFY(hint);
+    m_flow->demo()->apply(Hotkey::close, 2);
+    QCOMPARE(control(m_flow->hint(), QAccessible::Notification), hint);
+    // The text of another step stays as it is, and is silent.
+    m_flow->go(OnboardingStep::customize);
+    QVERIFY(control("Optional. Pick a look and a size; you can change them any time in Settings.",
+                    QAccessible::StaticText));
 }
 
 void TestOnboardingView::theAccessStepExplainsThePermission()
@@ -520,32 +542,54 @@ void TestOnboardingView::theScreenThatFadesOutIsHiddenFromAssistiveTechnologies(
 void TestOnboardingView::nothingIsCutInAWideFace_data()
 {
     QTest::addColumn<OnboardingStep>("step");
+    QTest::addColumn<bool>("requested");
     for (const OnboardingStep step : OnboardingSteps::allCases)
-        QTest::newRow(qPrintable(OnboardingSteps::caseName(step))) << step;
+        QTest::newRow(qPrintable(OnboardingSteps::caseName(step))) << step << false;
+    QTest::newRow("access, asked for") << OnboardingStep::access << true;
 }
 
 void TestOnboardingView::nothingIsCutInAWideFace()
 {
     QFETCH(OnboardingStep, step);
+    QFETCH(bool, requested);
     const QFont usual = QGuiApplication::font();
     const auto restore = qScopeGuard([&] { QGuiApplication::setFont(usual); });
     QGuiApplication::setFont(QFont("DejaVu Sans"));
+    // The longest texts and all the buttons.
+    m_store->values = {{"buttonSizeOption", "large"}, {"showMinimizeButton", true}, {"showMaximizeButton", true}};
     make(step);
+    if (requested)
+        m_flow->requestAccess();
+    m_window->grabWindow();
     const QRectF frame(0, 0, 560, 388);
-    QList<QQuickItem *> rest = {m_view};
-    int buttons = 0;
-    while (!rest.isEmpty()) {
-        const QQuickItem *item = rest.takeLast();
-        rest.append(item->childItems());
+    QList<QRectF> texts;
+    QList<QRectF> controls;
+    for (const QQuickItem *item : Views::visible(m_view)) {
+        const QRectF place = item->mapRectToScene(item->boundingRect());
+        if (item->inherits("QQuickText") && isReadable(item)) {
+            const QString text = item->property("text").toString();
+            QVERIFY2(!item->property("truncated").toBool(), qPrintable(text));
+            QVERIFY2(item->property("contentHeight").toReal() <= item->height() + 0.5, qPrintable(text));
+            QVERIFY2(frame.contains(place), qPrintable(text));
+            texts.append(place);
+        }
         const auto *accessible = QAccessible::queryAccessibleInterface(const_cast<QQuickItem *>(item));
-        if (!accessible || !item->isVisible() || accessible->role() != QAccessible::Button)
+        if (!accessible || accessible->role() != QAccessible::Button)
             continue;
-        ++buttons;
         // With the ring that shows the focus.
-        const QRectF place = item->mapRectToScene(item->boundingRect()).adjusted(-4, -4, 4, 4);
-        QVERIFY2(frame.contains(place), qPrintable(accessible->text(QAccessible::Name)));
+        QVERIFY2(frame.contains(place.adjusted(-4, -4, 4, 4)), qPrintable(accessible->text(QAccessible::Name)));
+        controls.append(place);
     }
-    QVERIFY(buttons >= 2);
+    QVERIFY(controls.size() >= 2);
+    for (const QList<QRectF> &places : {texts, controls}) {
+        for (qsizetype one = 0; one < places.size(); ++one) {
+            for (qsizetype other = 0; other < one; ++other) {
+                const QRectF common = places.at(one) & places.at(other);
+                QVERIFY2(common.width() < 1 || common.height() < 1,
+                         qPrintable(QStringLiteral("%1 %2").arg(common.x()).arg(common.y())));
+            }
+        }
+    }
 }
 
 void TestOnboardingView::stepsCrossFadeInAQuarterOfASecond()

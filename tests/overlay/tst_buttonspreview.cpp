@@ -1,5 +1,6 @@
 #include "DemoButton.h"
 #include "EBKit.h"
+#include "Motion.h"
 #include "OverlayView.h"
 #include "TestProgram.h"
 #include "WindowFace.h"
@@ -32,6 +33,7 @@ private slots:
     void theOptionalButtonsFollowInOrder_data();
     void theOptionalButtonsFollowInOrder();
     void aChangeOfSizeIsASpring();
+    void anOptionalButtonEasesInAndOut_data();
     void anOptionalButtonEasesInAndOut();
     void theLastButtonMakesRoomForTheMiddleOne();
     void withReducedMotionNothingMoves();
@@ -149,24 +151,39 @@ void ButtonsPreviewTest::aChangeOfSizeIsASpring()
     QCOMPARE(close->property("size").toReal(), 32.0);
 }
 
+void ButtonsPreviewTest::anOptionalButtonEasesInAndOut_data()
+{
+    QTest::addColumn<QByteArray>("flag");
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("minimize") << QByteArray("showMinimize") << "minimize";
+    QTest::newRow("full screen") << QByteArray("showMaximize") << "maximize";
+}
+
 void ButtonsPreviewTest::anOptionalButtonEasesInAndOut()
 {
+    QFETCH(const QByteArray, flag);
+    QFETCH(const QString, kind);
     AnimationClock clock;
     OverlayView view("ButtonsPreview", properties("medium"), 386);
-    view.root().setProperty("showMinimize", true);
-    clock.advance(60);
-    QCOMPARE(kinds(view), QStringList({"close", "minimize"}));
-    DemoButton *minimize = view.all<DemoButton>().at(1);
-    // Faster than evenly at first.
-    QVERIFY(minimize->opacity() > 60.0 / 180 && minimize->opacity() < 1);
-    clock.advance(119);
-    QVERIFY(minimize->opacity() > 0.98 && minimize->opacity() < 1);
+    view.root().setProperty(flag, true);
+    clock.advance(0);
+    QCOMPARE(kinds(view), QStringList({"close"}));
+    const QEasingCurve curve = Motion::easeOut();
+    for (const int time : {45, 90, 135, 179}) {
+        clock.advance(time == 179 ? 44 : 45);
+        QCOMPARE(kinds(view), QStringList({"close", kind}));
+        const qreal share = view.all<DemoButton>().at(1)->opacity();
+        QVERIFY2(std::abs(share - curve.valueForProgress(time / 180.0)) < 0.01, qPrintable(QString::number(share)));
+    }
     clock.advance(1);
-    QCOMPARE(minimize->opacity(), 1.0);
+    QCOMPARE(view.all<DemoButton>().at(1)->opacity(), 1.0);
 
-    view.root().setProperty("showMinimize", false);
-    clock.advance(179);
-    QVERIFY(minimize->opacity() > 0);
+    view.root().setProperty(flag, false);
+    clock.advance(90);
+    const qreal share = view.all<DemoButton>().at(1)->opacity();
+    QVERIFY(std::abs(share - (1 - curve.valueForProgress(0.5))) < 0.01);
+    clock.advance(89);
+    QCOMPARE(kinds(view).size(), 2);
     clock.advance(1);
     QCOMPARE(kinds(view), QStringList{"close"});
 }

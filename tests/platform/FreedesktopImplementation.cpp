@@ -30,8 +30,7 @@ quint32 scanCode(std::int64_t keyCode)
 {
     constexpr quint32 offset = 8;
     const QHash<std::int64_t, quint32> codes = {
-        {KeyCodes::escape, KEY_ESC}, {KeyCodes::f, KEY_F}, {KeyCodes::h, KEY_H},
-        {KeyCodes::m, KEY_M},        {KeyCodes::q, KEY_Q}, {KeyCodes::w, KEY_W},
+        {KeyCodes::f, KEY_F}, {KeyCodes::h, KEY_H}, {KeyCodes::m, KEY_M}, {KeyCodes::q, KEY_Q}, {KeyCodes::w, KEY_W},
     };
     return codes.value(keyCode, KEY_CALC) + offset;
 }
@@ -92,7 +91,9 @@ void FreedesktopImplementation::choose(const Look &look)
 
 bool FreedesktopImplementation::press(const KeyDown &key)
 {
-    QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, modifiers(key.flags), scanCode(key.keyCode), 0, 0, QString(),
+    // A letter is known by its place, Escape by its meaning.
+    const int meaning = key.keyCode == KeyCodes::escape ? Qt::Key_Escape : Qt::Key_unknown;
+    QKeyEvent event(QEvent::KeyPress, meaning, modifiers(key.flags), scanCode(key.keyCode), 0, 0, QString(),
                     key.isARepeat);
     m_window.isSentAKey = false;
     QCoreApplication::sendEvent(&m_window, &event);

@@ -29,7 +29,8 @@ private slots:
     void aLinkGoesToTheDesktopsHandler();
     void theAutostartPageIsThatOfTheDesktop_data();
     void theAutostartPageIsThatOfTheDesktop();
-    void anUnknownDesktopOrAMissingProgramOpensNothing();
+    void withoutSuchAPageTheAutostartFolderOpens_data();
+    void withoutSuchAPageTheAutostartFolderOpens();
 
     void anApplicationsIconIsTheOneItsDesktopEntryNames();
     void anIconOfTheThemeIsFoundByItsName();
@@ -72,6 +73,8 @@ void FreedesktopWorkspaceTest::init()
     qputenv("STARTED", m_folder->filePath(QStringLiteral("started")).toLocal8Bit());
     qputenv("PATH", m_folder->filePath(QStringLiteral("bin")).toLocal8Bit());
     qputenv("XDG_DATA_HOME", m_folder->filePath(QStringLiteral("data")).toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", m_folder->filePath(QStringLiteral("config")).toLocal8Bit());
+    m_links.clear();
     writeScript(QStringLiteral("outside/main"));
     m_mainBundle = PlistBundle::around(m_folder->filePath(QStringLiteral("outside/main")));
     m_workspace.emplace(*m_mainBundle);
@@ -209,19 +212,33 @@ void FreedesktopWorkspaceTest::theAutostartPageIsThatOfTheDesktop()
     QTRY_COMPARE(started(), QStringList(opened));
 }
 
-void FreedesktopWorkspaceTest::anUnknownDesktopOrAMissingProgramOpensNothing()
+void FreedesktopWorkspaceTest::withoutSuchAPageTheAutostartFolderOpens_data()
 {
+    QTest::addColumn<QString>("desktop");
+    for (const char *desktop : {"GNOME", "ubuntu:GNOME", "sway", "XFCE", "Somewhere:Else", ":::", "systemsettings", ""})
+        QTest::newRow(desktop) << QString::fromLatin1(desktop);
+}
+
+void FreedesktopWorkspaceTest::withoutSuchAPageTheAutostartFolderOpens()
+{
+    QFETCH(const QString, desktop);
+    // Another desktop's page, and one that cannot be started.
     writeScript(QStringLiteral("bin/systemsettings"));
-    for (const char *desktop : {"", "XFCE", "GNOME", "Somewhere:Else", ":::", "systemsettings"}) {
-        qputenv("XDG_CURRENT_DESKTOP", desktop);
-        m_workspace->openLoginItemsSettings();
-    }
-    qunsetenv("XDG_CURRENT_DESKTOP");
+    write(QStringLiteral("bin/gnome-tweaks"), QStringLiteral("no program"));
+    qputenv("XDG_CURRENT_DESKTOP", desktop.toLocal8Bit());
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openedLink");
+    const auto restored = qScopeGuard([] { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); });
+    const QString folder = m_folder->filePath(QStringLiteral("config/autostart"));
+    QVERIFY(!QFileInfo::exists(folder));
     m_workspace->openLoginItemsSettings();
+    QCOMPARE(m_links, QList<QUrl>{QUrl::fromLocalFile(folder)});
+    QVERIFY(QFileInfo(folder).isDir());
+    // The page of the desktop goes first, and alone.
+    m_links.clear();
     qputenv("XDG_CURRENT_DESKTOP", "KDE");
     m_workspace->openLoginItemsSettings();
-    QTRY_VERIFY(!started().isEmpty());
-    QCOMPARE(started().size(), 1);
+    QTRY_COMPARE(started(), QStringList(QStringLiteral("systemsettings kcm_autostart")));
+    QVERIFY(m_links.isEmpty());
 }
 
 void FreedesktopWorkspaceTest::anApplicationsIconIsTheOneItsDesktopEntryNames()

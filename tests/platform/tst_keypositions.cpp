@@ -12,6 +12,8 @@ private slots:
     void everyOtherPlaceIsNone();
     void anEventWithoutAPlaceIsReadAsOnAnAnsiKeyboard_data();
     void anEventWithoutAPlaceIsReadAsOnAnAnsiKeyboard();
+    void aKeyThatTypesNothingGoesByItsMeaning_data();
+    void aKeyThatTypesNothingGoesByItsMeaning();
     void modifiersAreFlags();
 };
 
@@ -41,7 +43,6 @@ void KeyPositionsTest::aScanCodeIsAPosition_data()
     row("m", KEY_M, KeyCodes::m);
     row("f", KEY_F, KeyCodes::f);
     row("h", KEY_H, KeyCodes::h);
-    row("escape", KEY_ESC, KeyCodes::escape);
 }
 
 void KeyPositionsTest::aScanCodeIsAPosition()
@@ -84,6 +85,31 @@ void KeyPositionsTest::anEventWithoutAPlaceIsReadAsOnAnAnsiKeyboard()
     QFETCH(const int, key);
     QFETCH(const Qt::KeyboardModifiers, modifiers);
     QTEST(keyCodeOf(key, modifiers), "keyCode");
+}
+
+void KeyPositionsTest::aKeyThatTypesNothingGoesByItsMeaning_data()
+{
+    QTest::addColumn<quint32>("evdevCode");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<std::int64_t>("keyCode");
+    const auto row = [](const char *name, quint32 evdevCode, int key, std::int64_t keyCode) {
+        QTest::newRow(name) << evdevCode << key << keyCode;
+    };
+    row("escape in its place", KEY_ESC, Qt::Key_Escape, KeyCodes::escape);
+    row("escape in the place of caps lock", KEY_CAPSLOCK, Qt::Key_Escape, KeyCodes::escape);
+    row("escape in the place of a letter", KEY_W, Qt::Key_Escape, KeyCodes::escape);
+    row("caps lock in the place of escape", KEY_ESC, Qt::Key_CapsLock, KeyCodes::none);
+    row("a letter in the place of escape", KEY_ESC, Qt::Key_QuoteLeft, KeyCodes::none);
+    row("return in the place of a letter", KEY_W, Qt::Key_Return, KeyCodes::none);
+    row("a dead key in the place of a letter", KEY_W, Qt::Key_Dead_Acute, KeyCodes::w);
+    row("a key of another alphabet", KEY_W, Qt::Key_unknown, KeyCodes::w);
+}
+
+void KeyPositionsTest::aKeyThatTypesNothingGoesByItsMeaning()
+{
+    QFETCH(const quint32, evdevCode);
+    QFETCH(const int, key);
+    QTEST(keyCodeAt(evdevCode + 8, key), "keyCode");
 }
 
 void KeyPositionsTest::modifiersAreFlags()

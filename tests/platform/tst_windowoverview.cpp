@@ -1,6 +1,6 @@
-#include "FreedesktopWorkspace.h"
 #include "PrivateSession.h"
 #include "TestProgram.h"
+#include "WindowOverview.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -15,11 +15,12 @@ namespace {
 /// A desktop's service on a connection of its own, which writes down what it is asked for.
 class Shell : public QDBusVirtualObject {
 public:
-    Shell(const QString &service, const QString &path)
+    /// `desktop` is a further name by which the desktop is known to run; empty for none.
+    Shell(const QString &service, const QString &path, const QString &desktop)
         : m_service(service), m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, service))
     {
         m_bus.registerVirtualObject(path, this);
-        m_isThere = m_bus.registerService(service);
+        m_isThere = m_bus.registerService(service) && (desktop.isEmpty() || m_bus.registerService(desktop));
     }
     ~Shell() override { QDBusConnection::disconnectFromBus(m_service); }
 
@@ -59,28 +60,31 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void theDesktopThatRunsShowsItsOverview_data();
     void theDesktopThatRunsShowsItsOverview();
+    void shortcutsWithoutTheirWindowManagerAreNoOverview();
     void aServiceThatDoesNotRunIsNotStarted();
     void withoutABusNothingHappens();
 
 private:
     PrivateSession &m_session;
-    PlistBundle m_bundle{"/nonexistent"};
-    FreedesktopWorkspace m_workspace{m_bundle};
 };
 
 void WindowOverviewTest::theDesktopThatRunsShowsItsOverview_data()
 {
     QTest::addColumn<QString>("service");
     QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("desktop");
     QTest::addColumn<QString>("call");
     QTest::addColumn<QVariantList>("arguments");
     const QString set = "org.freedesktop.DBus.Properties.Set";
     QTest::newRow("GNOME") << "org.gnome.Shell"
-                           << "/org/gnome/Shell" << set << QVariantList{"org.gnome.Shell", "OverviewActive", true};
+                           << "/org/gnome/Shell"
+                           << "" << set << QVariantList{"org.gnome.Shell", "OverviewActive", true};
     QTest::newRow("Cinnamon") << "org.Cinnamon"
-                              << "/org/Cinnamon" << set << QVariantList{"org.Cinnamon", "OverviewActive", true};
+                              << "/org/Cinnamon"
+                              << "" << set << QVariantList{"org.Cinnamon", "OverviewActive", true};
     QTest::newRow("KDE") << "org.kde.kglobalaccel"
                          << "/component/kwin"
+                         << "org.kde.KWin"
                          << "org.kde.kglobalaccel.Component.invokeShortcut" << QVariantList{"Overview"};
 }
 
@@ -88,15 +92,23 @@ void WindowOverviewTest::theDesktopThatRunsShowsItsOverview()
 {
     QFETCH(QString, service);
     QFETCH(QString, path);
+    QFETCH(QString, desktop);
     QFETCH(QString, call);
     QFETCH(QVariantList, arguments);
-    Shell shell(service, path);
+    Shell shell(service, path, desktop);
     QVERIFY(shell.isThere());
-    m_workspace.openMissionControl();
+    QVERIFY(WindowOverview::open());
     // It was not waited for.
     QCOMPARE(shell.calls, QStringList());
     QTRY_COMPARE(shell.calls, QStringList{call});
     QCOMPARE(shell.lastArguments, arguments);
+}
+
+void WindowOverviewTest::shortcutsWithoutTheirWindowManagerAreNoOverview()
+{
+    const Shell shell("org.kde.kglobalaccel", "/component/kwin", {});
+    QVERIFY(shell.isThere());
+    QVERIFY(!WindowOverview::open());
 }
 
 void WindowOverviewTest::aServiceThatDoesNotRunIsNotStarted()
@@ -104,7 +116,7 @@ void WindowOverviewTest::aServiceThatDoesNotRunIsNotStarted()
     // The bus of this session could start it.
     const QString started = m_session.dataFolder() + "/started";
     QVERIFY(QFile::exists(m_session.dataFolder() + "/dbus-1/services/org.gnome.Shell.service"));
-    m_workspace.openMissionControl();
+    QVERIFY(!WindowOverview::open());
     // An answer from the bus comes after it has dealt with what was sent before.
     auto ask = QDBusMessage::createMethodCall("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "ListNames");
     QVERIFY(QDBusConnection::sessionBus().call(ask).type() == QDBusMessage::ReplyMessage);
@@ -119,7 +131,7 @@ void WindowOverviewTest::withoutABusNothingHappens()
 {
     const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-    m_workspace.openMissionControl();
+    QVERIFY(!WindowOverview::open());
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
 }
 

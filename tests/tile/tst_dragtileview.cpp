@@ -1,8 +1,10 @@
+#include "AnimationClock.h"
 #include "DragTilePanel.h"
 #include "DragTileView.h"
 #include "FakePlatform.h"
 #include "Glyph.h"
 #include "IconImage.h"
+#include "Motion.h"
 #include "OnDesktop.h"
 #include "TestProgram.h"
 
@@ -64,6 +66,7 @@ private slots:
     void theGroundIsARoundedCard();
     void theTextsFitWithAWiderFace();
     void theArrowBobsBySixPointsWhileTheTileIsShown();
+    void oneWayTakesTheArrowSevenTenthsOfASecond();
     void withLessMotionTheArrowStandsStill();
     void itIsOneElementNamedByItsTexts();
 
@@ -72,6 +75,7 @@ private slots:
     void thePointerHitsTheTileItselfEverywhere();
     void theCursorIsAnOpenHand();
     void aDragCarriesTheApplicationAsAFile();
+    void aDragOffersACopyAndNothingElse();
     void theDraggedPictureIsTheIconWhereItStood_data();
     void theDraggedPictureIsTheIconWhereItStood();
     void aDragBeginsWithTheFirstMove();
@@ -228,6 +232,27 @@ void DragTileViewTest::theArrowBobsBySixPointsWhileTheTileIsShown()
     QTRY_VERIFY(arrow->y() < 28);
 }
 
+void DragTileViewTest::oneWayTakesTheArrowSevenTenthsOfASecond()
+{
+    m_platform->look.setReduceMotion(false);
+    AnimationClock clock;
+    const auto *arrow = content().findChild<Glyph *>();
+    show();
+    // From where it turns at the top.
+    for (qreal before = 100; arrow->y() < before; clock.advance(1))
+        before = arrow->y();
+    const QEasingCurve curve = Motion::easeInOut();
+    int now = 1;
+    for (const int time : {175, 350, 525, 700, 875, 1050, 1225, 1400}) {
+        clock.advance(time - now);
+        now = time;
+        const qreal share = time <= 700 ? time / 700.0 : (1400 - time) / 700.0;
+        const qreal drop = 6 * curve.valueForProgress(share) - 3;
+        QVERIFY2(std::abs(arrow->y() - (30 + drop)) < 0.06,
+                 qPrintable(QStringLiteral("%1 ms: %2 instead of %3").arg(time).arg(arrow->y() - 30).arg(drop)));
+    }
+}
+
 void DragTileViewTest::withLessMotionTheArrowStandsStill()
 {
     show();
@@ -305,6 +330,23 @@ void DragTileViewTest::aDragCarriesTheApplicationAsAFile()
     const std::unique_ptr<QDrag> drag(view().makeDrag({20, 20}));
     QCOMPARE(drag->mimeData()->urls(), QList<QUrl>{product});
     QCOMPARE(drag->mimeData()->formats(), QStringList{"text/uri-list"});
+}
+
+void DragTileViewTest::aDragOffersACopyAndNothingElse()
+{
+    show();
+    Qt::DropActions offered;
+    Qt::DropAction usual = Qt::IgnoreAction;
+    QTest::mousePress(m_panel.get(), Qt::LeftButton, Qt::NoModifier, {150, 38});
+    QTimer::singleShot(0, this, [&] {
+        const auto *drag = view().findChild<QDrag *>();
+        offered = drag->supportedActions();
+        usual = drag->defaultAction();
+        QDrag::cancel();
+    });
+    QTest::mouseMove(m_panel.get(), {150, 30});
+    QCOMPARE(offered, Qt::DropActions(Qt::CopyAction));
+    QCOMPARE(usual, Qt::CopyAction);
 }
 
 void DragTileViewTest::theDraggedPictureIsTheIconWhereItStood_data()

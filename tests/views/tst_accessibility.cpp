@@ -30,8 +30,14 @@ using Interface = QAccessibleInterface *;
 /// The state changes that were announced, most recent last.
 QList<QPair<QObject *, QAccessible::State>> announced;
 
+/// The notifications that came up, by name.
+QStringList readOut;
+
 void record(QAccessibleEvent *event)
 {
+    const QAccessibleInterface *about = event->accessibleInterface();
+    if (event->type() == QAccessible::ObjectShow && about && about->role() == QAccessible::Notification)
+        readOut.append(about->text(QAccessible::Name));
     if (event->type() == QAccessible::StateChanged)
         announced.append({event->object(), static_cast<QAccessibleStateChangeEvent *>(event)->changedStates()});
 }
@@ -52,6 +58,7 @@ private slots:
     {
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         announced.clear();
+        readOut.clear();
     }
     void cleanup()
     {
@@ -219,6 +226,20 @@ private slots:
         announced.clear();
         item(button)->setEnabled(true);
         QVERIFY(wasAnnounced(item(button)));
+    }
+
+    void aLiveTextIsReadOutWhenItChanges()
+    {
+        show(QStringLiteral("EBStageScreen { app: 'corvane'; title: 'Title'; text: 'Before'; isLive: true }"));
+        QAccessible::installUpdateHandler(record);
+        QQuickItem *screen = m_window->contentItem()->childItems().constFirst();
+        screen->setProperty("text", "After");
+        QCOMPARE(readOut, QStringList("After"));
+        screen->setProperty("text", "After");
+        QCOMPARE(readOut, QStringList("After"));
+        screen->setProperty("isLive", false);
+        screen->setProperty("text", "Silent");
+        QCOMPARE(readOut, QStringList("After"));
     }
 
     void theFocusIsOnTheControl()
@@ -398,6 +419,7 @@ private:
         QQmlComponent component(&m_engine);
         component.setData("import QtQuick\nimport QtQuick.Templates as T\nimport Embera.Tokens\n"
                           "import Embera.Glyphs\nimport Embera.Controls\nimport Embera.Rows\n"
+                          "import Embera.Screens\n"
                               + qml.toUtf8(),
                           {});
         auto *root = qobject_cast<QQuickItem *>(component.create());

@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Controls
 import Embera.Rows
 import Embera.Screens
 
@@ -15,7 +16,9 @@ Rectangle {
     property alias counter: count.text
     property alias title: heading.text
     property alias text: paragraph.text
-    /// The stage. Content that is to fill it takes `room` as its height.
+    /// A change of the text is read out: it answers what the person has just done.
+    property bool isLive: false
+    /// The stage. What is to fill the room there is takes `room` as its height.
     default property alias content: stage.data
     /// The buttons, directly below the stage.
     property alias actions: buttons.data
@@ -82,8 +85,10 @@ Rectangle {
             color: EB.inkMuted
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap
-            Accessible.role: Accessible.StaticText
+            Accessible.role: screen.isLive ? Accessible.Notification : Accessible.StaticText
             Accessible.name: text
+            Accessible.onNameChanged: if (screen.isLive)
+                Announcer.announce(paragraph)
         }
         Item {
             width: parent.width

@@ -105,6 +105,14 @@ int EBWindow::targetHeight() const
     return m_resize.state() == QAbstractAnimation::Running ? m_resize.endValue().toInt() : height();
 }
 
+void EBWindow::setShortcutsEnabled(bool enabled)
+{
+    if (enabled == m_shortcutsEnabled)
+        return;
+    m_shortcutsEnabled = enabled;
+    emit shortcutsEnabledChanged();
+}
+
 void EBWindow::fixSize()
 {
     setMinimumSize(size());

@@ -12,6 +12,7 @@ class EBWindow : public QQuickWindow {
     QML_ELEMENT
     QML_UNCREATABLE("A window is made in C++, where its owner is")
     Q_PROPERTY(bool miniaturizeButtonEnabled READ miniaturizeButtonEnabled CONSTANT)
+    Q_PROPERTY(bool shortcutsEnabled READ shortcutsEnabled NOTIFY shortcutsEnabledChanged)
 public:
     struct Style {
         bool miniaturizeButtonEnabled = false;
@@ -38,8 +39,15 @@ public:
 
     bool miniaturizeButtonEnabled() const { return m_style.miniaturizeButtonEnabled; }
 
+    /// Whether the window's own shortcuts, Ctrl+W and Ctrl+Q, close it and quit. True unless set.
+    bool shortcutsEnabled() const { return m_shortcutsEnabled; }
+    void setShortcutsEnabled(bool enabled);
+
     /// Shows the window in front of the others with the keyboard focus.
     void makeKeyAndOrderFront();
+
+signals:
+    void shortcutsEnabledChanged();
 
 private:
     void addChrome(QQmlEngine *engine);
@@ -47,5 +55,6 @@ private:
     void fixSize();
 
     Style m_style;
+    bool m_shortcutsEnabled = true;
     QVariantAnimation m_resize;
 };

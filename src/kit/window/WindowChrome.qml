@@ -13,10 +13,12 @@ Item {
 
     Shortcut {
         sequences: ["Ctrl+W"]
+        enabled: chrome.window.shortcutsEnabled
         onActivated: chrome.window.close()
     }
     Shortcut {
         sequences: ["Ctrl+Q"]
+        enabled: chrome.window.shortcutsEnabled
         onActivated: Qt.quit()
     }
     Row {

@@ -6,24 +6,20 @@
 #include <QFile>
 #include <QStandardPaths>
 
-namespace {
-
-QString autostartFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/autostart");
-}
-
-}
-
 AutostartLoginItem::AutostartLoginItem(const Program &program, bool needsApproval)
     : m_program(program),
-      m_path(autostartFolder() + u'/' + program.identifier + QStringLiteral(".desktop")),
+      m_path(folder() + u'/' + program.identifier + QStringLiteral(".desktop")),
       m_needsApproval(needsApproval)
 {
-    QDir().mkpath(autostartFolder());
+    QDir().mkpath(folder());
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &AutostartLoginItem::watch);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &AutostartLoginItem::watch);
     watch();
+}
+
+QString AutostartLoginItem::folder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/autostart");
 }
 
 LoginItem::State AutostartLoginItem::state() const
@@ -40,7 +36,7 @@ void AutostartLoginItem::setRegistered(bool registered)
     if (!registered) {
         QFile::remove(m_path);
     } else if (state() == State::NotRegistered) {
-        QDir().mkpath(autostartFolder());
+        QDir().mkpath(folder());
         DesktopEntry::write(m_path, m_program.name, m_program.executable, m_needsApproval);
     }
     watch();
@@ -49,7 +45,7 @@ void AutostartLoginItem::setRegistered(bool registered)
 void AutostartLoginItem::watch()
 {
     // A file that was replaced drops out of the watcher, so both are named again each time.
-    m_watcher.addPath(autostartFolder());
+    m_watcher.addPath(folder());
     if (QFile::exists(m_path))
         m_watcher.addPath(m_path);
     emit changed();

@@ -14,6 +14,9 @@ public:
     /// With `needsApproval` a new registration waits for approval.
     AutostartLoginItem(const Program &program, bool needsApproval);
 
+    /// The person's folder of programs started at login, which may be missing.
+    static QString folder();
+
     State state() const override;
     void setRegistered(bool registered) override;
 

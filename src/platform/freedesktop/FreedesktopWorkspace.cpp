@@ -1,9 +1,11 @@
 #include "FreedesktopWorkspace.h"
 
+#include "AutostartLoginItem.h"
 #include "DesktopEntry.h"
 #include "GenericIcon.h"
 #include "WindowOverview.h"
 #include "X11Panel.h"
+#include "X11ShowDesktop.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -128,11 +130,16 @@ void FreedesktopWorkspace::openLoginItemsSettings()
         if (openAutostartPage(desktop))
             return;
     }
+    // Where there is no such page, the folder itself can be looked at and tidied.
+    const QString folder = AutostartLoginItem::folder();
+    QDir().mkpath(folder);
+    open(QUrl::fromLocalFile(folder));
 }
 
 void FreedesktopWorkspace::openMissionControl()
 {
-    WindowOverview::open();
+    if (!WindowOverview::open())
+        X11ShowDesktop::request();
 }
 
 void FreedesktopWorkspace::floatOnAllSpaces(QWindow &window)

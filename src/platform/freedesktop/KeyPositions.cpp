@@ -9,7 +9,7 @@
 
 namespace {
 
-/// One key of a keyboard.
+/// The key of a letter.
 struct Position {
     std::int64_t keyCode;
 
@@ -21,18 +21,25 @@ struct Position {
 };
 
 constexpr std::array positions = {
-    Position{KeyCodes::escape, KEY_ESC, Qt::Key_Escape},
-    Position{KeyCodes::f, KEY_F, Qt::Key_F},
-    Position{KeyCodes::h, KEY_H, Qt::Key_H},
-    Position{KeyCodes::m, KEY_M, Qt::Key_M},
-    Position{KeyCodes::q, KEY_Q, Qt::Key_Q},
+    Position{KeyCodes::f, KEY_F, Qt::Key_F}, Position{KeyCodes::h, KEY_H, Qt::Key_H},
+    Position{KeyCodes::m, KEY_M, Qt::Key_M}, Position{KeyCodes::q, KEY_Q, Qt::Key_Q},
     Position{KeyCodes::w, KEY_W, Qt::Key_W},
 };
+
+/// Escape, Return, Tab and the like. A dead key is on its way to a character.
+bool typesNoCharacter(int key)
+{
+    const bool isDead = key >= Qt::Key_Dead_Grave && key <= Qt::Key_Dead_Longsolidusoverlay;
+    return key >= Qt::Key_Escape && key != Qt::Key_unknown && !isDead;
+}
 
 }
 
 std::int64_t KeyPositions::keyCode(const QKeyEvent &event)
 {
+    // People move these about: Escape is the key that they made Escape, wherever it lies.
+    if (typesNoCharacter(event.key()))
+        return event.key() == Qt::Key_Escape ? KeyCodes::escape : KeyCodes::none;
     // X11 and Wayland both count from eight.
     constexpr quint32 offset = 8;
     const quint32 scanCode = event.nativeScanCode();

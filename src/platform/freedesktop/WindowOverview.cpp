@@ -7,6 +7,9 @@
 
 namespace {
 
+/// How long the bus may take to say who is there, in milliseconds. It needs none of the desktops for that.
+constexpr int patience = 1000;
+
 /// A desktop that shows its overview while a property is true; the property's interface is the service's name.
 struct Switch {
     const char *service;
@@ -28,7 +31,9 @@ QDBusMessage switchedOn(const Switch &overview)
     return call;
 }
 
-/// The window manager opens it when its shortcut is invoked.
+/// The shortcuts of KWin belong to a service that other desktops may run, too.
+constexpr const char *kwin = "org.kde.KWin";
+
 QDBusMessage shortcutInvoked()
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
@@ -38,19 +43,32 @@ QDBusMessage shortcutInvoked()
     return call;
 }
 
+QStringList runningServices(QDBusConnection &bus)
+{
+    const QDBusMessage question =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
+    return bus.call(question, QDBus::Block, patience).arguments().value(0).toStringList();
 }
 
-void WindowOverview::open()
+}
+
+bool WindowOverview::open()
 {
-    const auto bus = SessionBus::connection();
+    auto bus = SessionBus::connection();
     if (!bus)
-        return;
-    QList<QDBusMessage> calls = {shortcutInvoked()};
-    for (const Switch &overview : switches)
-        calls.append(switchedOn(overview));
-    // Only the desktop that is running receives its call.
+        return false;
+    const QStringList running = runningServices(*bus);
+    QList<QDBusMessage> calls;
+    for (const Switch &overview : switches) {
+        if (running.contains(QLatin1String(overview.service)))
+            calls.append(switchedOn(overview));
+    }
+    if (running.contains(QLatin1String(kwin)))
+        calls.append(shortcutInvoked());
     for (QDBusMessage &call : calls) {
         call.setAutoStartService(false);
         bus->send(call);
     }
+    return !calls.isEmpty();
 }

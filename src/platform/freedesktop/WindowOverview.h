@@ -3,7 +3,7 @@
 /// The overview of all windows that some desktops have.
 namespace WindowOverview {
 
-/// Asks the desktop whose service already runs on the session bus to show it, and does not wait for an answer.
-void open();
+/// Asks the desktop that runs to show it, and does not wait until it does. False where no desktop runs that has one.
+bool open();
 
 }
