@@ -156,7 +156,7 @@ void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
     const QStringList titles = {"Classic", "Soft", "Graphite", "Mono", "No color"};
     for (int place = 0; place < 5; ++place) {
         QVERIFY(strip(place));
-        QCOMPARE(strip(place)->radius(), 10.0);
+        QCOMPARE(strip(place)->property("radius").toReal(), 10.0);
         const QRectF ground = m_view->rectOf(strip(place));
         QCOMPARE(ground.width(), tile(place)->width());
         QCOMPARE(ground.height(), 34.0);
