@@ -39,7 +39,7 @@ QList<xcb_atom_t> X11Names::atoms(xcb_get_property_cookie_t request)
     xcb_ewmh_get_atoms_reply_t reply;
     if (!xcb_ewmh_get_atoms_reply(&ewmh, request, &reply, nullptr))
         return {};
-    const QList<xcb_atom_t> atoms(reply.atoms, reply.atoms + reply.atoms_len);
+    QList<xcb_atom_t> atoms(reply.atoms, reply.atoms + reply.atoms_len);
     xcb_ewmh_get_atoms_reply_wipe(&reply);
     return atoms;
 }

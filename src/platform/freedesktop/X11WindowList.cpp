@@ -176,7 +176,7 @@ std::optional<QList<xcb_window_t>> windows(X11Names &names, xcb_get_property_coo
     xcb_ewmh_get_windows_reply_t reply;
     if (!xcb_ewmh_get_windows_reply(&names.ewmh, request, &reply, nullptr))
         return std::nullopt;
-    const QList<xcb_window_t> windows(reply.windows, reply.windows + reply.windows_len);
+    QList<xcb_window_t> windows(reply.windows, reply.windows + reply.windows_len);
     xcb_ewmh_get_windows_reply_wipe(&reply);
     return windows;
 }
