@@ -45,7 +45,7 @@ private slots:
     void theAgentIsNotToldBeforeTheStoreIsWritten();
 
     void aPendingApprovalShowsTheLoginItemsRow();
-    void theLoginItemsButtonStoresAndPostsNothing();
+    void theLoginItemsButtonOpensTheFolderAndPostsNothing();
 
     void aGrantedPermissionReplacesTheButtonByTheStatus();
     void openSettingsAsksTheAgentForThePermission_data();
@@ -276,12 +276,24 @@ void TestGeneralPage::aPendingApprovalShowsTheLoginItemsRow()
     QTRY_COMPARE(window()->geometry().height(), height);
 }
 
-void TestGeneralPage::theLoginItemsButtonStoresAndPostsNothing()
+void TestGeneralPage::theLoginItemsButtonOpensTheFolderAndPostsNothing()
 {
+    // This desktop has no page for login items, so the folder is handed to whatever opens folders here.
+    const QTemporaryDir programs;
+    QFile opener(programs.filePath(u"xdg-open"_s));
+    QVERIFY(opener.open(QFile::WriteOnly));
+    opener.write("#!/bin/sh\necho \"$1\" > \"$(dirname \"$0\")/opened\"\n");
+    opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    opener.close();
     store().write(needsApproval, true);
-    QVERIFY(open());
+    QVERIFY(open({.environment = {{u"PATH"_s, programs.path() + u':' + qEnvironmentVariable("PATH")}}}));
     FIND(open, ATSPI_ROLE_PUSH_BUTTON, "Open");
     QVERIFY(open.doAction(u"Press"_s));
+    const auto opened = [&] {
+        QFile file(programs.filePath(u"opened"_s));
+        return file.open(QFile::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+    };
+    QTRY_VERIFY(opened().endsWith("/autostart"));
     settle();
     QCOMPARE(commands().heard().size(), 0);
     QCOMPARE(store().readAll(), (QVariantMap{{needsApproval, true}}));

@@ -44,7 +44,6 @@ void WorkspaceTest::whatTheDesktopDoesNotHaveDoesNotHappen()
 {
     QWindow window;
     platform().workspace().open(QUrl());
-    platform().workspace().openLoginItemsSettings();
     platform().workspace().openMissionControl();
     platform().workspace().floatOnAllSpaces(window);
     QVERIFY(!window.isVisible());
