@@ -58,9 +58,8 @@ public:
             return {};
         QStringList names = actions->actionNames();
         names.removeDuplicates();
-        // The first action is the one that a screen reader carries out unasked.
-        if (names.removeAll(setFocusAction()) > 0 && takesFocus())
-            names.append(setFocusAction());
+        if (!takesFocus())
+            names.removeAll(setFocusAction());
         const QList<AccessibleAction *> own = ownActions();
         for (const AccessibleAction *action : own)
             names.append(action->name());
