@@ -81,6 +81,7 @@ Item {
     }
     Item {
         id: body
+        objectName: "body"
 
         width: parent.width
         height: parent.height

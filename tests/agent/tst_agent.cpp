@@ -11,7 +11,6 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QRegularExpression>
 #include <QSaveFile>
 
 #include <filesystem>
@@ -29,7 +28,7 @@ void post(const QVariantMap &userInfo)
 {
     QDBusMessage signal = QDBusMessage::createSignal("/com/vexmoor/corvane", "com.vexmoor.corvane", "command");
     signal << userInfo;
-    QVERIFY(QDBusConnection::sessionBus().send(signal));
+    REQUIRE(QDBusConnection::sessionBus().send(signal));
 }
 
 void post(const QString &command)
@@ -108,7 +107,6 @@ private:
 
 void AgentTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     for (const QString &key : {enabledKey, waitingKey, trustedKey})
         m_store.setValue(key, QVariant());
     QDir(m_autostart).removeRecursively();
@@ -124,23 +122,23 @@ void AgentTest::cleanup()
 void AgentTest::start(const QStringList &arguments, const QString &executable)
 {
     m_agent = std::make_unique<Program>(executable, QProcessEnvironment::systemEnvironment());
-    QVERIFY(m_agent->start(QStringList{"--headless"} + arguments));
+    REQUIRE(m_agent->start(QStringList{"--headless"} + arguments));
     const auto hasReported = [this] {
         return m_store.value(enabledKey).isValid() && m_store.value(waitingKey).isValid();
     };
     QVERIFY2(QTest::qWaitFor([&] { return hasReported() || !m_agent->isRunning(); }, startTime) && hasReported(),
              qPrintable(m_agent->standardError().join(u'\n')));
     // It began to listen before it reported; the bus knows once the same connection has answered.
-    QVERIFY(answers());
+    REQUIRE(answers());
 }
 
 void AgentTest::writeEntry(const QByteArray &content) const
 {
-    QVERIFY(QDir().mkpath(m_autostart));
+    REQUIRE(QDir().mkpath(m_autostart));
     QSaveFile file(entryPath());
-    QVERIFY(file.open(QFile::WriteOnly));
+    REQUIRE(file.open(QFile::WriteOnly));
     file.write(content);
-    QVERIFY(file.commit());
+    REQUIRE(file.commit());
 }
 
 bool AgentTest::reports(bool enabled, bool waiting) const
@@ -152,7 +150,7 @@ void AgentTest::finish()
 {
     const auto lines = m_agent->standardOutput().size();
     post("applySettings");
-    QTRY_VERIFY(m_agent->standardOutput().size() > lines && m_agent->standardOutput().constLast().contains("apply"));
+    REQUIRE_SOON(m_agent->standardOutput().size() > lines && m_agent->standardOutput().constLast().contains("apply"));
 }
 
 void AgentTest::aCommandIsPrintedAsOneLineOfJson_data()

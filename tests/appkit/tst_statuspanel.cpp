@@ -4,10 +4,9 @@
 #include "EBKitStatusPanel.h"
 #include "EBStatusPanel.h"
 #include "FakePlatform.h"
-#include "TestProgram.h"
 #include "PanelWindow.h"
 #include "Picture.h"
-#include "Warnings.h"
+#include "TestProgram.h"
 
 #include <QMenu>
 #include <QPushButton>
@@ -59,7 +58,6 @@ private slots:
     void initTestCase() { QGuiApplication::setQuitOnLastWindowClosed(false); }
     void init()
     {
-        failOnWarnings();
         m_host.resize(400, 300);
         m_host.move(100, 0);
         m_button.setGeometry(150, 0, 60, 24);

@@ -7,8 +7,6 @@
 #include "Picture.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 const QColor ground(0, 0, 200);
@@ -20,8 +18,6 @@ class TestStillViews : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aSeparatorIsALineOfOnePoint()
     {
         EBKitSeparator separator;

@@ -10,13 +10,12 @@
 #include "EBKitSeparator.h"
 #include "EBKitStatusPanel.h"
 #include "FakePlatform.h"
-#include "Picture.h"
 #include "OnDesktop.h"
+#include "Picture.h"
 
 #include <QAccessible>
 #include <QDBusConnectionInterface>
 #include <QProcess>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -43,7 +42,6 @@ private slots:
     void initTestCase() { QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 20000); }
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         announced.clear();
         m_presses = 0;
         const auto press = [this] { ++m_presses; };

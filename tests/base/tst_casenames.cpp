@@ -11,8 +11,6 @@
 #include "TestProgram.h"
 #include "Theme.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 enum class Plain { first, second, third };
@@ -41,8 +39,6 @@ const QString glyphs = QStringLiteral(
 class CaseNamesTest : public QObject {
     Q_OBJECT
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void theCasesComeInTheOrderOfTheirDeclaration();
     void aCaseIsCalledAsItIsWritten();
     void aCaseIsFoundByItsName();

@@ -2,7 +2,6 @@
 #include "FakePlatform.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <map>
@@ -75,7 +74,6 @@ static const QList<State> allNormal(6, State::normal);
 
 void TestDemoModel::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_model.reset();
     m_platform = &FakePlatform::install();
     m_model = std::make_unique<DemoModel>();

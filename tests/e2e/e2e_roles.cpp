@@ -32,8 +32,6 @@ private slots:
     void onboardingGoesBeforeAbout();
     void argumentsOfTheToolkitAreIgnored_data();
     void argumentsOfTheToolkitAreIgnored();
-    void theTabVariableOpensThatPage_data();
-    void theTabVariableOpensThatPage();
 };
 
 void TestRoles::aboutOpensOnlyTheAboutWindow()
@@ -73,8 +71,6 @@ void TestRoles::theAgentsKeyDecidesAboutUpdates_data()
     QTest::addColumn<int>("length");
     QTest::addColumn<bool>("offered");
     QTest::newRow("44 characters") << 44 << true;
-    QTest::newRow("43 characters") << 43 << false;
-    QTest::newRow("45 characters") << 45 << false;
     QTest::newRow("no agent's dictionary") << 0 << false;
 }
 
@@ -214,29 +210,6 @@ void TestRoles::argumentsOfTheToolkitAreIgnored()
     QCOMPARE(window()->geometry().width(), 620);
     FIND(entry, ATSPI_ROLE_LIST_ITEM, "General");
     QCOMPARE(entry.extents().left(), window()->geometry().left() + 8 + 10);
-}
-
-void TestRoles::theTabVariableOpensThatPage_data()
-{
-    QTest::addColumn<QString>("tab");
-    QTest::addColumn<QString>("kicker");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("buttons") << u"buttons"_s << u"Settings · 02"_s << u"Buttons"_s;
-    QTest::newRow("shortcuts") << u"shortcuts"_s << u"Settings · 03"_s << u"Shortcuts"_s;
-    QTest::newRow("layouts") << u"layouts"_s << u"Settings · 04"_s << u"Layouts"_s;
-}
-
-void TestRoles::theTabVariableOpensThatPage()
-{
-    QFETCH(QString, tab);
-    QFETCH(QString, kicker);
-    QFETCH(QString, title);
-    QVERIFY(open({.environment = {{u"CV_TAB"_s, tab}}}));
-    QVERIFY(shows(kicker));
-    QVERIFY(find(ATSPI_ROLE_HEADING, title));
-    const Accessible entry = find(ATSPI_ROLE_LIST_ITEM, title);
-    QVERIFY(entry);
-    QVERIFY(entry.has(ATSPI_STATE_SELECTED));
 }
 
 CORVANE_TEST(TestRoles, runInCore)

@@ -3,129 +3,153 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A setting that is on or off.
+struct Switch {
+    QString name;
+    QString key;
+    bool initial;
+    /// What is stored while the switch is on.
+    bool onValue;
+};
+
+/// One of several values of a setting, which is not its default.
+struct Choice {
+    QString name;
+    QString key;
+    QVariant value;
+    AtspiRole role = ATSPI_ROLE_RADIO_BUTTON;
+};
+
+struct Page {
+    QList<Switch> switches;
+    QList<Choice> choices;
+    /// The keys of which the agent is told.
+    QStringList told;
+};
+
+const QMap<QString, Page> pages = {
+    {u"buttons"_s,
+     {{{u"Minimize button"_s, u"showMinimizeButton"_s, false, true},
+       {u"Full screen button"_s, u"showMaximizeButton"_s, false, true}},
+      {{u"Soft look"_s, u"buttonTheme"_s, u"soft"_s, ATSPI_ROLE_PUSH_BUTTON},
+       {u"Graphite look"_s, u"buttonTheme"_s, u"graphite"_s, ATSPI_ROLE_PUSH_BUTTON},
+       {u"Mono look"_s, u"buttonTheme"_s, u"mono"_s, ATSPI_ROLE_PUSH_BUTTON},
+       {u"No color look"_s, u"buttonTheme"_s, u"outline"_s, ATSPI_ROLE_PUSH_BUTTON},
+       {u"Small"_s, u"buttonSizeOption"_s, u"small"_s},
+       {u"Large"_s, u"buttonSizeOption"_s, u"large"_s},
+       {u"Fill Screen"_s, u"maximizeMode"_s, u"fill"_s}},
+      {u"showMinimizeButton"_s, u"showMaximizeButton"_s, u"buttonTheme"_s, u"buttonSizeOption"_s}}},
+    {u"shortcuts"_s,
+     {{{u"Close window"_s, u"hotkey.close.disabled"_s, true, false},
+       {u"Close all windows of the app"_s, u"hotkey.closeAll.disabled"_s, true, false},
+       {u"Minimize window"_s, u"hotkey.minimize.disabled"_s, true, false},
+       {u"Full screen / maximize window"_s, u"hotkey.maximize.disabled"_s, true, false},
+       {u"Hide app"_s, u"hotkey.hide.disabled"_s, true, false},
+       {u"Hide other apps"_s, u"hotkey.hideOthers.disabled"_s, true, false},
+       {u"Force-quit app"_s, u"hotkey.kill.disabled"_s, true, false}},
+      {},
+      {}}},
+    {u"layouts"_s,
+     {{{u"Layouts shelf"_s, u"layouts.shelf"_s, true, true},
+       {u"Open apps that aren't running"_s, u"layouts.launchApps"_s, true, true},
+       {u"Snap and arrange windows"_s, u"layouts.enabled"_s, true, true}},
+      {{u"Large"_s, u"layouts.gap"_s, 12.0}},
+      {}}},
+};
+
+}
+
 /// Every setting of the Buttons, Shortcuts and Layouts pages in the running program, both ways: the store's value
 /// shows, and acting on the control stores it, with as many commands as the setting asks for.
 class TestSettings : public EndToEndTest {
     Q_OBJECT
 
 private slots:
-    void aSwitchShowsAndStores_data();
-    void aSwitchShowsAndStores();
-    void aChoiceShowsAndStores_data();
-    void aChoiceShowsAndStores();
+    void aPagesSettingsShowAndAreStored_data();
+    void aPagesSettingsShowAndAreStored();
     void renamingAndDeletingRewriteTheSavedLayouts();
     void rowsThatDependOnSnappingAreDisabled();
 
 private:
     bool openPage(const QString &page) { return open({.environment = {{u"CV_TAB"_s, page}}}); }
+    void aSwitchShowsAndStores(const Switch &setting, int told);
+    void aChoiceShowsAndStores(const Choice &choice, int told);
+    /// The key has that value, no other has changed, and as many commands were posted meanwhile.
+    void expect(const QString &key, const QVariant &value, int told);
+
+    QVariantMap m_stored;
+    qsizetype m_heard = 0;
 };
 
-void TestSettings::aSwitchShowsAndStores_data()
+void TestSettings::aPagesSettingsShowAndAreStored_data()
 {
     QTest::addColumn<QString>("page");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("initial");
-    /// What is stored while the switch is on.
-    QTest::addColumn<bool>("onValue");
-    QTest::addColumn<int>("told");
-    const auto row = [](const char *page, const char *name, const char *key, bool initial, bool onValue, int told) {
-        QTest::newRow(name) << QString::fromLatin1(page) << QString::fromLatin1(name) << QString::fromLatin1(key)
-                            << initial << onValue << told;
-    };
-    row("buttons", "Minimize button", "showMinimizeButton", false, true, 1);
-    row("buttons", "Full screen button", "showMaximizeButton", false, true, 1);
-    row("shortcuts", "Close window", "hotkey.close.disabled", true, false, 0);
-    row("shortcuts", "Close all windows of the app", "hotkey.closeAll.disabled", true, false, 0);
-    row("shortcuts", "Minimize window", "hotkey.minimize.disabled", true, false, 0);
-    row("shortcuts", "Full screen / maximize window", "hotkey.maximize.disabled", true, false, 0);
-    row("shortcuts", "Hide app", "hotkey.hide.disabled", true, false, 0);
-    row("shortcuts", "Hide other apps", "hotkey.hideOthers.disabled", true, false, 0);
-    row("shortcuts", "Force-quit app", "hotkey.kill.disabled", true, false, 0);
-    row("layouts", "Layouts shelf", "layouts.shelf", true, true, 0);
-    row("layouts", "Open apps that aren't running", "layouts.launchApps", true, true, 0);
-    row("layouts", "Snap and arrange windows", "layouts.enabled", true, true, 0);
+    for (const QString &page : pages.keys())
+        QTest::newRow(qPrintable(page)) << page;
 }
 
-void TestSettings::aSwitchShowsAndStores()
+void TestSettings::aPagesSettingsShowAndAreStored()
 {
     QFETCH(QString, page);
-    QFETCH(QString, name);
-    QFETCH(QString, key);
-    QFETCH(bool, initial);
-    QFETCH(bool, onValue);
-    QFETCH(int, told);
+    m_stored.clear();
+    m_heard = 0;
     QVERIFY(openPage(page));
-    const Accessible control = find(ATSPI_ROLE_CHECK_BOX, name);
-    QVERIFY(control);
-    QCOMPARE(control.has(ATSPI_STATE_CHECKED), initial);
+    const Accessible entry = find(ATSPI_ROLE_LIST_ITEM, page.first(1).toUpper() + page.sliced(1));
+    QVERIFY(entry);
+    QVERIFY(entry.has(ATSPI_STATE_SELECTED));
+    for (const Switch &setting : pages[page].switches) {
+        qInfo("%s", qPrintable(setting.name));
+        aSwitchShowsAndStores(setting, pages[page].told.contains(setting.key));
+    }
+    for (const Choice &choice : pages[page].choices) {
+        qInfo("%s", qPrintable(choice.name));
+        aChoiceShowsAndStores(choice, pages[page].told.contains(choice.key));
+    }
+}
 
-    QVERIFY(control.doAction(u"Toggle"_s));
-    QVERIFY(becomes(control, ATSPI_STATE_CHECKED, !initial));
+void TestSettings::expect(const QString &key, const QVariant &value, int told)
+{
     settle();
-    const bool stored = initial ? !onValue : onValue;
-    const QVariantMap expected = {{key, stored}};
-    QCOMPARE(store().readAll(), expected);
-    QCOMPARE(commands().heard().size(), told);
+    m_stored.insert(key, value);
+    m_heard += told;
+    REQUIRE(store().readAll() == m_stored);
+    REQUIRE(commands().heard().size() == m_heard);
+}
 
-    store().write(key, !stored);
-    QVERIFY(becomes(control, ATSPI_STATE_CHECKED, initial));
-    settle();
+void TestSettings::aSwitchShowsAndStores(const Switch &setting, int told)
+{
+    const Accessible control = find(ATSPI_ROLE_CHECK_BOX, setting.name);
+    REQUIRE(control);
+    REQUIRE(control.has(ATSPI_STATE_CHECKED) == setting.initial);
+
+    REQUIRE(control.doAction(u"Toggle"_s));
+    REQUIRE(becomes(control, ATSPI_STATE_CHECKED, !setting.initial));
+    expect(setting.key, setting.initial ? !setting.onValue : setting.onValue, told);
+
+    store().write(setting.key, setting.initial ? setting.onValue : !setting.onValue);
+    REQUIRE(becomes(control, ATSPI_STATE_CHECKED, setting.initial));
     // A change is announced whoever made it.
-    QCOMPARE(commands().heard().size(), 2 * told);
+    expect(setting.key, setting.initial ? setting.onValue : !setting.onValue, told);
 }
 
-void TestSettings::aChoiceShowsAndStores_data()
+void TestSettings::aChoiceShowsAndStores(const Choice &choice, int told)
 {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("told");
-    const auto row = [](const char *page, const char *name, const char *key, const QVariant &value, int told,
-                        AtspiRole role = ATSPI_ROLE_RADIO_BUTTON) {
-        QTest::newRow(name) << QString::fromLatin1(page) << int(role) << QString::fromLatin1(name)
-                            << QString::fromLatin1(key) << value << told;
-    };
-    row("buttons", "Soft look", "buttonTheme", u"soft"_s, 1, ATSPI_ROLE_PUSH_BUTTON);
-    row("buttons", "Graphite look", "buttonTheme", u"graphite"_s, 1, ATSPI_ROLE_PUSH_BUTTON);
-    row("buttons", "Mono look", "buttonTheme", u"mono"_s, 1, ATSPI_ROLE_PUSH_BUTTON);
-    row("buttons", "No color look", "buttonTheme", u"outline"_s, 1, ATSPI_ROLE_PUSH_BUTTON);
-    row("buttons", "Small", "buttonSizeOption", u"small"_s, 1);
-    row("buttons", "Large", "buttonSizeOption", u"large"_s, 1);
-    row("buttons", "Fill Screen", "maximizeMode", u"fill"_s, 0);
-    row("layouts", "Large", "layouts.gap", 12.0, 0);
-}
+    const AtspiStateType chosen = choice.role == ATSPI_ROLE_RADIO_BUTTON ? ATSPI_STATE_CHECKED : ATSPI_STATE_SELECTED;
+    const Accessible control = find(choice.role, choice.name);
+    REQUIRE(control);
+    REQUIRE(!control.has(chosen));
 
-void TestSettings::aChoiceShowsAndStores()
-{
-    QFETCH(QString, page);
-    QFETCH(int, role);
-    QFETCH(QString, name);
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    QFETCH(int, told);
-    const AtspiStateType chosen = role == ATSPI_ROLE_RADIO_BUTTON ? ATSPI_STATE_CHECKED : ATSPI_STATE_SELECTED;
-    QVERIFY(openPage(page));
-    const Accessible control = find(AtspiRole(role), name);
-    QVERIFY(control);
-    QVERIFY(!control.has(chosen));
-
-    QVERIFY(control.doAction(u"Press"_s));
-    QVERIFY(becomes(control, chosen));
-    settle();
-    const QVariantMap expected = {{key, value}};
-    QCOMPARE(store().readAll(), expected);
-    QCOMPARE(commands().heard().size(), told);
+    REQUIRE(control.doAction(u"Press"_s));
+    REQUIRE(becomes(control, chosen));
+    expect(choice.key, choice.value, told);
 
     // An unknown value shows the default, and stays.
-    const QVariant unknown = value.typeId() == QMetaType::QString ? QVariant(u"neon"_s) : QVariant(7.0);
-    store().write(key, unknown);
-    QVERIFY(becomes(control, chosen, false));
-    settle();
-    QCOMPARE(store().readAll().value(key), unknown);
-    QCOMPARE(commands().heard().size(), 2 * told);
+    const QVariant unknown = choice.value.typeId() == QMetaType::QString ? QVariant(u"neon"_s) : QVariant(7.0);
+    store().write(choice.key, unknown);
+    REQUIRE(becomes(control, chosen, false));
+    expect(choice.key, unknown, told);
 }
 
 void TestSettings::renamingAndDeletingRewriteTheSavedLayouts()

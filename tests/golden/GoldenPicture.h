@@ -14,10 +14,6 @@ inline constexpr int tolerance = 24;
 /// The largest share of pixels that may differ at all.
 inline constexpr double share = 0.001;
 
-/// The picture with at most 256 colours, which makes its file a third as large. The most frequent colours stay as they
-/// are, the others move to one of those by at most `sameness`; a picture too colourful for that is returned as it is.
-QImage withFewColors(const QImage &picture);
-
 struct Comparison {
     bool isMatch = false;
     /// In words, for whoever reads the log.

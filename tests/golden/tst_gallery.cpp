@@ -40,8 +40,6 @@ class TestGallery : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void itListsItsScenesOneALine();
     void itHelps();
     void itDrawsASceneWithoutADisplay();

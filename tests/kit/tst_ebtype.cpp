@@ -1,6 +1,6 @@
-#include "EBKitFonts.h"
 #include "EBType.h"
 #include "FakePlatform.h"
+#include "Fonts.h"
 #include "TestProgram.h"
 
 #include <QFontDatabase>
@@ -8,7 +8,6 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QRawFont>
-#include <QRegularExpression>
 
 #include <memory>
 
@@ -38,7 +37,6 @@ class TestEBType : public QObject {
 
 private slots:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void cleanup() { QGuiApplication::setFont(m_desktopFont); }
 
     void everyRoleHasItsFontAndTracking_data();
@@ -63,9 +61,7 @@ private:
 
 void TestEBType::initTestCase()
 {
-    FakePlatform &platform = FakePlatform::install();
-    for (const QString &face : {instrumentSans, geistMono})
-        platform.main.resources.insert(face + QStringLiteral(".ttf"), fileOf(face));
+    addFaces(FakePlatform::install().main);
     EBKitFonts::registerFonts();
     m_desktopFont = QGuiApplication::font();
 }

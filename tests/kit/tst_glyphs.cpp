@@ -56,7 +56,7 @@ QPainterPath drawn(const QString &steps, Corners corners)
             else
                 path.addRoundedRect(rect, n.at(4), n.at(4));
         } else {
-            qFatal("No such step");
+            throw TestFailure{"no such step"};
         }
     }
     return path;

@@ -3,7 +3,6 @@
 #include "TestProgram.h"
 
 #include <QDateTime>
-#include <QRegularExpression>
 
 #include <cmath>
 #include <limits>
@@ -66,8 +65,6 @@ class LayoutDecoderTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void everyFieldIsRead();
     void theOrderOfKeysAndWhiteSpaceDoNotMatter();
     void theOrderOfLayoutsAndWindowsIsKept();

@@ -2,8 +2,6 @@
 #include "Sample.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 #include <cmath>
 #include <limits>
 
@@ -41,8 +39,6 @@ class LayoutEncoderTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void anEmptyListIsTwoBrackets();
     void theTextIsCompactWithSortedKeys();
     void severalLayoutsAndWindowsAreParted();

@@ -2,7 +2,6 @@
 #include "TestProgram.h"
 
 #include <QRandomGenerator>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -128,8 +127,6 @@ class LayoutRoundTripTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void whatIsEncodedDecodesToTheSame_data() { seeds(); }
     void whatIsEncodedDecodesToTheSame();
     void theEncodedFormIsAFixedPoint_data() { seeds(); }

@@ -5,7 +5,6 @@
 #include "TestProgram.h"
 
 #include <QProcess>
-#include <QRegularExpression>
 
 namespace {
 
@@ -25,8 +24,6 @@ public:
     explicit LayoutsInDconfTest(PrivateSession &) { }
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void whatOneProcessStoresAnotherLoads_data();
     void whatOneProcessStoresAnotherLoads();
     void anAgentThatAddsMeanwhileNeverLeavesAnInvalidList();

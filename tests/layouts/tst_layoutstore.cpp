@@ -3,8 +3,6 @@
 #include "Sample.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 #include <functional>
 
 namespace {
@@ -79,8 +77,6 @@ class LayoutStoreTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void anAbsentValueIsAnEmptyListAndNothingIsWritten();
     void anotherTypeIsAnEmptyListAndNothingIsWritten_data();
     void anotherTypeIsAnEmptyListAndNothingIsWritten();

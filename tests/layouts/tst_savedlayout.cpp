@@ -1,16 +1,12 @@
 #include "Sample.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 #include <array>
 
 class SavedLayoutTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aRectComparesAndHashesByAllFourFields_data();
     void aRectComparesAndHashesByAllFourFields();
     void aWindowComparesByAllFiveFields();

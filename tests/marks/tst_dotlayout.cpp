@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTextStream>
 
 #include <cmath>
@@ -101,8 +100,6 @@ class TestDotLayout : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
-
     void theGeneratorDrawsThePublishedNumbers_data();
     void theGeneratorDrawsThePublishedNumbers();
     void aDrawIsAFractionOfOne();
@@ -506,8 +503,7 @@ static int run(int argc, char **argv)
     QCoreApplication application(argc, argv);
     if (argc == 4 && qstrcmp(argv[1], "--layout") == 0)
         return int(DotLayout::layout({atof(argv[2]), 100}, atof(argv[3]), 1, 0.7, 50, 2, {}).size());
-    TestDotLayout test;
-    return QTest::qExec(&test, argc, argv);
+    return runTest<TestDotLayout>(argc, argv);
 }
 
 CORVANE_TEST_MAIN(run)

@@ -2,9 +2,9 @@
 #include "DotField.h"
 #include "EBEnvironment.h"
 #include "EBKit.h"
-#include "EBKitFonts.h"
 #include "EBType.h"
 #include "FakePlatform.h"
+#include "Fonts.h"
 #include "MarkGeometry.h"
 #include "TestProgram.h"
 
@@ -15,7 +15,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QRegularExpression>
 
 #include <memory>
 
@@ -33,19 +32,18 @@ public:
         component.setData("import QtQuick\nimport Embera.Tokens\nimport Embera.Marks\n" + source, {});
         m_item.reset(qobject_cast<QQuickItem *>(component.create()));
         if (!m_item)
-            qFatal("%s", qPrintable(component.errorString()));
+            throw TestFailure{component.errorString().toUtf8()};
         m_window.setColor(Qt::white);
         m_window.resize(room);
         m_item->setParentItem(m_window.contentItem());
         m_window.show();
-        if (!QTest::qWaitForWindowExposed(&m_window))
-            qFatal("the window does not come up");
+        REQUIRE(QTest::qWaitForWindowExposed(&m_window));
     }
 
     QQuickItem &item() { return *m_item; }
     QImage picture() { return m_window.grabWindow(); }
     QAccessibleInterface *accessible() { return QAccessible::queryAccessibleInterface(m_item.get()); }
-    void set(const char *property, const QVariant &value) { QVERIFY(m_item->setProperty(property, value)); }
+    void set(const char *property, const QVariant &value) { REQUIRE(m_item->setProperty(property, value)); }
 
 private:
     QQmlEngine m_engine;
@@ -160,7 +158,6 @@ class TestMarkViews : public QObject {
 
 private slots:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void cleanup() { m_platform->look.setName(AppearanceName::Aqua); }
 
     void aMarkIsFilledInItsColorInsideItsSize();
@@ -205,10 +202,7 @@ void TestMarkViews::initTestCase()
     m_platform = &FakePlatform::install();
     if (qEnvironmentVariableIsSet("CORVANE_WITHOUT_FACES"))
         return;
-    for (const QString &face : {EBKitFonts::display, EBKitFonts::mono}) {
-        const QString file = face + QStringLiteral(".ttf");
-        m_platform->main.resources.insert(file, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + file));
-    }
+    addFaces(m_platform->main);
     EBKitFonts::registerFonts();
 }
 

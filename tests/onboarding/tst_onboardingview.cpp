@@ -1,19 +1,35 @@
-#include "Accessibility.h"
-#include "AnimationClock.h"
-#include "FakePlatform.h"
 #include "Motion.h"
-#include "NamedItems.h"
 #include "OnboardingFlow.h"
-#include "Shared.h"
 #include "TestProgram.h"
-#include "ViewEngine.h"
-#include "Views.h"
-
-#include <QQuickWindow>
-#include <QRegularExpression>
-#include <QSignalSpy>
+#include "ViewWindow.h"
 
 #include <memory>
+
+namespace {
+
+/// The screens of a run of the guide. There is no window before it begins.
+class GuideView : public ViewWindow {
+public:
+    GuideView() { platform.look.setReduceMotion(true); }
+    ~GuideView() { discard(); }
+
+    void begin(OnboardingStep step, OnboardingFlow::Run run)
+    {
+        flow = std::make_unique<OnboardingFlow>(run, [this] { ++finished; });
+        flow->go(step);
+        auto *view = ViewEngine::make(engine, "qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml",
+                                      {{"flow", QVariant::fromValue(flow.get())}});
+        put(view, {560, 388});
+        view->setSize({560, 388});
+        bringUp();
+    }
+
+    std::unique_ptr<OnboardingFlow> flow;
+    /// How many times the guide has ended.
+    int finished = 0;
+};
+
+}
 
 /// The five screens of the onboarding, in a window without a display.
 class TestOnboardingView : public QObject {
@@ -21,7 +37,7 @@ class TestOnboardingView : public QObject {
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { m_guide.reset(); }
 
     void theViewHasItsSize();
     void theWelcomeSaysWhatTheProductDoes();
@@ -58,23 +74,17 @@ private slots:
 
 private:
     void make(OnboardingStep step, OnboardingFlow::Run run = OnboardingFlow::Run::first);
-    bool shows(const QString &name) { return !NamedItems::all(m_window->contentItem(), name).isEmpty(); }
-    QQuickItem *control(const QString &name, QAccessible::Role role = QAccessible::Button)
+    bool shows(const QString &name) { return m_guide->isShown(name); }
+    FoundItem control(const QString &name, QAccessible::Role role = QAccessible::Button)
     {
-        return NamedItems::first(m_window->contentItem(), name, role);
+        return m_guide->item(name, role);
     }
-    void click(QQuickItem *item);
+    void click(QQuickItem *item) { m_guide->click(item); }
     QAccessible::State stateOf(const QString &name, QAccessible::Role role = QAccessible::Button)
     {
-        return QAccessible::queryAccessibleInterface(control(name, role))->state();
+        return m_guide->state(name, role);
     }
-
-    /// The accessible name of what has the keyboard focus.
-    QString focused() const
-    {
-        auto *focus = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
-        return focus ? focus->text(QAccessible::Name) : QString();
-    }
+    QString focused() const { return m_guide->focused(); }
 
     /// Goes to that control by the Tab key, and presses it.
     void pressByKeyboard(const QString &name, Qt::Key key);
@@ -92,67 +102,34 @@ private:
         return !text->property("text").toString().isEmpty() && text->property("font").value<QFont>().pixelSize() < 60;
     }
 
+    std::unique_ptr<GuideView> m_guide;
     FakePlatform *m_platform = nullptr;
     FakeUserDefaults *m_store = nullptr;
-    std::unique_ptr<ViewEngine> m_engine;
-    std::unique_ptr<OnboardingFlow> m_flow;
-    std::unique_ptr<QQuickWindow> m_window;
-    QQuickItem *m_view = nullptr;
-    int m_finished = 0;
+    OnboardingFlow *m_flow = nullptr;
+    QQuickWindow *m_window = nullptr;
 };
 
 void TestOnboardingView::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
-    m_platform = &FakePlatform::install();
-    m_platform->look.setReduceMotion(true);
-    m_store = &m_platform->suite(Shared::suiteName);
-    m_engine = std::make_unique<ViewEngine>();
-    m_finished = 0;
-    QAccessible::setActive(true);
-    installKitAccessibility();
-}
-
-void TestOnboardingView::cleanup()
-{
-    m_window.reset();
-    m_flow.reset();
-    m_engine.reset();
+    m_guide = std::make_unique<GuideView>();
+    m_platform = &m_guide->platform;
+    m_store = &m_guide->store;
 }
 
 void TestOnboardingView::make(OnboardingStep step, OnboardingFlow::Run run)
 {
-    m_flow = std::make_unique<OnboardingFlow>(run, [this] { ++m_finished; });
-    m_flow->go(step);
-    m_window = std::make_unique<QQuickWindow>();
-    m_window->resize(560, 388);
-    m_view = ViewEngine::make(*m_engine, "qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml",
-                              {{"flow", QVariant::fromValue(m_flow.get())}});
-    m_view->setParent(m_window->contentItem());
-    m_view->setParentItem(m_window->contentItem());
-    m_view->setSize(m_window->size());
-    m_window->show();
-    m_window->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestOnboardingView::click(QQuickItem *item)
-{
-    QVERIFY(item);
-    QSignalSpy frames(m_window.get(), &QQuickWindow::frameSwapped);
-    m_window->update();
-    QTRY_VERIFY(!frames.isEmpty());
-    const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
+    m_guide->begin(step, run);
+    m_flow = m_guide->flow.get();
+    m_window = &m_guide->window();
 }
 
 void TestOnboardingView::pressByKeyboard(const QString &name, Qt::Key key)
 {
     for (int tabs = 0; tabs < 12 && focused() != name; ++tabs)
-        QTest::keyClick(m_window.get(), Qt::Key_Tab);
-    QCOMPARE(focused(), name);
-    QVERIFY(m_window->activeFocusItem()->property("visualFocus").toBool());
-    QTest::keyClick(m_window.get(), key);
+        QTest::keyClick(m_window, Qt::Key_Tab);
+    REQUIRE(focused() == name);
+    REQUIRE(m_window->activeFocusItem()->property("visualFocus").toBool());
+    QTest::keyClick(m_window, key);
 }
 
 QStringList TestOnboardingView::commands() const
@@ -166,7 +143,7 @@ QStringList TestOnboardingView::commands() const
 QStringList TestOnboardingView::screens() const
 {
     QStringList steps;
-    for (const QQuickItem *holder : m_view->childItems()) {
+    for (const QQuickItem *holder : m_guide->typed("StepHolder")) {
         if (holder->property("item").value<QQuickItem *>())
             steps.append(holder->property("step").toString());
     }
@@ -175,7 +152,7 @@ QStringList TestOnboardingView::screens() const
 
 qreal TestOnboardingView::opacityOf(const QString &step) const
 {
-    for (const QQuickItem *holder : m_view->childItems()) {
+    for (const QQuickItem *holder : m_guide->typed("StepHolder")) {
         if (holder->property("step").toString() == step)
             return holder->opacity();
     }
@@ -185,8 +162,8 @@ qreal TestOnboardingView::opacityOf(const QString &step) const
 void TestOnboardingView::theViewHasItsSize()
 {
     make(OnboardingStep::welcome);
-    QCOMPARE(m_view->implicitWidth(), 560);
-    QCOMPARE(m_view->implicitHeight(), 388);
+    QCOMPARE(m_guide->root().implicitWidth(), 560);
+    QCOMPARE(m_guide->root().implicitHeight(), 388);
 }
 
 void TestOnboardingView::theWelcomeSaysWhatTheProductDoes()
@@ -204,7 +181,7 @@ void TestOnboardingView::theWelcomeSaysWhatTheProductDoes()
 void TestOnboardingView::returnBeginsTheGuide()
 {
     make(OnboardingStep::welcome);
-    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QTest::keyClick(m_window, Qt::Key_Return);
     QCOMPARE(step(), "tryIt");
 }
 
@@ -212,7 +189,7 @@ void TestOnboardingView::skipSetupEndsIt()
 {
     make(OnboardingStep::welcome);
     click(control("Skip setup"));
-    QCOMPARE(m_finished, 1);
+    QCOMPARE(m_guide->finished, 1);
     QCOMPARE(commands(), QStringList());
     QVERIFY(m_store->values.isEmpty());
 }
@@ -226,7 +203,6 @@ void TestOnboardingView::theTryItStepHasThePracticeTheChipsAndNoWayBack()
     QVERIFY(shows("Browser window, Docs"));
     QVERIFY(!control("Back"));
     const QQuickItem *reset = control("Reset windows");
-    QVERIFY(reset);
     QCOMPARE(reset->size(), QSizeF(24, 24));
     click(control("Continue"));
     QCOMPARE(step(), "access");
@@ -248,9 +224,8 @@ void TestOnboardingView::leavingThePracticeLeavesItsWindowAndItsKeys()
     DemoModel &demo = *m_flow->demo();
     for (const int times : {1, 2}) {
         QTRY_COMPARE(opacityOf("tryIt"), 1);
-        const QQuickItem *sketches = control("Ideas window, Sketches", QAccessible::Grouping);
-        QVERIFY(sketches);
-        QTest::mouseMove(m_window.get(), sketches->mapToScene({60, 40}).toPoint());
+        QQuickItem *sketches = control("Ideas window, Sketches", QAccessible::Grouping);
+        m_guide->point(sketches, {60, 40});
         QTRY_COMPARE(demo.hovered(), std::optional(1));
         QCOMPARE(m_platform->keyMonitorCount(), 1);
         demo.pulse(Hotkey::close);
@@ -264,7 +239,7 @@ void TestOnboardingView::leavingThePracticeLeavesItsWindowAndItsKeys()
         // Once while it fades and once when it is gone.
         if (times == 2)
             QTRY_COMPARE(screens(), QStringList{"access"});
-        QTest::mouseMove(m_window.get(), {550, 380});
+        QTest::mouseMove(m_window, {550, 380});
         m_flow->back();
         QCOMPARE(screens().count("tryIt"), 1);
         QCOMPARE(m_platform->keyMonitorCount(), 1);
@@ -416,7 +391,7 @@ void TestOnboardingView::theLastStepFollowsTheWishToStartAtLogin()
     click(control(secondary));
     QCOMPARE(commands(), (QStringList{"setLaunchAtLogin", "applySettings"}));
     QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(false));
-    QCOMPARE(m_finished, 1);
+    QCOMPARE(m_guide->finished, 1);
     QCOMPARE(m_platform->space.missionControlOpened, 0);
 }
 
@@ -432,17 +407,17 @@ void TestOnboardingView::theLastStepEndsTheFlow()
     QFETCH(bool, launch);
     m_store->setValue("agent.launchAtLogin", launch);
     make(OnboardingStep::done, OnboardingFlow::Run::replay);
-    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QTest::keyClick(m_window, Qt::Key_Return);
     QCOMPARE(commands(), (QStringList{"setLaunchAtLogin", "applySettings"}));
     QCOMPARE(m_platform->notifications.posts.first().userInfo.value("value"), QVariant(launch));
     QCOMPARE(m_platform->space.missionControlOpened, 1);
-    QCOMPARE(m_finished, 1);
+    QCOMPARE(m_guide->finished, 1);
 }
 
 void TestOnboardingView::everyStepCanBeLeftByTheKeyboardAlone()
 {
     make(OnboardingStep::welcome);
-    QTest::keyClick(m_window.get(), Qt::Key_Enter);
+    QTest::keyClick(m_window, Qt::Key_Enter);
     QCOMPARE(step(), "tryIt");
     pressByKeyboard("Continue", Qt::Key_Space);
     QCOMPARE(step(), "access");
@@ -456,7 +431,7 @@ void TestOnboardingView::everyStepCanBeLeftByTheKeyboardAlone()
     pressByKeyboard("Don't start at login", Qt::Key_Return);
     QCOMPARE(commands(), (QStringList{"applySettings", "setLaunchAtLogin", "applySettings"}));
     QCOMPARE(m_platform->space.missionControlOpened, 0);
-    QCOMPARE(m_finished, 1);
+    QCOMPARE(m_guide->finished, 1);
 }
 
 void TestOnboardingView::aStepBeginsWithTheFocusOnItsHeading_data()
@@ -478,10 +453,10 @@ void TestOnboardingView::aStepBeginsWithTheFocusOnItsHeading()
     make(OnboardingStep::welcome);
     m_flow->go(step);
     QTEST(focused(), "heading");
-    QTest::keyClick(m_window.get(), Qt::Key_Return);
-    QTest::keyClick(m_window.get(), Qt::Key_Space);
+    QTest::keyClick(m_window, Qt::Key_Return);
+    QTest::keyClick(m_window, Qt::Key_Space);
     QCOMPARE(m_flow->step(), step);
-    QTest::keyClick(m_window.get(), Qt::Key_Tab);
+    QTest::keyClick(m_window, Qt::Key_Tab);
     QTEST(focused(), "first");
 }
 
@@ -491,9 +466,9 @@ void TestOnboardingView::returnWorksWhileTheLastScreenFadesIn()
     make(OnboardingStep::customize);
     pressByKeyboard("Keep the Defaults", Qt::Key_Return);
     QCOMPARE(screens(), (QStringList{"customize", "done"}));
-    QTest::keyClick(m_window.get(), Qt::Key_Return);
+    QTest::keyClick(m_window, Qt::Key_Return);
     QCOMPARE(commands(), (QStringList{"applySettings", "setLaunchAtLogin", "applySettings"}));
-    QCOMPARE(m_finished, 1);
+    QCOMPARE(m_guide->finished, 1);
 }
 
 void TestOnboardingView::valuesOfAnotherTypeCountAsAbsent_data()
@@ -564,7 +539,7 @@ void TestOnboardingView::nothingIsCutInAWideFace()
     const QRectF frame(0, 0, 560, 388);
     QList<QRectF> texts;
     QList<QRectF> controls;
-    for (const QQuickItem *item : Views::visible(m_view)) {
+    for (QQuickItem *item : m_guide->visibleItems()) {
         const QRectF place = item->mapRectToScene(item->boundingRect());
         if (item->inherits("QQuickText") && isReadable(item)) {
             const QString text = item->property("text").toString();
@@ -573,7 +548,7 @@ void TestOnboardingView::nothingIsCutInAWideFace()
             QVERIFY2(frame.contains(place), qPrintable(text));
             texts.append(place);
         }
-        const auto *accessible = QAccessible::queryAccessibleInterface(const_cast<QQuickItem *>(item));
+        const auto *accessible = QAccessible::queryAccessibleInterface(item);
         if (!accessible || accessible->role() != QAccessible::Button)
             continue;
         // With the ring that shows the focus.

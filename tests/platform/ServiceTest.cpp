@@ -18,7 +18,6 @@ void ServiceTest::initTestCase_data()
 
 void ServiceTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QFETCH_GLOBAL(Make, make);
     m_implementation = make(m_desktop);
 }

@@ -13,8 +13,6 @@ public:
 
 private slots:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aDatabaseOfGarbageReadsAsEmptyAndTakesValues();
 
 private:

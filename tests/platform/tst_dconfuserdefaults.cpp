@@ -72,7 +72,6 @@ public:
     explicit DconfUserDefaultsTest(PrivateSession &) { }
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void cleanup() { dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/")}); }
 
     void aValueIsStoredWithItsTypeBeforeTheCallReturns_data();

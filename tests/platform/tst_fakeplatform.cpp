@@ -26,7 +26,6 @@ private:
 
 void FakePlatformTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     m_fake = &FakePlatform::install();
     QCOMPARE(&Platform::current(), m_fake);
 }

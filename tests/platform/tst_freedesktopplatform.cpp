@@ -14,8 +14,6 @@ public:
 private slots:
     void initTestCase() { Platform::install(makeFreedesktopPlatform()); }
     void cleanupTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void aSuiteThatCannotBeOpenedIsNull();
     void aProgramOutsideABundleHasStandardDefaultsUnderItsName();
     void theMainBundleIsTheFolderOfTheExecutable();

@@ -16,8 +16,6 @@ public:
     explicit LostBusTest(PrivateSession &session) : m_session(session) { }
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void theApplicationOutlivesItsBus();
 
 private:

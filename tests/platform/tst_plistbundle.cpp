@@ -82,17 +82,16 @@ private:
 
 void PlistBundleTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     m_folder.emplace();
 }
 
 void PlistBundleTest::write(const QString &path, const QByteArray &content) const
 {
     const QString fileName = m_folder->filePath(path);
-    QVERIFY(QDir().mkpath(QFileInfo(fileName).path()));
+    REQUIRE(QDir().mkpath(QFileInfo(fileName).path()));
     QFile file(fileName);
-    QVERIFY(file.open(QFile::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    REQUIRE(file.open(QFile::WriteOnly));
+    REQUIRE(file.write(content) == content.size());
 }
 
 PlistBundle PlistBundleTest::bundle(const QByteArray &info) const

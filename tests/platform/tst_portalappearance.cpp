@@ -77,7 +77,6 @@ private:
 
 void PortalAppearanceTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QGuiApplication::setPalette(QPalette(Qt::white));
 }
 
@@ -295,8 +294,7 @@ static int run(int argc, char **argv)
     if (!session.start({portal}))
         return 1;
     const QGuiApplication application(argc, argv);
-    PortalAppearanceTest test(session);
-    return QTest::qExec(&test, argc, argv);
+    return runTest<PortalAppearanceTest>(argc, argv, session);
 }
 
 CORVANE_TEST_MAIN(run)

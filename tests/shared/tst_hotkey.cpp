@@ -2,8 +2,6 @@
 #include "Shared.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 #include <limits>
 
 namespace {
@@ -22,8 +20,6 @@ class TestHotkey : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
-
     void everyRawValueNamesItsCase_data();
     void everyRawValueNamesItsCase();
 

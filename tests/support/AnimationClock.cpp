@@ -1,7 +1,8 @@
 #include "AnimationClock.h"
 
+#include "Require.h"
+
 #include <QCoreApplication>
-#include <QTest>
 
 void AnimationClock::start()
 {
@@ -13,7 +14,7 @@ void AnimationClock::advance(int milliseconds)
 {
     // What has just been started joins in a few events later.
     QCoreApplication::processEvents();
-    QTRY_VERIFY(isRunning());
+    REQUIRE_SOON(isRunning());
     m_elapsed += milliseconds;
     advanceAnimation();
 }

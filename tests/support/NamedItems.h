@@ -1,15 +1,17 @@
 #pragma once
 
+#include "FoundItem.h"
+
 #include <QAccessible>
-#include <QQuickItem>
+#include <QMetaEnum>
 
 /// Looks for what a person can see and an assistive technology calls by a name.
 namespace NamedItems {
 
 /// The visible items of that accessible name in `item`, itself included, in the order of the tree.
-inline QList<QQuickItem *> all(QQuickItem *item, const QString &name)
+inline FoundItems<QQuickItem> all(QQuickItem *item, const QString &name)
 {
-    QList<QQuickItem *> found;
+    FoundItems<QQuickItem> found;
     if (!item->isVisible())
         return found;
     const auto *accessible = QAccessible::queryAccessibleInterface(item);
@@ -20,14 +22,16 @@ inline QList<QQuickItem *> all(QQuickItem *item, const QString &name)
     return found;
 }
 
-/// The first of them in that role; null when there is none.
-inline QQuickItem *first(QQuickItem *item, const QString &name, QAccessible::Role role)
+/// The first of them in that role.
+inline FoundItem first(QQuickItem *item, const QString &name, QAccessible::Role role)
 {
+    QQuickItem *found = nullptr;
     for (QQuickItem *candidate : all(item, name)) {
-        if (QAccessible::queryAccessibleInterface(candidate)->role() == role)
-            return candidate;
+        if (!found && QAccessible::queryAccessibleInterface(candidate)->role() == role)
+            found = candidate;
     }
-    return nullptr;
+    const char *roleName = QMetaEnum::fromType<QAccessible::Role>().valueToKey(role);
+    return {found, QStringLiteral("%1 \"%2\"").arg(QLatin1String(roleName), name)};
 }
 
 }

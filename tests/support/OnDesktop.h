@@ -16,8 +16,7 @@ template <typename Test> int runOnDesktop(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("QT_SCALE_FACTOR", qEnvironmentVariable("CORVANE_TEST_SCALE", "1").toLatin1());
     const QGuiApplication application(argc, argv);
-    Test test(desktop);
-    return QTest::qExec(&test, argc, argv);
+    return runTest<Test>(argc, argv, desktop);
 }
 
 /// Runs a test without windows of its own, which is told of the desktop on which it starts programs.
@@ -27,8 +26,7 @@ template <typename Test> int runBesideDesktop(int argc, char **argv)
     if (!desktop.isValid())
         return 1;
     const QCoreApplication application(argc, argv);
-    Test test(desktop);
-    return QTest::qExec(&test, argc, argv);
+    return runTest<Test>(argc, argv, desktop);
 }
 
 /// Runs a test whose own windows stand on a virtual display with assistive technologies.

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "TestProgram.h"
+
 #include <QGuiApplication>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
@@ -40,6 +41,5 @@ template <typename Test> int runInPrivateSession(int argc, char **argv)
     if (!session.start())
         return 1;
     const QGuiApplication application(argc, argv);
-    Test test(session);
-    return QTest::qExec(&test, argc, argv);
+    return runTest<Test>(argc, argv, session);
 }

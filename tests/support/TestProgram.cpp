@@ -1,11 +1,14 @@
 #include "TestProgram.h"
 
 #include <QQuickWindow>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -36,6 +39,23 @@ int listCases(const char *program)
 TestCase::TestCase(const char *file, Main main)
 {
     cases().emplace(stem(file), main);
+}
+
+void failOnWarnings()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
+}
+
+const QMetaObject *withoutShortcuts(const QMetaObject *meta)
+{
+    if (meta == &QObject::staticMetaObject)
+        return meta;
+    static std::vector<std::unique_ptr<QMetaObject>> copies;
+    auto copy = std::make_unique<QMetaObject>(*meta);
+    copy->d.static_metacall = nullptr;
+    copy->d.superdata = withoutShortcuts(meta->superClass());
+    copies.push_back(std::move(copy));
+    return copies.back().get();
 }
 
 int main(int argc, char **argv)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Require.h"
+
 #include <QApplication>
 #include <QTest>
 
@@ -21,11 +23,46 @@ public:
 /// The same with a function of the file's own.
 #define CORVANE_TEST_MAIN(function) static const TestCase testCase(__FILE__, &(function));
 
+/// Every warning fails the test function that runs, but those in which the platform without a screen names what it
+/// cannot do. Holds until the end of that function.
+void failOnWarnings();
+
+/// The same class without the short way to its functions: they are all called through qt_metacall().
+const QMetaObject *withoutShortcuts(const QMetaObject *meta);
+
+/// A test class as Qt Test is shown it: each of its functions fails on warnings, and on a TestFailure that it throws.
+template <typename Test> class WatchedTest final : public Test {
+public:
+    using Test::Test;
+
+    const QMetaObject *metaObject() const override
+    {
+        static const QMetaObject *meta = withoutShortcuts(&Test::staticMetaObject);
+        return meta;
+    }
+    int qt_metacall(QMetaObject::Call call, int function, void **arguments) override
+    {
+        failOnWarnings();
+        try {
+            return Test::qt_metacall(call, function, arguments);
+        } catch (const TestFailure &failure) {
+            QTest::qFail(failure.message, failure.file, failure.line);
+            return -1;
+        }
+    }
+};
+
+/// Runs a test class that is made of `given`.
+template <typename Test, typename... Given> int runTest(int argc, char **argv, Given &&...given)
+{
+    WatchedTest<Test> test(std::forward<Given>(given)...);
+    return QTest::qExec(&test, argc, argv);
+}
+
 /// Without an application object.
 template <typename Test> int runBare(int argc, char **argv)
 {
-    Test test;
-    return QTest::qExec(&test, argc, argv);
+    return runTest<Test>(argc, argv);
 }
 
 template <typename Test, typename Application> int runWith(int argc, char **argv)

@@ -34,15 +34,14 @@ void Views::bringUp(QQuickWindow &window)
 {
     window.show();
     window.requestActivate();
-    if (!QTest::qWaitForWindowActive(&window))
-        qFatal("the window does not come up");
+    REQUIRE(QTest::qWaitForWindowActive(&window));
     window.grabWindow();
 }
 
 void Views::mirror(QQuickWindow &window, const QQuickItem *item)
 {
     for (const char *property : {"LayoutMirroring.enabled", "LayoutMirroring.childrenInherit"})
-        QVERIFY(QQmlProperty::write(window.contentItem(), QString::fromLatin1(property), true, qmlContext(item)));
+        REQUIRE(QQmlProperty::write(window.contentItem(), QString::fromLatin1(property), true, qmlContext(item)));
 }
 
 QColor Views::pixel(QQuickWindow &window, const QQuickItem *item, QPointF at)
@@ -51,25 +50,26 @@ QColor Views::pixel(QQuickWindow &window, const QQuickItem *item, QPointF at)
     return window.grabWindow().pixelColor(int(std::floor(point.x())), int(std::floor(point.y())));
 }
 
-QList<QQuickItem *> Views::visible(QQuickItem *root)
+FoundItems<QQuickItem> Views::visible(QQuickItem *root)
 {
-    QList<QQuickItem *> found;
+    FoundItems<QQuickItem> found;
     collect(root, found);
     return found;
 }
 
-QList<QQuickItem *> Views::visible(QQuickItem *root, const char *type)
+FoundItems<QQuickItem> Views::visible(QQuickItem *root, const char *type)
 {
-    QList<QQuickItem *> found = visible(root);
+    FoundItems<QQuickItem> found = visible(root);
     found.removeIf([type](const QQuickItem *item) { return !isOfType(item, type); });
     return found;
 }
 
-QQuickItem *Views::text(QQuickItem *root, const QString &text)
+FoundItem Views::text(QQuickItem *root, const QString &text)
 {
+    QQuickItem *found = nullptr;
     for (QQuickItem *item : visible(root, "QQuickText")) {
-        if (item->property("text") == text)
-            return item;
+        if (!found && item->property("text") == text)
+            found = item;
     }
-    return nullptr;
+    return {found, QStringLiteral("text \"%1\"").arg(text)};
 }

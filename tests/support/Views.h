@@ -1,8 +1,8 @@
 #pragma once
 
+#include "FoundItem.h"
+
 #include <QColor>
-#include <QList>
-#include <QQuickItem>
 #include <QQuickWindow>
 
 /// What tests of views do with a window and look for in it.
@@ -18,18 +18,18 @@ void mirror(QQuickWindow &window, const QQuickItem *item);
 QColor pixel(QQuickWindow &window, const QQuickItem *item, QPointF at);
 
 /// The visible items in `root`, itself included, in drawing order within each parent.
-QList<QQuickItem *> visible(QQuickItem *root);
+FoundItems<QQuickItem> visible(QQuickItem *root);
 
 /// Those of a class, by its name in C++ or in QML.
-QList<QQuickItem *> visible(QQuickItem *root, const char *type);
+FoundItems<QQuickItem> visible(QQuickItem *root, const char *type);
 
-/// The visible text item that shows `text`; null when there is none.
-QQuickItem *text(QQuickItem *root, const QString &text);
+/// The visible text item that shows `text`.
+FoundItem text(QQuickItem *root, const QString &text);
 
 /// Those of a class of C++.
-template <typename Type> QList<Type *> all(QQuickItem *root)
+template <typename Type> FoundItems<Type> all(QQuickItem *root)
 {
-    QList<Type *> found;
+    FoundItems<Type> found;
     for (QQuickItem *item : visible(root)) {
         if (auto *match = qobject_cast<Type *>(item))
             found.append(match);

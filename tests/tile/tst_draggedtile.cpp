@@ -1,10 +1,10 @@
 #include "Accessible.h"
 #include "Desktop.h"
+#include "OnDesktop.h"
 #include "Pointer.h"
 #include "Program.h"
 #include "Screen.h"
 #include "Store.h"
-#include "OnDesktop.h"
 #include "TopLevel.h"
 #include "XReply.h"
 
@@ -12,7 +12,6 @@
 #include <QDBusMessage>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <filesystem>
@@ -75,7 +74,6 @@ private:
 
 void DraggedTileTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_store.removeAll();
 }
 
@@ -92,19 +90,19 @@ void DraggedTileTest::cleanup()
 void DraggedTileTest::openSystemSettings(const QStringList &flags)
 {
     m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), m_desktop.environment());
-    QVERIFY(m_agent->start(flags));
+    REQUIRE(m_agent->start(flags));
     // It receives commands once it has reported its state.
     QTRY_VERIFY_WITH_TIMEOUT(m_store.read("agent.launchAtLoginNeedsApproval").isValid(), startTime);
     QDBusMessage request = QDBusMessage::createSignal("/com/vexmoor/corvane", "com.vexmoor.corvane", "command");
     request << QVariantMap{{"command", "requestAccessibility"}};
-    QVERIFY(QDBusConnection::sessionBus().send(request));
+    REQUIRE(QDBusConnection::sessionBus().send(request));
     QTRY_VERIFY_WITH_TIMEOUT(settings(), startTime);
 }
 
 void DraggedTileTest::startHost(const QString &executable)
 {
     m_host = std::make_unique<Program>(executable, m_desktop.environment());
-    QVERIFY(m_host->start());
+    REQUIRE(m_host->start());
     QTRY_VERIFY_WITH_TIMEOUT(tile(), startTime);
 }
 
@@ -162,7 +160,7 @@ void DraggedTileTest::dragOntoTheList(QPoint grip)
     m_pointer.move(start);
     m_pointer.press();
     m_pointer.move(start + QPoint(2, -2));
-    QTRY_VERIFY(isDragging());
+    REQUIRE_SOON(isDragging());
     m_pointer.move(settings()->geometry().center());
 }
 

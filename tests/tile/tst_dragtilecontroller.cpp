@@ -7,7 +7,6 @@
 
 #include <QGuiApplication>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QSignalSpy>
 
@@ -81,7 +80,6 @@ void DragTileControllerTest::initTestCase()
 
 void DragTileControllerTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_platform = &FakePlatform::install();
     m_platform->main.url = inProduct;
     m_platform->look.setReduceMotion(true);

@@ -7,13 +7,13 @@
 #include "Motion.h"
 #include "OnDesktop.h"
 #include "TestProgram.h"
+#include "Views.h"
 
 #include <QAccessible>
 #include <QDrag>
 #include <QElapsedTimer>
 #include <QMimeData>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -86,8 +86,8 @@ private slots:
 
 private:
     DragTileView &view() const { return *m_panel->view(); }
-    QQuickItem &content() const { return *view().childItems().constFirst(); }
-    QQuickItem *text(const QString &text) const;
+    QQuickItem &content() const { return *Views::visible(&view(), "DragTileContent").constFirst(); }
+    FoundItem text(const QString &text) const { return Views::text(&content(), text); }
     QRectF frame(const QQuickItem *item) const;
     void show();
 
@@ -97,21 +97,10 @@ private:
 
 void DragTileViewTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_platform = &FakePlatform::install();
     m_platform->look.setReduceMotion(true);
     m_platform->space.fileIcons.insert("/opt/Corvane.app", square(256));
     m_panel = std::make_unique<DragTilePanel>(product);
-}
-
-QQuickItem *DragTileViewTest::text(const QString &text) const
-{
-    const auto items = content().findChildren<QQuickItem *>();
-    for (QQuickItem *item : items) {
-        if (item->property("text") == text)
-            return item;
-    }
-    return nullptr;
 }
 
 QRectF DragTileViewTest::frame(const QQuickItem *item) const
@@ -122,7 +111,7 @@ QRectF DragTileViewTest::frame(const QQuickItem *item) const
 void DragTileViewTest::show()
 {
     m_panel->orderFront();
-    QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
+    REQUIRE(QTest::qWaitForWindowExposed(m_panel.get()));
 }
 
 void DragTileViewTest::theTileHasItsSizeAndTheContentFillsIt()

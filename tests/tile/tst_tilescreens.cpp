@@ -4,7 +4,6 @@
 #include "TestProgram.h"
 
 #include <QGuiApplication>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QTemporaryFile>
 
@@ -47,7 +46,6 @@ void TileScreensTest::initTestCase()
 
 void TileScreensTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(".*"));
     m_platform = &FakePlatform::install();
     m_platform->look.setReduceMotion(true);
     m_tile = std::make_unique<DragTileController>();
@@ -109,8 +107,7 @@ static int run(int argc, char **argv)
     screens.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
     const QGuiApplication application(argc, argv);
-    TileScreensTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runTest<TileScreensTest>(argc, argv);
 }
 
 CORVANE_TEST_MAIN(run)

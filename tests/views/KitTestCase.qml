@@ -31,6 +31,23 @@ TestCase {
         mouseMove(testCase, width - 1, height - 1);
     }
 
+    /// Every item inside that `matches`, in drawing order.
+    function allIn(item, matches) {
+        let found = [];
+        for (const child of Array.from(item.children))
+            found = found.concat(matches(child) ? [child] : [], allIn(child, matches));
+        return found;
+    }
+    /// The text item inside that shows `text`; null when there is none.
+    function textIn(item, text) {
+        return allIn(item, child => child instanceof Text && child.text === text)[0] ?? null;
+    }
+    /// Lays everything out from right to left.
+    function mirror() {
+        testCase.LayoutMirroring.childrenInherit = true;
+        testCase.LayoutMirroring.enabled = true;
+    }
+
     /// `color` as it looks on an opaque `ground`, both faded by nothing or by `opacity`.
     function over(color, ground, opacity = 1) {
         const a = color.a * opacity;
@@ -38,6 +55,7 @@ TestCase {
                        color.b * a + ground.b * (1 - a), 1);
     }
 
+    /// Whether two colours differ by no more than rounding twice does: three steps of 255.
     function isNear(actual, expected, tolerance = 0.013) {
         return Math.abs(actual.r - expected.r) < tolerance && Math.abs(actual.g - expected.g) < tolerance
             && Math.abs(actual.b - expected.b) < tolerance;

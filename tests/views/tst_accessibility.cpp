@@ -9,7 +9,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <memory>
@@ -56,7 +55,6 @@ private slots:
     }
     void init()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
         announced.clear();
         readOut.clear();
     }
@@ -423,13 +421,14 @@ private:
                               + qml.toUtf8(),
                           {});
         auto *root = qobject_cast<QQuickItem *>(component.create());
-        QVERIFY2(root, qPrintable(component.errorString()));
+        if (!root)
+            throw TestFailure{component.errorString().toUtf8()};
         m_window = std::make_unique<QQuickWindow>();
         m_window->resize(400, 300);
         root->setParent(m_window.get());
         root->setParentItem(m_window->contentItem());
         m_window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        REQUIRE(QTest::qWaitForWindowExposed(m_window.get()));
     }
     Interface show(const QString &qml)
     {

@@ -133,8 +133,7 @@ static int run(int argc, char **argv)
     if (!desktop.isValid())
         return 1;
     const QCoreApplication application(argc, argv);
-    AccessibleActionsTest test(desktop);
-    return QTest::qExec(&test, argc, argv);
+    return runTest<AccessibleActionsTest>(argc, argv, desktop);
 }
 
 CORVANE_TEST_MAIN(run)

@@ -156,8 +156,7 @@ KitTestCase {
         const badge = over(EB.onInk, EB.ink, 0.18);
         comparePixel(button, button.width - 5 - 3, 20, badge);
         comparePixel(button, button.width - 3, 20, EB.ink);
-        testCase.LayoutMirroring.enabled = true;
-        testCase.LayoutMirroring.childrenInherit = true;
+        mirror();
         comparePixel(button, 5 + 3, 20, badge);
         comparePixel(button, 2, 20, EB.ink);
     }

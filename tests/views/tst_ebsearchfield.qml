@@ -29,17 +29,8 @@ KitTestCase {
         signalName: "movedDown"
     }
 
-    readonly property Item field: search.children[0]
-
-    function find(parent, text) {
-        for (let i = 0; i < parent.children.length; ++i) {
-            const child = parent.children[i];
-            if (child.text === text && child.hasOwnProperty("pressed"))
-                return child;
-        }
-        return null;
-    }
-    readonly property Item clearButton: find(search, "Clear search")
+    readonly property Item field: allIn(search, child => child instanceof TextInput)[0]
+    readonly property Item clearButton: allIn(search, child => child instanceof Pressable)[0]
 
     function cleanup() {
         search.text = "";
@@ -139,8 +130,7 @@ KitTestCase {
     }
 
     function test_is_mirrored_from_right_to_left() {
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         // Empty first: the text that stands in for the missing one keeps clear of the glyph too.
         compare(search.width - field.x - field.width, 29);
         compare(field.x, 10);

@@ -38,14 +38,7 @@ KitTestCase {
     }
 
     function segment(index) {
-        const found = [];
-        const row = segmented.children[0];
-        for (let i = 0; i < row.children.length; ++i) {
-            const child = row.children[i];
-            if (child.hasOwnProperty("ringParent"))
-                found.push(child);
-        }
-        return found[index];
+        return allIn(segmented, child => child instanceof Segment)[index];
     }
     function titleWidth(title) {
         metrics.text = title;
@@ -164,8 +157,7 @@ KitTestCase {
     }
 
     function test_arrow_keys_are_mirrored_from_right_to_left() {
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         verify(segment(0).x > segment(2).x);
         segment(1).forceActiveFocus(Qt.TabFocusReason);
         keyClick(Qt.Key_Right);

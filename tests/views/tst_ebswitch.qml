@@ -145,8 +145,7 @@ KitTestCase {
     }
 
     function test_on_is_at_the_left_from_right_to_left() {
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         testCase.stored = true;
         tryVerify(() => knobX() === 2);
         comparePixel(toggle, 31, 11, EB.indigo);

@@ -3,7 +3,6 @@
 #include "TestProgram.h"
 
 #include <QPointF>
-#include <QRegularExpression>
 
 #include <cmath>
 #include <numbers>
@@ -11,11 +10,7 @@
 class MotionTest : public QObject {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
-        m_platform = &FakePlatform::install();
-    }
+    void init() { m_platform = &FakePlatform::install(); }
 
     void durationsAreMillisecondsAndNoneWithReducedMotion()
     {

@@ -1,4 +1,4 @@
-#include "EBKitFonts.h"
+#include "Fonts.h"
 #include "TestDesktop.h"
 #include "TestProgram.h"
 
@@ -12,11 +12,7 @@ public slots:
     void applicationAvailable()
     {
         m_desktop = std::make_unique<TestDesktop>();
-        for (const char *face : {"InstrumentSans-SemiBold.ttf", "GeistMono-Medium.ttf"}) {
-            const QString name = QString::fromLatin1(face);
-            m_desktop->platform().main.resources.insert(
-                name, QUrl::fromLocalFile(QStringLiteral(CORVANE_FONTS_FOLDER) + name));
-        }
+        addFaces(m_desktop->platform().main);
         EBKitFonts::registerFonts();
         qmlRegisterSingletonInstance("Embera.Testing", 1, 0, "Desktop", m_desktop.get());
     }

@@ -2,6 +2,7 @@ import QtQuick
 import QtTest
 import Embera.Tokens
 import Embera.Controls
+import Embera.Glyphs
 import Embera.Rows
 import Embera.Testing
 
@@ -129,17 +130,8 @@ KitTestCase {
         testCase.LayoutMirroring.enabled = false;
     }
 
-    /// The text item with this text somewhere inside.
-    function textIn(item, text) {
-        for (let i = 0; i < item.children.length; ++i) {
-            const child = item.children[i];
-            if (child instanceof Text && child.text === text)
-                return child;
-            const found = textIn(child, text);
-            if (found)
-                return found;
-        }
-        return null;
+    function glyphIn(item) {
+        return allIn(item, child => child instanceof Glyph)[0];
     }
     function topOf(item) {
         return item.mapToItem(pane, 0, 0).y;
@@ -201,8 +193,7 @@ KitTestCase {
         comparePixel(rule, 15, 0, EB.paper);
         comparePixel(rule, 16, 0, over(EB.line, EB.paper));
         comparePixel(rule, 199, 0, over(EB.line, EB.paper));
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         comparePixel(rule, 184, 0, EB.paper);
         comparePixel(rule, 183, 0, over(EB.line, EB.paper));
         comparePixel(rule, 0, 0, over(EB.line, EB.paper));
@@ -243,8 +234,7 @@ KitTestCase {
         comparePixel(secondRow, 56, -1, line);
         otherGroup.ruleInset = 0;
         comparePixel(secondRow, 1, -1, line);
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         otherGroup.ruleInset = 56;
         comparePixel(secondRow, 200 - 56, -1, EB.surface);
         comparePixel(secondRow, 200 - 57, -1, line);
@@ -263,8 +253,7 @@ KitTestCase {
         const at = trailingSwitch.mapToItem(plainRow, 0, 0);
         compare(at.x, 300 - 16 - 36);
         compare(at.y, 9);
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         compare(trailingSwitch.mapToItem(plainRow, 0, 0).x, 16);
     }
 
@@ -292,8 +281,7 @@ KitTestCase {
     }
 
     function test_title_is_leading_from_right_to_left() {
-        testCase.LayoutMirroring.childrenInherit = true;
-        testCase.LayoutMirroring.enabled = true;
+        mirror();
         const title = textIn(longRow, "Title");
         compare(title.mapToItem(longRow, title.width, 0).x, 300 - 56);
         compare(title.effectiveHorizontalAlignment, Text.AlignRight);
@@ -352,7 +340,7 @@ KitTestCase {
         verify(isNear(pixel(disc, 14, 0), over(EB.lineStrong, EB.paper), 0.03));
         comparePixel(disc, 14, 3, EB.paper);
         comparePixel(disc, 14, 14, EB.ink);
-        compare(disc.children[0].size, 15);
+        compare(glyphIn(disc).size, 15);
     }
 
     function test_small_disc_that_is_on() {
@@ -361,8 +349,8 @@ KitTestCase {
         testCase.product = "parcelo";
         compare(disc.width, 22);
         compare(disc.height, 22);
-        compare(disc.children[0].size, 12);
-        compareColor(disc.children[0].color, EB.onTeal);
+        compare(glyphIn(disc).size, 12);
+        compareColor(glyphIn(disc).color, EB.onTeal);
         comparePixel(disc, 11, 2, EB.teal);
         verify(isNear(pixel(disc, 11, 0), EB.teal, 0.06));
         comparePixel(disc, 0, 0, EB.paper);

@@ -25,5 +25,7 @@ bool RootListener::waitForRequest(xcb_window_t window, const char *type, quint32
         }
         return false;
     };
+    // Whatever was asked before this call has arrived with the answer to this.
+    m_x.synchronise();
     return QTest::qWaitFor(heard, milliseconds);
 }

@@ -1,14 +1,7 @@
 #pragma once
 
-#include <QRegularExpression>
 #include <QTest>
 #include <QWidget>
-
-/// Every warning fails the test, but those in which the platform without a screen names what it cannot do.
-inline void failOnWarnings()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
-}
 
 /// A click on a view that takes none.
 inline void clickInVain(QWidget &view, QPoint place = {})
