@@ -17,7 +17,7 @@ corvane_precompiled(pch_quick LINK Qt6::Quick
     HEADERS <QColor> <QFont> <QGuiApplication> <QObject> <QPainterPath> <QString> <QVariant> <optional> <span>
             <QQmlComponent> <QQmlEngine> <QQuickItem> <QQuickPaintedItem> <QQuickWindow>)
 
-# corvane_check_depends(name room …): the folders of src/ are read in the order of the house, so what is not there yet stands
+# corvane_check_depends(name room …): the folders of src/ are read from the bottom up, so what is not there yet stands
 # below this room.
 function(corvane_check_depends name)
     foreach(room IN LISTS ARGN)

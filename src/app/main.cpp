@@ -31,7 +31,7 @@ int main(int argc, char *argv[])
 {
     LaunchFlags::setArguments(argc, argv);
     chooseRenderer();
-    // The two take about as long, and neither needs the other.
+    // The warm-up and the connection to the display take about as long, and neither needs the other.
     const std::future<void> warmUp = NativePlatform::warmUp();
     int ownName = 1;
     QGuiApplication application(ownName, argv);

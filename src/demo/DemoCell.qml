@@ -22,8 +22,8 @@ Item {
     readonly property bool isVisible: win.isVisible
     readonly property bool isFull: win.state === "full"
     readonly property bool isHovered: isVisible && model?.hovered === win.id
-    /// The buttons that stick out across the corner belong to the window while they are there, and no pointer enters it
-    /// because they go.
+    /// The buttons that stick out over the corner count as part of the window while they are shown. When they go under
+    /// the pointer, the window is not entered by that.
     readonly property bool isPointerHere: overWindow.hovered || overButtons.hovered || isTouched
     /// A finger has touched the window, which stays hovered until something else is.
     property bool isTouched: false
@@ -56,7 +56,7 @@ Item {
     // Nobody is over a window that is gone, and whoever waits at its place is over it once it is back.
     onIsVisibleChanged: if (isPointerHere)
         isVisible ? model.enter(win.id) : model.leave(win.id)
-    // What nobody sees is not hovered.
+    // A hidden window must not stay hovered.
     onVisibleChanged: if (!visible)
         model?.leave(win.id)
     Component.onDestruction: model?.leave(win.id)

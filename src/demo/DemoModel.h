@@ -30,7 +30,7 @@ class DemoModel : public QObject {
     Q_PROPERTY(QString flash READ flashName NOTIFY flashChanged)
     /// Counts the shortcuts that were pressed while the pointer was over no window that is there.
     Q_PROPERTY(int nudge READ nudge NOTIFY nudgeChanged)
-    /// How a change of this moment is to move: `reset` has a spring of its own, which stands here while it changes the
+    /// The spring of a change that is made now. `reset` has one of its own, which is set here while it changes the
     /// windows.
     Q_PROPERTY(MotionSpring spring READ spring NOTIFY springChanged)
 public:

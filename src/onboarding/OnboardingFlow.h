@@ -32,8 +32,8 @@ class OnboardingFlow : public QObject {
     /// Whether less motion was asked for when the flow began; later changes are not followed.
     Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion CONSTANT)
 public:
-    /// Whether the person has been through the guide before. A replay takes what the agent reports as the wish to start
-    /// at login; the first run takes the wish for granted.
+    /// Whether the person has been through the guide before. A replay begins with what the agent reports about starting
+    /// at login, a first run with yes.
     enum class Run { first, replay };
 
     /// `finish` is run when the flow ends. The flow begins at the step that the environment variable CV_STEP names by
@@ -63,7 +63,7 @@ public:
     /// Ends the flow at once: nothing is stored and nothing is sent.
     Q_INVOKABLE void skipSetup();
 
-    /// Steps aside, asks the agent for the permission and, a moment later, shows the tile to drag.
+    /// Hides the guide, asks the agent for the permission and, a moment later, shows the tile to drag.
     Q_INVOKABLE void requestAccess();
 
     /// The two ways on from the choice of a look: with what was chosen, or with the defaults.

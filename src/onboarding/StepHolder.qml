@@ -25,7 +25,7 @@ Loader {
 
     Behavior on opacity {
         NumberAnimation {
-            // As it was asked for when the flow began.
+            // The setting counts that the flow began with.
             duration: holder.flow.reduceMotion ? 0 : 250
             easing: Motion.easeInOut
         }

@@ -3,8 +3,8 @@
 #include "CrispItem.h"
 #include "Theme.h"
 
-/// One overlay button, as the agent draws it. It is a picture: absent from accessibility, and pressing it is the
-/// business of what stands around it.
+/// One overlay button, as the agent draws it. It is a picture: absent from accessibility, and the item around it takes
+/// the clicks.
 class DemoButton : public CrispItem {
     Q_OBJECT
     QML_ELEMENT

@@ -2,8 +2,8 @@
 
 #include "CrispItem.h"
 
-/// All there is to see of a miniature window but its texts, in one picture: the card with its title strip, and lines
-/// that stand for content. It fills the item.
+/// Paints a miniature window without its texts: the card with its title strip, and lines that stand for content. It
+/// fills the item.
 class WindowFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT

@@ -40,12 +40,12 @@ struct KeyDown {
     bool isARepeat = false;
 };
 
-/// Hears every key-down event of this application's windows for as long as it is held (Platform::monitorKeyDown),
-/// before the application's own shortcuts and before the focused item do.
+/// Receives every key-down event of this application's windows while it lives (Platform::monitorKeyDown), before the
+/// application's own shortcuts and before the focused item.
 class KeyMonitor {
 public:
-    /// Returns true to swallow the key: then nothing else in the application hears it. Called on the main thread, once
-    /// for each key-down event. It may end its own monitor, and others.
+    /// Returns true to swallow the key, so that nothing else in the application receives it. Called on the main thread,
+    /// once for each key-down event. It may destroy monitors, its own included.
     using Handler = std::function<bool(const KeyDown &)>;
 
     virtual ~KeyMonitor() = default;

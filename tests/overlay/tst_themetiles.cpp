@@ -10,7 +10,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
-/// Who shows the tiles: notes what is chosen and, if told, hands it back as a page does.
+/// Stands in for a page: records what is chosen and, if told, hands it back.
 class Caller : public QObject {
     Q_OBJECT
 public:

@@ -74,17 +74,17 @@ public:
     explicit DBusNotificationCenterTest(PrivateSession &) { }
 
 private slots:
-    void aNoticeHasTheFormThatIsWrittenDown();
+    void aNotificationHasTheFormThatIsWrittenDown();
     void aBooleanAndATextArriveAsWhatTheyAre();
     void anAbsentValueIsNoEntry();
-    void aNoticeIsOnTheBusWhenThePostReturns();
+    void aNotificationIsOnTheBusWhenThePostReturns();
     void anObserverHearsThisProcessAndOthers();
     void anObserverHearsNothingElse();
     void aNameThatIsNoSignalIsLost_data();
     void aNameThatIsNoSignalIsLost();
 };
 
-void DBusNotificationCenterTest::aNoticeHasTheFormThatIsWrittenDown()
+void DBusNotificationCenterTest::aNotificationHasTheFormThatIsWrittenDown()
 {
     const Description written = description();
     QCOMPARE(written.interface + u'.' + written.signal, name);
@@ -122,7 +122,7 @@ void DBusNotificationCenterTest::anAbsentValueIsNoEntry()
 }
 
 // The other process ends without any tidying up as soon as the call has returned.
-void DBusNotificationCenterTest::aNoticeIsOnTheBusWhenThePostReturns()
+void DBusNotificationCenterTest::aNotificationIsOnTheBusWhenThePostReturns()
 {
     Listener listener;
     for (int round = 1; round <= 5; ++round) {

@@ -45,7 +45,7 @@ private slots:
     void aValueIsKeptInMemoryAndAnnounced();
     void aValueInMemoryCanBeRemoved();
     void nobodyElseSeesIt();
-    void aNoticeIsLostInSilence();
+    void aNotificationIsLostInSilence();
     void theAppearanceIsThatOfThePalette();
 };
 
@@ -84,7 +84,7 @@ void UnstorableTest::nobodyElseSeesIt()
     QVERIFY(!DconfUserDefaults(suiteName).value(QStringLiteral("key")).isValid());
 }
 
-void UnstorableTest::aNoticeIsLostInSilence()
+void UnstorableTest::aNotificationIsLostInSilence()
 {
     DBusNotificationCenter center;
     const QString name = QStringLiteral("com.vexmoor.corvane.command");

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <numbers>
 
-/// Where an oscillator with that response and damping is after `time`, let go at 0 and pulled to 1.
+/// The position after `time` of an oscillator with that response and damping, released at 0 and pulled to 1.
 inline double sprung(double response, double damping, double time)
 {
     const double omega = 2 * std::numbers::pi / response;

@@ -21,8 +21,8 @@ bool isHidden(const QQuickItem *item)
     return (declared && declared->hidden()) || isHidden(item->parentItem());
 }
 
-/// What Qt says about an item, with the corrections. Qt's own interface of the item stays in Qt's cache and
-/// belongs to it, so it is looked up whenever it is needed: it may go first.
+/// The proxy of an item: what Qt says about it, corrected. Qt's own interface stays in Qt's cache, which owns it and
+/// may delete it first, so it is looked up whenever it is needed.
 class ItemProxy : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     ItemProxy(QQuickItem *item, QAccessible::Id original)
@@ -111,7 +111,10 @@ public:
     {
         return isValid() ? proxyOf(original()->childAt(x, y)) : nullptr;
     }
-    QAccessibleInterface *focusChild() const override { return isValid() ? proxyOf(original()->focusChild()) : nullptr; }
+    QAccessibleInterface *focusChild() const override
+    {
+        return isValid() ? proxyOf(original()->focusChild()) : nullptr;
+    }
     QList<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(QAccessible::Relation match) const override
     {
         return isValid() ? original()->relations(match) : decltype(relations(match))();

@@ -3,9 +3,9 @@
 #include <QObject>
 #include <qqmlregistration.h>
 
-/// An action that the item it stands in offers to assistive technologies under a name of its own. The actions of an item
-/// are listed in their order, after those that Qt gives it, and work while the item is enabled. It must be accessible
-/// itself (`Accessible.role`).
+/// An action that the item it stands in offers to assistive technologies under a name of its own. The actions of an
+/// item are listed in their order, after those that Qt gives it, and work while the item is enabled. It must be
+/// accessible itself (`Accessible.role`).
 class AccessibleAction : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -4,8 +4,8 @@
 #include "EBButtonStyle.h"
 #include "EBEnvironment.h"
 
-/// All there is to see of a button, in one picture, so that a disabled button fades as a whole: label and
-/// badge do not show the capsule through them. Its implicit size is the button's ideal size.
+/// Paints a whole button as one picture, so that a disabled button fades as a whole: the capsule does not show through
+/// its label and badge. Its implicit size is the button's ideal size.
 class ButtonFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT

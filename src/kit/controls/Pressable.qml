@@ -8,7 +8,7 @@ T.AbstractButton {
 
     Accessible.name: text
     Accessible.onPressAction: clicked()
-    // What nobody sees must take no key.
+    // An invisible control must not keep the keyboard focus.
     onVisibleChanged: if (!visible)
         focus = false
     Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()

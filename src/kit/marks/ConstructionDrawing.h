@@ -3,7 +3,7 @@
 #include "CrispItem.h"
 #include "EBApp.h"
 
-/// What there is to see of a mark's construction drawing.
+/// Paints a mark's construction drawing.
 class ConstructionDrawing : public CrispItem {
     Q_OBJECT
     QML_ELEMENT

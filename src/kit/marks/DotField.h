@@ -4,8 +4,8 @@
 #include "DotLayout.h"
 #include "EBApp.h"
 
-/// A texture of dots and short bars in the product's darker colour, laid by lot on a grid. It is still: it is drawn
-/// once, and again when one of its fields changes. Absent from accessibility.
+/// A texture of dots and short bars in the product's darker colour, placed at random on a grid. It does not move: it is
+/// painted once, and again when a property changes. Absent from accessibility.
 class DotField : public CrispItem {
     Q_OBJECT
     QML_ELEMENT

@@ -5,7 +5,7 @@
 
 #include <QColor>
 
-/// What there is to see of a product's mark.
+/// Paints a product's mark.
 class MarkFace : public CrispItem {
     Q_OBJECT
     QML_ELEMENT

@@ -18,7 +18,7 @@ Rectangle {
     property alias text: paragraph.text
     /// A change of the text is read out: it answers what the person has just done.
     property bool isLive: false
-    /// The stage. What is to fill the room there is takes `room` as its height.
+    /// The stage. Content that is to fill it takes `room` as its height.
     default property alias content: stage.data
     /// The buttons, directly below the stage.
     property alias actions: buttons.data

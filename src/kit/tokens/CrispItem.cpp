@@ -55,7 +55,7 @@ QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
         painter.translate(-origin);
         paint(&painter);
     }
-    // From here on it is counted in pixels; the software renderer would apply the scale a second time.
+    // From here on sizes are in pixels: the software renderer would apply the ratio a second time.
     image.setDevicePixelRatio(1);
 
     auto *node = static_cast<QSGImageNode *>(old);

@@ -31,7 +31,7 @@ const Role &entry(EBTypeRole role)
     return roles[static_cast<std::size_t>(role)];
 }
 
-/// What a desktop says when it leaves the choice of the face to the font configuration.
+/// A desktop that names one of these leaves the choice to the font configuration.
 bool isGeneric(const QString &family)
 {
     static const QStringList generic = {QStringLiteral("Sans"), QStringLiteral("Sans Serif"),
@@ -39,7 +39,7 @@ bool isGeneric(const QString &family)
     return generic.contains(family, Qt::CaseInsensitive);
 }
 
-/// The face only: its size, weight and slant are the desktop's business elsewhere.
+/// The family only: the desktop's size, weight and slant do not apply here.
 QStringList systemFamilies()
 {
     QStringList families = QGuiApplication::font().families();

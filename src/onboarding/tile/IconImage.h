@@ -4,7 +4,7 @@
 
 #include <QIcon>
 
-/// Lets QML hand icons on.
+/// Makes QIcon a value type of QML.
 struct IconValue {
     Q_GADGET
     QML_FOREIGN(QIcon)

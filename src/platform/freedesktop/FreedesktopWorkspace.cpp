@@ -52,10 +52,10 @@ bool openAutostartPage(const QString &desktop)
     return false;
 }
 
-/// What the installed application's desktop entry says its icon is; empty when there is none.
+/// The icon that the installed application's desktop entry names; empty when there is none.
 QString iconName(const QString &application)
 {
-    // The identifier comes from a list that others write, and a path in it would lead out of the folders.
+    // The identifier comes from a list that other programs write; a path in it could lead out of the folders.
     if (application.isEmpty() || application.contains(u'/'))
         return {};
     const QString entry = application + QStringLiteral(".desktop");

@@ -5,8 +5,8 @@
 
 #include <QHash>
 
-/// Links go to the desktop's handlers, applications are bundles. Login items are the desktop's own autostart page, or the
-/// autostart folder where it has none; Mission Control is its overview, or the bare desktop where it has none.
+/// Links go to the desktop's handlers, applications are bundles. Login items are the desktop's own autostart page, or
+/// the autostart folder where it has none; Mission Control is its overview, or the bare desktop where it has none.
 class FreedesktopWorkspace : public Workspace {
 public:
     /// `mainBundle` is the running application's, which can be started again even from outside a bundle's

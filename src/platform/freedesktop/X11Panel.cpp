@@ -14,7 +14,7 @@ void X11Panel::floatOnAllDesktops(QWindow &window)
     xcb_ewmh_connection_t *ewmh = &names->ewmh;
     const auto id = xcb_window_t(window.winId());
     xcb_ewmh_set_wm_desktop(ewmh, id, X11::everyDesktop);
-    // Qt adds to these states what it knows of, and keeps them.
+    // Qt keeps these states and adds its own.
     QList<xcb_atom_t> states = names->atoms(xcb_ewmh_get_wm_state(ewmh, id));
     for (const xcb_atom_t wanted :
          {ewmh->_NET_WM_STATE_STICKY, ewmh->_NET_WM_STATE_SKIP_TASKBAR, ewmh->_NET_WM_STATE_SKIP_PAGER}) {

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr quint32 iconic = 3;
-/// Of all that is no window to work in: nobody here asks for more.
+/// The layer of everything but ordinary windows: callers only ask whether it is 0.
 constexpr int otherLayer = 1;
 
 /// Everything asked of one window. The questions go out together, so that all windows cost one round trip.
@@ -72,7 +72,7 @@ public:
             && (m_desktop == X11::everyDesktop || currentDesktop == X11::everyDesktop || m_desktop == currentDesktop);
     }
 
-    /// A dialog that belongs to no window is one to work in: so is the settings application of some desktops.
+    /// A dialog without an owner counts as an ordinary window: the settings of some desktops are one.
     int layer() const
     {
         const xcb_atom_t normal = m_ewmh._NET_WM_WINDOW_TYPE_NORMAL;
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    /// A window names its kinds in the order of its liking, beginning with some that only one desktop knows.
+    /// A window lists its types in order of preference, perhaps beginning with some that only one desktop knows.
     xcb_atom_t kind(xcb_atom_t usual) const
     {
         const xcb_atom_t known[] = {
@@ -203,7 +203,7 @@ QList<OnScreenWindow> X11WindowList::onScreenWindows()
     const auto clients = windows(*m_names, askedClients);
     quint32 currentDesktop = X11::everyDesktop;
     xcb_ewmh_get_current_desktop_reply(&m_names->ewmh, askedDesktop, &currentDesktop, nullptr);
-    // Xfwm4 stacks nothing as long as there is a single window. All go from the bottom, or the oldest, to the top.
+    // Xfwm4 sets no stacking list while there is a single window. Each list begins with the lowest, or the oldest.
     const auto &managed = stacking ? stacking : clients;
     const QList<xcb_window_t> bottomToTop = managed ? *managed : childrenOfRoot(x);
 

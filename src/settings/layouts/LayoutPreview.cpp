@@ -17,7 +17,7 @@ constexpr qreal windowRadius = 2;
 constexpr qreal iconSize = 12;
 constexpr qreal smallestWithIcon = 16;
 
-/// A list anybody may write holds any number; beyond this no part of a window is in the picture.
+/// Any program may have written the list, with any numbers; beyond these no part of a window is in the picture.
 double drawable(double fraction)
 {
     return std::clamp(fraction, -100.0, 100.0);

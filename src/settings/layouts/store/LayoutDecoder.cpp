@@ -15,7 +15,7 @@ namespace {
 
 constexpr int maximumDepth = 512;
 
-/// Where the reader is. The places lie inside one another in this order.
+/// Where the reader is, from the outermost place to the innermost.
 enum class Place { text, list, layout, windows, window, rect };
 
 enum class Field { none, ignored, id, name, windows, created, bundleID, app, title, rect, display, x, y, w, h };
@@ -67,7 +67,7 @@ std::span<const Key> keysOf(Place place)
 
 QString fromUtf8(const std::string &text)
 {
-    // A mark at the start of a name is a character of that name.
+    // A byte-order mark at the start of a name is part of the name.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     return decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
 }
@@ -90,7 +90,7 @@ double now()
     return duration<double>(system_clock::now() - referenceDate).count();
 }
 
-/// Takes what the parser finds in the text. Each call answers whether a list of layouts may still come of it.
+/// Receives the parser's events. Each call returns whether the text may still be a list of layouts.
 class LayoutReader {
 public:
     using Number = nlohmann::json::number_integer_t;
@@ -98,10 +98,10 @@ public:
 
     QList<SavedLayout> layouts;
 
-    /// The same as no value at all, which a required field does not get away with at the end of its object.
+    /// Counts as no value; for a required field that is a fault, found at the end of its object.
     bool null() { return m_field != Field::none; }
     bool boolean(bool) { return m_field == Field::ignored; }
-    // The parser has no minus zero among the whole numbers, but nothing else comes as a signed zero.
+    // The parser reports minus zero as the signed integer 0, and no other number that way.
     bool number_integer(Number value) { return number(value == 0 ? -0.0 : static_cast<double>(value)); }
     bool number_unsigned(Unsigned value) { return number(static_cast<double>(value)); }
     bool number_float(double value, const std::string &) { return number(value); }
@@ -131,7 +131,7 @@ private:
     Fields m_seen = 0;
     Fields m_given = 0;
     int m_depth = 0;
-    /// How deep inside a value that is passed over.
+    /// The depth inside a value that is skipped.
     int m_ignoredDepth = 0;
     SavedLayout m_layout;
     SavedLayout::Window m_window;
@@ -281,7 +281,7 @@ bool LayoutReader::end_array()
     return leave();
 }
 
-/// Gives the layout what it came without.
+/// Fills in what the layout lacks.
 void LayoutReader::fillIn()
 {
     if ((m_given & only(Field::id)) == 0)
