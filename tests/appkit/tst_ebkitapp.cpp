@@ -3,7 +3,6 @@
 #include "FakePlatform.h"
 #include "MarkShape.h"
 #include "TestProgram.h"
-#include "Warnings.h"
 
 class EBKitAppTest : public QObject {
     Q_OBJECT

@@ -124,11 +124,13 @@ void TestScreenFit::noDotLiesUnderAText()
     ScreenView view(qml, {560, 388});
     view.show();
     auto *field = view.all<DotField>().constFirst();
+    const auto number = [field](const char *name) { return field->property(name).toReal(); };
     for (const bool mirrored : {false, true}) {
         if (mirrored)
             view.mirror();
-        const auto dots = DotLayout::layout(field->area(), field->cell(), quint32(field->seed()), field->density(),
-                                            field->ramp(), field->margin(), field->calm());
+        const auto dots = DotLayout::layout(field->property("size").toSizeF(), number("cell"),
+                                            quint32(field->property("seed").toInt()), number("density"), number("ramp"),
+                                            number("margin"), field->property("calm").value<QList<Zone>>());
         QVERIFY(dots.size() > 20);
         for (QQuickItem *piece : textsOf(view)) {
             const QRectF place = view.rectOf(piece, field);
