@@ -41,6 +41,10 @@ private slots:
 
     void everyRoleHasItsFontAndTracking_data();
     void everyRoleHasItsFontAndTracking();
+    void noFaceStandsOnWholePixels_data() { everyRoleHasItsFontAndTracking_data(); }
+    void noFaceStandsOnWholePixels();
+    void theKitsOwnFacesNeverDo_data() { everyRoleHasItsFontAndTracking_data(); }
+    void theKitsOwnFacesNeverDo();
     void aNumberThatIsNoRoleHasNoTracking();
 
     void theSystemFontIsThatOfTheDesktop();
@@ -115,6 +119,25 @@ void TestEBType::everyRoleHasItsFontAndTracking()
     } else {
         QCOMPARE(drawnFace(font), QRawFont(fileOf(face).toLocalFile(), size).fontTable("name"));
     }
+}
+
+/// As wide as the letters are designed, to half a percent: words neither run together nor fall apart.
+void TestEBType::noFaceStandsOnWholePixels()
+{
+    const QFont font = EBTypes::font(*EBTypes::fromRawValue(QString::fromLatin1(QTest::currentDataTag())));
+    QFont exact = font;
+    exact.setHintingPreference(QFont::PreferNoHinting);
+    const QString text = QStringLiteral("One permission, then you're done");
+    const qreal designed = QFontMetricsF(exact).horizontalAdvance(text);
+    QVERIFY(std::abs(QFontMetricsF(font).horizontalAdvance(text) / designed - 1) <= 0.005);
+}
+
+/// Also on a desktop that asks for full hinting.
+void TestEBType::theKitsOwnFacesNeverDo()
+{
+    QFETCH(QString, face);
+    const QFont font = EBTypes::font(*EBTypes::fromRawValue(QString::fromLatin1(QTest::currentDataTag())));
+    QCOMPARE(font.hintingPreference(), face.isEmpty() ? QFont::PreferDefaultHinting : QFont::PreferVerticalHinting);
 }
 
 void TestEBType::aNumberThatIsNoRoleHasNoTracking()

@@ -48,13 +48,20 @@ QStringList systemFamilies()
     return families;
 }
 
+/// Tracking is a fraction of a point: on a desktop that hints letters onto whole pixels, words would run together.
+QFont withFinePlaces(QFont font)
+{
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    return font;
+}
+
 QFont faceFont(Face face)
 {
     switch (face) {
     case Face::Display:
-        return EBKitFonts::face(EBKitFonts::display);
+        return withFinePlaces(EBKitFonts::face(EBKitFonts::display));
     case Face::Mono:
-        return EBKitFonts::face(EBKitFonts::mono);
+        return withFinePlaces(EBKitFonts::face(EBKitFonts::mono));
     case Face::System:
         break;
     }
