@@ -2,6 +2,7 @@
 
 #include "ButtonGlyph.h"
 #include "EBKitColor.h"
+#include "Glyph.h"
 
 #include <QPainter>
 
@@ -37,7 +38,11 @@ void paintDemoButton(QPainter *painter, const QRectF &disc, OverlayButton kind, 
 
     const QPen line(faded(look.glyph, dim ? 0.4 : 1), std::max(size / 15, 1.3), Qt::SolidLine, Qt::RoundCap,
                     Qt::RoundJoin);
-    painter->strokePath(ButtonGlyph{kind}.path(disc), line);
+    QRectF box = disc;
+    // The bar runs along pixels; the lines of the others are diagonal.
+    if (kind == OverlayButton::minimize)
+        box.moveCenter({disc.center().x(), sharpCenter(*painter, disc.center(), line.widthF()).y()});
+    painter->strokePath(ButtonGlyph{kind}.path(box), line);
 
     const qreal ringWidth = dim ? 1 : look.ringWidth;
     const qreal inset = ringWidth / 2;

@@ -13,11 +13,11 @@ namespace {
 constexpr int zoom = 40;
 const QColor ground(0, 0, 200);
 
-QImage drawn(OverlayButton kind, Theme theme, qreal size, bool dim = false)
+QImage drawn(OverlayButton kind, Theme theme, qreal size, bool dim = false, int scale = zoom)
 {
-    const int side = int(size * zoom);
+    const int side = int(size * scale);
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(zoom);
+    image.setDevicePixelRatio(scale);
     image.fill(ground);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -56,6 +56,9 @@ private slots:
     void theLineOfTheGlyphFollowsTheSizeDownToAFloor_data();
     void theLineOfTheGlyphFollowsTheSizeDownToAFloor();
     void theEndsOfTheLinesAreRound();
+    void theBarRunsAlongPixels_data();
+    void theBarRunsAlongPixels();
+    void aTranslucentButtonShinesOverItsGround();
     void theRingLiesInsideTheEdge_data();
     void theRingLiesInsideTheEdge();
     void aDimmedButtonIsFadedUnderAWhiteRing_data();
@@ -100,6 +103,45 @@ void DemoButtonTest::theEndsOfTheLinesAreRound()
     const QImage image = drawn(OverlayButton::minimize, Theme::classic, 30);
     QVERIFY(isNear(at(image, 15 + 6.9 + 0.9, 15), Qt::white));
     QVERIFY(isNear(at(image, 15 + 6.9 + 0.9, 15 - 0.9), QColor("#F5BF4F")));
+}
+
+void DemoButtonTest::theBarRunsAlongPixels_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("a compact tile's") << 12 << 1;
+    QTest::newRow("a tile's") << 14 << 1;
+    QTest::newRow("in the practice") << 16 << 1;
+    QTest::newRow("small") << 20 << 1;
+    QTest::newRow("large") << 32 << 2;
+}
+
+void DemoButtonTest::theBarRunsAlongPixels()
+{
+    QFETCH(const int, size);
+    QFETCH(const int, rows);
+    const QImage image = drawn(OverlayButton::minimize, Theme::classic, size, false, 1);
+    int full = 0;
+    for (int y = 2; y < size - 2; ++y)
+        full += isNear(image.pixelColor(size / 2, y), Qt::white) ? 1 : 0;
+    QCOMPARE(full, rows);
+}
+
+void DemoButtonTest::aTranslucentButtonShinesOverItsGround()
+{
+    QQuickWindow window;
+    window.setColor(Qt::red);
+    window.resize(60, 60);
+    DemoButton button(window.contentItem());
+    button.setProperty("theme", "outline");
+    button.setProperty("size", 32);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const QColor fill = clear(Qt::black, 0.3F);
+    QVERIFY(isNear(window.grabWindow().pixelColor(16, 5), over(fill, Qt::red)));
+    button.setProperty("ground", QColor(Qt::white));
+    QVERIFY(isNear(window.grabWindow().pixelColor(16, 5), over(fill, Qt::white)));
+    QCOMPARE(window.grabWindow().pixelColor(1, 1), QColor(Qt::red));
 }
 
 void DemoButtonTest::theRingLiesInsideTheEdge_data()

@@ -19,18 +19,17 @@ void Glyph::paint(QPainter *painter)
         paintGlyph(painter, *glyph, m_size, m_color, boundingRect());
 }
 
-// Most glyphs have a line through their middle. On a screen with few pixels a point it is only sharp if it
-// runs along pixels: through the middle of one when the stroke is an odd number of pixels wide, between two
-// when it is even.
-static QPointF sharpCenter(const QPainter &painter, QPointF center, qreal strokeWidth)
+// Through the middle of a pixel when the line is an odd number of pixels wide, between two when it is even.
+QPointF sharpCenter(const QPainter &painter, QPointF center, qreal lineWidth)
 {
     const QTransform &toPixels = painter.deviceTransform();
-    const qreal pixels = std::max(1.0, std::round(strokeWidth * std::abs(toPixels.m22())));
+    const qreal pixels = std::max(1.0, std::round(lineWidth * std::abs(toPixels.m22())));
     const qreal offset = std::fmod(pixels, 2) / 2;
     const QPointF at = toPixels.map(center);
     return toPixels.inverted().map(QPointF(std::round(at.x() - offset) + offset, std::round(at.y() - offset) + offset));
 }
 
+// Most glyphs have a line through their middle, which would be a blur on a screen with few pixels a point.
 QRectF glyphBox(const QPainter &painter, qreal size, const QRectF &bounds)
 {
     QRectF box(0, 0, size, size);

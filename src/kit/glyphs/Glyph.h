@@ -28,6 +28,9 @@ private:
     QColor m_color = Qt::black;
 };
 
+/// The place nearest to `center` where a horizontal or vertical line of this width (points) runs along device pixels.
+QPointF sharpCenter(const QPainter &painter, QPointF center, qreal lineWidth);
+
 /// The square of `size` points in the middle of `bounds`, to the nearest half device pixel, in which the lines of a
 /// glyph are sharp.
 QRectF glyphBox(const QPainter &painter, qreal size, const QRectF &bounds);
