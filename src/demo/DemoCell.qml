@@ -160,6 +160,8 @@ Item {
             // The table of the sizes, scaled to the miniature: 16, 20 and 25.6 points.
             diameter: 0.8 * ButtonChoices.diameter(cell.size)
             spacing: 3
+            // Not over the hover ring, which would cross their glyphs.
+            ground: EB.paper
             showMinimize: cell.showMinimize
             showMaximize: cell.showMaximize
             transformOrigin: Item.Left

@@ -14,6 +14,8 @@ Item {
     property real spacing: 4
     property bool showMinimize: false
     property bool showMaximize: false
+    /// What translucent buttons shine over; transparent for what the row lies on.
+    property color ground: "transparent"
 
     /// How much of the button is there, between 0 and 1.
     property real minimizeShare: showMinimize ? 1 : 0
@@ -44,12 +46,14 @@ Item {
         kind: "close"
         theme: cluster.theme
         size: cluster.diameter
+        ground: cluster.ground
     }
     DemoButton {
         x: cluster.step
         kind: "minimize"
         theme: cluster.theme
         size: cluster.diameter
+        ground: cluster.ground
         opacity: cluster.minimizeShare
         visible: opacity > 0
     }
@@ -58,6 +62,7 @@ Item {
         kind: "maximize"
         theme: cluster.theme
         size: cluster.diameter
+        ground: cluster.ground
         opacity: cluster.maximizeShare
         visible: opacity > 0
     }

@@ -26,7 +26,13 @@ void DemoButton::paint(QPainter *painter)
         return;
     QRectF disc(0, 0, diameter, diameter);
     disc.moveCenter(pixelBounds().center());
-    paintDemoButton(painter, disc, *button, Themes::fromRawValue(m_theme).value_or(Themes::fallback), m_size, m_dim);
+    const Theme theme = Themes::fromRawValue(m_theme).value_or(Themes::fallback);
+    if (Themes::look(theme, *button).fill.alpha() < 255) {
+        QPainterPath circle;
+        circle.addEllipse(disc);
+        painter->fillPath(circle, m_ground);
+    }
+    paintDemoButton(painter, disc, *button, theme, m_size, m_dim);
 }
 
 void paintDemoButton(QPainter *painter, const QRectF &disc, OverlayButton kind, Theme theme, qreal size, bool dim)

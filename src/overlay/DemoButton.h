@@ -17,6 +17,8 @@ class DemoButton : public CrispItem {
     Q_PROPERTY(qreal size MEMBER m_size NOTIFY changed)
     /// Present but not active.
     Q_PROPERTY(bool dim MEMBER m_dim NOTIFY changed)
+    /// What a translucent disc shines over, whatever the item lies on; transparent, as it starts with, for that itself.
+    Q_PROPERTY(QColor ground MEMBER m_ground NOTIFY changed)
 public:
     explicit DemoButton(QQuickItem *parent = nullptr);
 
@@ -28,6 +30,7 @@ private:
     QString m_theme = Themes::rawValue(Themes::fallback);
     qreal m_size = 25;
     bool m_dim = false;
+    QColor m_ground = Qt::transparent;
 };
 
 /// Draws a button whose disc fills the square `disc`. `size` is its diameter in points, which the weight of its lines

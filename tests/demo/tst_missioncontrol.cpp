@@ -50,6 +50,7 @@ private slots:
     void aWindowShowsItsTextsAndItsGlyph();
 
     void theHoveredWindowHasARing();
+    void theRingDoesNotShineThroughTheButtons();
     void aWindowThatIsNotVisibleShowsNeitherRingNorButtons_data();
     void aWindowThatIsNotVisibleShowsNeitherRingNorButtons();
     void aMinimizedWindowMovesDownAndFades();
@@ -239,6 +240,18 @@ void TestMissionControl::theHoveredWindowHasARing()
     QVERIFY(hasRing(*view, 4));
     // Its corners follow those of the window.
     QVERIFY(!isNear(view->pixel(cell(*view, 4), {126.5, 72.5}), EBKit::ink().current()));
+}
+
+void TestMissionControl::theRingDoesNotShineThroughTheButtons()
+{
+    QVariantMap stored = allButtons;
+    stored.insert("buttonTheme", "outline");
+    const std::unique_ptr<DemoView> view(make(stored));
+    view->model().enter(4);
+    const QColor disc = view->pixel(buttons(*view, 4).at(1), {10, 5});
+    // The ring passes below the bar of the second button, from one edge of its disc to the other.
+    for (const qreal x : {4.5, 6.5, 10.5, 13.5, 15.5})
+        QCOMPARE(view->pixel(buttons(*view, 4).at(1), {x, 13.5}), disc);
 }
 
 void TestMissionControl::aWindowThatIsNotVisibleShowsNeitherRingNorButtons_data()
