@@ -47,6 +47,7 @@ Item {
         theme: cluster.theme
         size: cluster.diameter
         ground: cluster.ground
+        isScaled: cluster.scale !== 1
     }
     DemoButton {
         x: cluster.step
@@ -54,6 +55,7 @@ Item {
         theme: cluster.theme
         size: cluster.diameter
         ground: cluster.ground
+        isScaled: cluster.scale !== 1
         opacity: cluster.minimizeShare
         visible: opacity > 0
     }
@@ -63,6 +65,7 @@ Item {
         theme: cluster.theme
         size: cluster.diameter
         ground: cluster.ground
+        isScaled: cluster.scale !== 1
         opacity: cluster.maximizeShare
         visible: opacity > 0
     }

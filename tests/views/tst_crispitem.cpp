@@ -76,6 +76,22 @@ private slots:
         QVERIFY(qAbs(black + white - geometry.width() * scale) < 1);
     }
 
+    void whileItIsScaledItsPixelsAreBlended()
+    {
+        m_item->setPosition({10, 10});
+        m_item->setSize({40, 40});
+        m_item->setScale(0.5);
+        m_item->setProperty("isScaled", true);
+        const QImage image = m_window->grabWindow();
+        const qreal scale = m_window->effectiveDevicePixelRatio();
+        int grey = 0;
+        for (int x = int(22 * scale); x < int(38 * scale); ++x) {
+            const int level = qGray(image.pixel(x, int(30 * scale)));
+            grey += level > 40 && level < 215 ? 1 : 0;
+        }
+        QVERIFY2(grey >= 0.9 * 16 * scale, qPrintable(QString::number(grey)));
+    }
+
     void itIsPaintedAnewOnlyWhenSomethingChanges()
     {
         m_item->setSize({24, 24});

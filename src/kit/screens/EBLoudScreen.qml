@@ -108,6 +108,7 @@ FocusScope {
         size: 74 * screen.k
         color: EBEnvironment.onLoud
         scale: 0.92 + 0.08 * screen.entrance
+        isScaled: scale !== 1
         transformOrigin: LayoutMirroring.enabled ? Item.TopRight : Item.TopLeft
     }
     EBText {

@@ -62,8 +62,8 @@ QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     if (!node) {
         node = window()->createImageNode();
         node->setOwnsTexture(true);
-        node->setFiltering(QSGTexture::Nearest);
     }
+    node->setFiltering(m_isScaled ? QSGTexture::Linear : QSGTexture::Nearest);
     node->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel));
     node->setRect(QRectF(origin, QSizeF(pixels) / scale));
     return node;

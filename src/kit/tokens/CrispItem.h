@@ -15,6 +15,9 @@ class QPainter;
 class CrispItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS
+    /// The item or one around it has a scale other than 1, as in an animation: its pixels are blended then, which would
+    /// blur them while they are shown as they were painted.
+    Q_PROPERTY(bool isScaled MEMBER m_isScaled NOTIFY changed)
 public:
     explicit CrispItem(QQuickItem *parent = nullptr);
 
@@ -41,4 +44,5 @@ private:
     qreal scaleFactor() const;
 
     qreal m_bleed = 0;
+    bool m_isScaled = false;
 };
