@@ -29,6 +29,7 @@ EBStageScreen {
 
         ButtonsPreview {
             width: 176
+            height: card.height
             theme: screen.theme
             size: screen.size
             showMinimize: look.showMinimize
@@ -37,6 +38,8 @@ EBStageScreen {
             buttonScale: 1
         }
         EBGroup {
+            id: card
+
             width: parent.width - 176 - parent.spacing
             ruleInset: 0
 

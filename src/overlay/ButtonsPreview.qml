@@ -3,8 +3,8 @@ import Embera.Tokens
 import Embera.Rows
 import Corvane.Overlay
 
-/// A window with its buttons, in a well that spans the available width: what the agent will draw. One element for
-/// accessibility.
+/// A window with its buttons, in the middle of a well that spans the available width: what the agent will draw. One
+/// element for accessibility.
 EBWell {
     id: preview
 
@@ -21,6 +21,7 @@ EBWell {
     property real diameter: ButtonChoices.diameter(size) * buttonScale
     readonly property motionSpring spring: Motion.spring(0.3, 0.8)
 
+    implicitHeight: picture.height
     Accessible.role: Accessible.Graphic
     Accessible.name: qsTr("Preview of the buttons")
 
@@ -34,7 +35,9 @@ EBWell {
     // The room that the buttons need around the window's corner counts as part of the picture, which stands in the
     // middle.
     Item {
-        anchors.horizontalCenter: parent.horizontalCenter
+        id: picture
+
+        anchors.centerIn: parent
         width: fake.x + fake.width
         height: fake.y + fake.height + 18
 
