@@ -17,7 +17,7 @@ void EBKitAppTest::everyProductHasItsMark()
     for (const EBApp app : EBApps::allCases) {
         const EBKitMark mark = EBKitMarks::of(app);
         QCOMPARE(EBKitMarks::rawValue(mark), EBApps::rawValue(app));
-        QCOMPARE(EBKitMarks::path(mark, rect), MarkShape{app}.path(rect));
+        QCOMPARE(EBKitMarks::path(mark, rect, {}), MarkShape{app}.sharpPath(rect, {}));
     }
 }
 

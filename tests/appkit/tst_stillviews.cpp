@@ -51,7 +51,7 @@ private slots:
             COMPARE_COLOR(picture.at(tile.center().x(), tile.top() + 1), EBApps::family(app).accent.current());
             COMPARE_COLOR(picture.at(tile.left() + 1, tile.center().y()), EBApps::family(app).accent.current());
             COMPARE_COLOR(picture.at(tile.topLeft() + QPointF(0.5, 0.5)), ground);
-            const QPointF onMark = EBKitMarks::path(EBKitMarks::of(app), tile).elementAt(0) + QPointF(0, 0);
+            const QPointF onMark = EBKitMarks::path(EBKitMarks::of(app), tile, {}).elementAt(0) + QPointF(0, 0);
             QVERIFY(tile.contains(onMark));
             int marked = 0;
             for (qreal x = tile.left(); x < tile.right(); ++x)

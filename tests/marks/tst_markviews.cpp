@@ -162,6 +162,8 @@ private slots:
 
     void aMarkIsFilledInItsColorInsideItsSize();
     void aMarkKeepsItsSizeInTheMiddleOfAnotherItem();
+    void aSmallMarkStandsOnPixels_data();
+    void aSmallMarkStandsOnPixels();
     void aMarkFollowsItsFields();
     void aMarkWithoutFieldsIsTheProductsInInk();
     void anUnknownProductDrawsNothing();
@@ -230,6 +232,29 @@ void TestMarkViews::aMarkKeepsItsSizeInTheMiddleOfAnotherItem()
     // The block begins half a pixel in.
     QVERIFY(QRect(73, 23, 54, 54).contains(block));
     QVERIFY(block.contains(QRect(74, 24, 52, 52)));
+}
+
+void TestMarkViews::aSmallMarkStandsOnPixels_data()
+{
+    QTest::addColumn<int>("size");
+    for (const int size : {18, 24, 26, 28, 32})
+        QTest::addRow("%d", size) << size;
+}
+
+/// Across both pills there is ink and ground, and nothing between; the gap is as wide both ways.
+void TestMarkViews::aSmallMarkStandsOnPixels()
+{
+    QFETCH(int, size);
+    View view(QStringLiteral("Mark { app: 'corvane'; size: %1; color: 'black' }").arg(size).toUtf8());
+    const QImage picture = view.picture();
+    const QRect block = inked(picture.copy(0, 0, size, size));
+    QVERIFY(std::abs(block.width() - size * 53 / 64.0) <= 1);
+    QCOMPARE(block.width(), block.height());
+    const int middle = block.left() + block.width() * 3 / 4;
+    for (int i = 0; i < block.top() + block.height() / 3; ++i) {
+        for (const QRgb pixel : {picture.pixel(i, block.center().y()), picture.pixel(middle, i)})
+            QVERIFY2(qGray(pixel) == 0 || qGray(pixel) == 255, qPrintable(QString::number(qGray(pixel))));
+    }
 }
 
 void TestMarkViews::aMarkFollowsItsFields()

@@ -4,7 +4,7 @@
 
 static_assert(EBKitMarks::allCases.size() == EBApps::allCases.size());
 
-QPainterPath EBKitMarks::path(EBKitMark mark, const QRectF &rect)
+QPainterPath EBKitMarks::path(EBKitMark mark, const QRectF &rect, const QTransform &toPixels)
 {
-    return MarkShape{static_cast<EBApp>(mark)}.path(rect);
+    return MarkShape{static_cast<EBApp>(mark)}.sharpPath(rect, toPixels);
 }

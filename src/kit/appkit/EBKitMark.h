@@ -4,6 +4,7 @@
 
 #include <QPainterPath>
 #include <QRectF>
+#include <QTransform>
 
 /// The marks of the hand-drawn views: one a product, in the products' order.
 enum class EBKitMark {
@@ -15,6 +16,6 @@ enum class EBKitMark {
 struct EBKitMarks : NamedCases<EBKitMark> {
     static constexpr EBKitMark of(EBApp app) { return static_cast<EBKitMark>(app); }
 
-    /// The outline of the product's mark in `rect`, as `MarkShape` fits it.
-    static QPainterPath path(EBKitMark mark, const QRectF &rect);
+    /// The outline of the product's mark in `rect`, as `MarkShape` fits it and puts it on pixels.
+    static QPainterPath path(EBKitMark mark, const QRectF &rect, const QTransform &toPixels);
 };

@@ -64,7 +64,7 @@ void EBKitPanelHeader::placeContent()
 void EBKitPanelHeader::draw(QPainter &painter)
 {
     paintContinuousRect(&painter, m_tileRect, tileRadius, m_app.color.current());
-    painter.fillPath(EBKitMarks::path(m_app.mark, m_tileRect), m_app.onColor.current());
+    painter.fillPath(EBKitMarks::path(m_app.mark, m_tileRect, painter.deviceTransform()), m_app.onColor.current());
     if (m_label)
         KitText::draw(painter, KitText::capitals(*m_label), m_labelRect, layoutDirection());
     KitText::draw(painter, m_name, m_nameRect, layoutDirection());

@@ -24,5 +24,5 @@ void MarkFace::paint(QPainter *painter)
         return;
     QRectF box(0, 0, m_size, m_size);
     box.moveCenter(boundingRect().center());
-    painter->fillPath(MarkShape{*product}.path(box), m_color);
+    painter->fillPath(MarkShape{*product}.sharpPath(box, painter->deviceTransform()), m_color);
 }

@@ -41,12 +41,16 @@ std::span<const QRectF> MarkGeometry::parts(EBApp app)
     return {};
 }
 
+void MarkGeometry::add(QPainterPath &path, const QRectF &part)
+{
+    if (part.width() == part.height())
+        path.addEllipse(part);
+    else
+        path.addPath(continuousRect(part, std::min(part.width(), part.height()) / 2));
+}
+
 void MarkGeometry::fill(QPainterPath &path, EBApp app)
 {
-    for (const QRectF &part : parts(app)) {
-        if (part.width() == part.height())
-            path.addEllipse(part);
-        else
-            path.addPath(continuousRect(part, std::min(part.width(), part.height()) / 2));
-    }
+    for (const QRectF &part : parts(app))
+        add(path, part);
 }

@@ -27,6 +27,9 @@ inline constexpr QRectF block(33.5, 33.5, 53, 53);
 /// The parts of a mark, in drawing order: a square is a circle, any other rectangle a pill along its long side.
 std::span<const QRectF> parts(EBApp app);
 
+/// Appends one part of a mark, at any scale.
+void add(QPainterPath &path, const QRectF &part);
+
 /// Appends the product's mark to `path`.
 void fill(QPainterPath &path, EBApp app);
 
