@@ -12,7 +12,7 @@ void drawGlyph(QPainter &painter, EBKitGlyph glyph, qreal side, const QColor &co
     painter.save();
     painter.translate(glyphBox(painter, side, bounds).topLeft());
     painter.scale(side / glyphGridSide, side / glyphGridSide);
-    painter.strokePath(EBKitGlyphs::path(glyph),
-                       QPen(color, glyphGridStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    strokeExactly(&painter, EBKitGlyphs::path(glyph),
+                  QPen(color, glyphGridStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.restore();
 }

@@ -37,11 +37,16 @@ QRectF glyphBox(const QPainter &painter, qreal size, const QRectF &bounds)
     return box;
 }
 
+void strokeExactly(QPainter *painter, const QPainterPath &path, const QPen &pen)
+{
+    painter->fillPath(QPainterPathStroker(pen).createStroke(path), pen.color());
+}
+
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds)
 {
     if (!(size > 0))
         return;
     QPen pen(color, glyphStrokeWidth(size), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     pen.setMiterLimit(10);
-    painter->strokePath(GlyphShape{name}.path(glyphBox(*painter, size, bounds)), pen);
+    strokeExactly(painter, GlyphShape{name}.path(glyphBox(*painter, size, bounds)), pen);
 }

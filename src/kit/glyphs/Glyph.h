@@ -35,5 +35,9 @@ QPointF sharpCenter(const QPainter &painter, QPointF center, qreal lineWidth);
 /// glyph are sharp.
 QRectF glyphBox(const QPainter &painter, qreal size, const QRectF &bounds);
 
+/// Strokes a path as QPainter does, but exactly also where the line is up to a pixel wide: QPainter's own code for such
+/// lines draws diagonals half a pixel aside and too pale.
+void strokeExactly(QPainter *painter, const QPainterPath &path, const QPen &pen);
+
 /// Strokes a glyph of `size` points in its `glyphBox`.
 void paintGlyph(QPainter *painter, GlyphName name, qreal size, const QColor &color, const QRectF &bounds);

@@ -9,8 +9,9 @@ Pressable {
 
     required property string glyph
 
-    implicitWidth: 14
-    implicitHeight: 14
+    // An odd number of points: the lines of the glyph run along pixels and through the middle of the disc.
+    implicitWidth: 15
+    implicitHeight: 15
     opacity: enabled ? 1 : 0.4
     focusPolicy: Qt.TabFocus
 
@@ -24,12 +25,9 @@ Pressable {
             control: button
         }
     }
-    contentItem: Item {
-        Glyph {
-            anchors.centerIn: parent
-            name: button.glyph
-            size: 10
-            color: button.hovered ? EB.ink : EB.inkMuted
-        }
+    contentItem: Glyph {
+        name: button.glyph
+        size: 12
+        color: button.hovered ? EB.ink : EB.inkMuted
     }
 }
