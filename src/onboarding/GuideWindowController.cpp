@@ -9,6 +9,8 @@
 namespace {
 
 constexpr QSize guideSize(560, 388); // points
+// In line with the texts of the practice and the choice of a look, and well above them.
+constexpr QPoint buttonsPlace(28, 12);
 
 }
 
@@ -16,7 +18,8 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
                                              std::function<void()> onFinish)
     : m_onFinish(std::move(onFinish)),
       m_flow(run, [this] { finish(); }),
-      m_window(guideSize, {.miniaturizeButtonEnabled = false, .movableByWindowBackground = true})
+      m_window(guideSize,
+               {.miniaturizeButtonEnabled = false, .movableByWindowBackground = true, .buttonsPlace = buttonsPlace})
 {
     m_window.setTitle(tr("Welcome to Corvane"));
     m_window.center();

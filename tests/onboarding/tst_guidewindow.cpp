@@ -28,6 +28,8 @@ private slots:
     void theGroundIsPaper();
     void whereTextRunsTheOtherWayEveryScreenIsMirrored_data();
     void whereTextRunsTheOtherWayEveryScreenIsMirrored();
+    void theButtonsStandInLineWithTheTextsAndClearOfThem_data();
+    void theButtonsStandInLineWithTheTextsAndClearOfThem();
     void escapeEndsTheOnboardingOnEveryStep_data();
     void escapeEndsTheOnboardingOnEveryStep();
     void everyOtherKeyPassesThrough();
@@ -122,8 +124,8 @@ void TestGuideWindow::theWindowCannotBeMiniaturizedOrResized()
 void TestGuideWindow::theCloseButtonStandsOutOnALoudScreen()
 {
     showGuide();
-    const QPoint insideTheDisc(29, 18);
-    const QPoint besideIt(29, 12);
+    const QPoint insideTheDisc(35, 14);
+    const QPoint besideIt(35, 9);
     const QImage picture = window().grabWindow();
     const qreal scale = picture.devicePixelRatio();
     QVERIFY(picture.pixelColor(besideIt * scale).saturation() > 100);
@@ -172,6 +174,26 @@ void TestGuideWindow::whereTextRunsTheOtherWayEveryScreenIsMirrored()
     };
     QCOMPARE(frame(name), mirrored(usual));
     QCOMPARE(frame("Close"), mirrored(usualClose));
+}
+
+void TestGuideWindow::theButtonsStandInLineWithTheTextsAndClearOfThem_data()
+{
+    QTest::addColumn<OnboardingStep>("step");
+    QTest::newRow("the practice") << OnboardingStep::tryIt;
+    QTest::newRow("the look") << OnboardingStep::customize;
+}
+
+void TestGuideWindow::theButtonsStandInLineWithTheTextsAndClearOfThem()
+{
+    QFETCH(OnboardingStep, step);
+    showGuide();
+    m_guide->flow().go(step);
+    window().grabWindow();
+    const QRectF close = frame("Close");
+    const QRectF text = frame(m_guide->flow().kicker(OnboardingSteps::caseName(step)));
+    QVERIFY(!close.isEmpty() && !text.isEmpty());
+    QCOMPARE(close.left(), text.left());
+    QVERIFY2(text.top() - close.bottom() >= 8, qPrintable(QString::number(text.top() - close.bottom())));
 }
 
 void TestGuideWindow::escapeEndsTheOnboardingOnEveryStep_data()

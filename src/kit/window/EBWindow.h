@@ -12,12 +12,15 @@ class EBWindow : public QQuickWindow {
     QML_ELEMENT
     QML_UNCREATABLE("A window is made in C++, where its owner is")
     Q_PROPERTY(bool miniaturizeButtonEnabled READ miniaturizeButtonEnabled CONSTANT)
+    Q_PROPERTY(QPoint buttonsPlace READ buttonsPlace CONSTANT)
     Q_PROPERTY(bool shortcutsEnabled READ shortcutsEnabled NOTIFY shortcutsEnabledChanged)
 public:
     struct Style {
         bool miniaturizeButtonEnabled = false;
         /// Any place that takes no clicks of its own moves the window, not only the title-bar strip.
         bool movableByWindowBackground = false;
+        /// Where the first button stands, from the window's leading top corner.
+        QPoint buttonsPlace = {22, 16};
     };
 
     /// `contentSize` in points; the person cannot change it.
@@ -38,6 +41,7 @@ public:
     int targetHeight() const;
 
     bool miniaturizeButtonEnabled() const { return m_style.miniaturizeButtonEnabled; }
+    QPoint buttonsPlace() const { return m_style.buttonsPlace; }
 
     /// Whether the window's own shortcuts, Ctrl+W and Ctrl+Q, close it and quit. True unless set.
     bool shortcutsEnabled() const { return m_shortcutsEnabled; }

@@ -25,8 +25,8 @@ Item {
         anchors {
             left: parent.left
             top: parent.top
-            leftMargin: 22
-            topMargin: 16
+            leftMargin: chrome.window.buttonsPlace.x
+            topMargin: chrome.window.buttonsPlace.y
         }
         spacing: 8
 
