@@ -2,6 +2,7 @@
 #include "FakePlatform.h"
 #include "Fonts.h"
 #include "TestProgram.h"
+#include "Wrapping.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -62,6 +63,10 @@ private slots:
     void itsImplicitSizeHoldsEveryGlyph();
     void itsImplicitWidthIsEnoughForOneLine_data() { texts(); }
     void itsImplicitWidthIsEnoughForOneLine();
+
+    void aBalancedTextLeavesNoSingleLastWord();
+    void balancingTakesNoMoreLines();
+    void itsHeightForAnotherTextIsThatItTakes();
 
     void itIsPlainInkOfTheBodyRoleUnlessTold();
     void aWeightAndASizeReplaceThoseOfTheRole();
@@ -188,6 +193,47 @@ void TestEBText::itsImplicitWidthIsEnoughForOneLine()
     QCOMPARE(m_item->property("truncated"), QVariant(false));
     makeFetched("width: implicitWidth; wrapMode: Text.Wrap");
     QCOMPARE(m_item->property("lineCount"), QVariant(1));
+}
+
+void TestEBText::aBalancedTextLeavesNoSingleLastWord()
+{
+    make("wrapMode: Text.Wrap; text: 'Drop Corvane onto the Accessibility list above.'");
+    QStringList loose;
+    for (int width = 120; width < 300; ++width) {
+        m_item->setWidth(width);
+        m_item->setProperty("balanced", false);
+        loose.append(lastLine(*m_item));
+        m_item->setProperty("balanced", true);
+        QVERIFY2(lastLine(*m_item).contains(u' '), qPrintable(lastLine(*m_item)));
+    }
+    QVERIFY(loose.contains(QStringLiteral("above.")));
+}
+
+void TestEBText::balancingTakesNoMoreLines()
+{
+    make("wrapMode: Text.Wrap; text: 'Drop Corvane onto the Accessibility list above.'");
+    for (const Qt::Alignment alignment : {Qt::AlignLeft, Qt::AlignRight}) {
+        m_item->setProperty("horizontalAlignment", int(alignment));
+        for (int width = 60; width < 340; ++width) {
+            m_item->setWidth(width);
+            m_item->setProperty("balanced", false);
+            const int lines = m_item->property("lineCount").toInt();
+            m_item->setProperty("balanced", true);
+            QCOMPARE(m_item->property("lineCount").toInt(), lines);
+            QVERIFY(m_item->property("contentWidth").toReal() <= width);
+        }
+    }
+}
+
+void TestEBText::itsHeightForAnotherTextIsThatItTakes()
+{
+    const QString other = QStringLiteral("Switch on Corvane in the list. Not there? Drag in the tile.");
+    make("wrapMode: Text.Wrap; width: 120; text: 'Allowed.'");
+    qreal height = 0;
+    QVERIFY(QMetaObject::invokeMethod(m_item.get(), "heightOf", Q_RETURN_ARG(qreal, height), Q_ARG(QString, other)));
+    m_item->setProperty("text", other);
+    QVERIFY(m_item->property("lineCount").toInt() >= 3);
+    QCOMPARE(height, m_item->implicitHeight());
 }
 
 void TestEBText::itIsPlainInkOfTheBodyRoleUnlessTold()

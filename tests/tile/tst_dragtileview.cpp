@@ -8,6 +8,7 @@
 #include "OnDesktop.h"
 #include "TestProgram.h"
 #include "Views.h"
+#include "Wrapping.h"
 
 #include <QAccessible>
 #include <QDrag>
@@ -146,6 +147,7 @@ void DragTileViewTest::theIconTheTextsAndTheArrowStandWhereTheyShould()
     QCOMPARE(title->property("font").value<QFont>().weight(), QFont::DemiBold);
     QCOMPARE(hint->property("font").value<QFont>().pixelSize(), 11);
     QCOMPARE(hint->property("font").value<QFont>().weight(), QFont::Normal);
+    QVERIFY2(lastLine(*hint).contains(u' '), qPrintable(lastLine(*hint)));
 }
 
 void DragTileViewTest::whereTextRunsTheOtherWayTheTileIsMirrored()

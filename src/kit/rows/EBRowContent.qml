@@ -68,6 +68,7 @@ Item {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
                 wrapMode: Text.Wrap
+                balanced: true
                 visible: text !== ""
                 Accessible.ignored: !visible
             }

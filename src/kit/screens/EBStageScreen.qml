@@ -85,6 +85,7 @@ Rectangle {
             color: EB.inkMuted
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap
+            balanced: true
             Accessible.role: screen.isLive ? Accessible.Notification : Accessible.StaticText
             Accessible.name: text
             Accessible.onNameChanged: if (screen.isLive)

@@ -119,6 +119,7 @@ Item {
                 color: EB.inkMuted
                 horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
+                balanced: true
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }

@@ -6,4 +6,5 @@ EBText {
     color: EBEnvironment.onLoud
     horizontalAlignment: Text.AlignLeft
     wrapMode: Text.Wrap
+    balanced: true
 }

@@ -3,6 +3,9 @@
 #include "EBKitFonts.h"
 
 #include <QGuiApplication>
+#include <QTextLayout>
+
+#include <cmath>
 
 namespace {
 
@@ -91,6 +94,61 @@ QFont EBTypes::systemFont(qreal size, QFont::Weight weight)
     font.setPixelSize(qRound(size));
     font.setWeight(weight);
     return font;
+}
+
+namespace {
+
+/// A text as `EBText` wraps it, in one width after the other.
+class Wrapping {
+public:
+    Wrapping(const QString &text, const QFont &font) : m_layout(text, font)
+    {
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        option.setUseDesignMetrics(true);
+        m_layout.setTextOption(option);
+    }
+
+    int lineCount(qreal width)
+    {
+        m_layout.beginLayout();
+        for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine())
+            line.setLineWidth(width);
+        m_layout.endLayout();
+        return m_layout.lineCount();
+    }
+
+    /// The last of several lines is a single word.
+    bool endsInALoneWord() const
+    {
+        const int lines = m_layout.lineCount();
+        return lines > 1 && !m_layout.text().mid(m_layout.lineAt(lines - 1).textStart()).trimmed().contains(u' ');
+    }
+
+private:
+    QTextLayout m_layout;
+};
+
+}
+
+qreal EBType::balancedWidth(const QString &text, const QFont &font, qreal width) const
+{
+    Wrapping wrapping(text, font);
+    const int lines = width > 0 ? wrapping.lineCount(width) : 0;
+    if (!wrapping.endsInALoneWord())
+        return width;
+    int tooNarrow = 0;
+    int wide = int(std::ceil(width));
+    while (wide - tooNarrow > 1) {
+        const int middle = (tooNarrow + wide) / 2;
+        (wrapping.lineCount(middle) > lines ? tooNarrow : wide) = middle;
+    }
+    return std::min(width, qreal(wide));
+}
+
+int EBType::lineCount(const QString &text, const QFont &font, qreal width) const
+{
+    return Wrapping(text, font).lineCount(width);
 }
 
 QFont EBType::font(const QString &role, int weight, qreal size) const

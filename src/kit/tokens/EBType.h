@@ -42,4 +42,11 @@ class EBType : public QObject {
 public:
     /// A weight of 0 keeps the role's own; a size of 0 too. The tracking grows with the size.
     Q_INVOKABLE QFont font(const QString &role, int weight = 0, qreal size = 0) const;
+
+    /// `width`, where the text wraps without leaving a single word for its last line; else the smallest width, in whole
+    /// points, that takes no more lines: they are about equally long there.
+    Q_INVOKABLE qreal balancedWidth(const QString &text, const QFont &font, qreal width) const;
+
+    /// How many lines the text wraps onto in this width.
+    Q_INVOKABLE int lineCount(const QString &text, const QFont &font, qreal width) const;
 };

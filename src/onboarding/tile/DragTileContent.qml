@@ -88,6 +88,7 @@ ContinuousRectangle {
             text: qsTr("Drop Corvane onto the Accessibility list above.")
             role: "caption"
             wrapMode: Text.Wrap
+            balanced: true
             horizontalAlignment: Text.AlignLeft
             Accessible.ignored: true
         }
