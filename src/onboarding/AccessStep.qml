@@ -4,7 +4,7 @@ import Embera.Rows
 import Embera.Screens
 import Corvane.Onboarding
 
-/// The permission that the agent needs.
+/// The permission that the agent needs. The buttons keep their place while it is asked for and when it arrives.
 EBStepScreen {
     id: screen
 
@@ -15,15 +15,16 @@ EBStepScreen {
     current: 2
     kicker: flow.kicker("access")
     title: qsTr("One permission, then you're done")
-    text: flow.trusted ? qsTr("Corvane can now see which window you point at.")
-                       : qsTr("macOS asks you first before Corvane can tell which window the pointer is on. Nothing is recorded or sent anywhere.")
+    text: flow.trusted ? qsTr("Corvane can now see which window you point at.") : longestText
+    longestText: qsTr("macOS asks you first before Corvane can tell which window the pointer is on. Nothing is recorded or sent anywhere.")
 
     EBRow {
         glyph: "key"
         title: qsTr("Accessibility")
         detail: screen.flow.trusted ? qsTr("Allowed in System Settings.")
-              : screen.flow.accessRequested ? qsTr("Switch on Corvane in the list. Not there? Drag in the tile under System Settings.")
+              : screen.flow.accessRequested ? longestDetail
               : qsTr("Opens Privacy & Security in System Settings.")
+        longestDetail: qsTr("Switch on Corvane in the list. Not there? Drag in the tile under System Settings.")
 
         EBStatus {
             state: screen.flow.trusted ? "allowed" : "waiting"

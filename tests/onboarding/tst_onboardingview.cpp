@@ -2,6 +2,7 @@
 #include "OnboardingFlow.h"
 #include "TestProgram.h"
 #include "ViewWindow.h"
+#include "Wrapping.h"
 
 #include <memory>
 
@@ -52,6 +53,9 @@ private slots:
     void theAccessStepChangesOnceThePermissionWasAskedFor();
     void theAccessStepShowsThePermission();
     void theButtonsOfTheAccessStepGoOnAndBack();
+    void theButtonsOfTheAccessStepKeepTheirPlace();
+    void noSingleWordIsLeftForALastLine();
+    void thePreviewIsAsHighAsTheCardBesideIt();
     void theCustomizeStepShowsAndStoresTheLook();
     void theCustomizeStepShowsTheDefaultsForWhatNobodyKnows();
     void theButtonsOfTheCustomizeStepGoOnAndBack();
@@ -321,6 +325,45 @@ void TestOnboardingView::theButtonsOfTheAccessStepGoOnAndBack()
     click(control("Skip"));
     QCOMPARE(step(), "customize");
     QCOMPARE(commands(), QStringList());
+}
+
+void TestOnboardingView::theButtonsOfTheAccessStepKeepTheirPlace()
+{
+    make(OnboardingStep::access);
+    const auto place = [&](const QString &button) {
+        m_guide->waitForFrame();
+        return m_guide->rectOf(control(button)).topLeft();
+    };
+    const QPointF before = place("Open System Settings");
+    m_flow->requestAccess();
+    QCOMPARE(place("Open Again"), before);
+    m_store->setValue("agent.accessibilityTrusted", true);
+    QCOMPARE(place("Continue"), before);
+}
+
+void TestOnboardingView::noSingleWordIsLeftForALastLine()
+{
+    m_store->setValue("agent.accessibilityTrusted", true);
+    make(OnboardingStep::access);
+    const auto last = [&](const QString &text) { return lastLine(*m_guide->textItem(text)); };
+    const QString allowed = last("Corvane can now see which window you point at.");
+    QVERIFY2(allowed.contains(u' '), qPrintable(allowed));
+    m_flow->go(OnboardingStep::welcome);
+    const QString welcome =
+        last("Close, minimize and full-screen windows right in Mission Control. Hover a window for its "
+             "buttons, or use the shortcuts you already know.");
+    QVERIFY2(welcome.contains(u' '), qPrintable(welcome));
+}
+
+void TestOnboardingView::thePreviewIsAsHighAsTheCardBesideIt()
+{
+    make(OnboardingStep::customize);
+    const QQuickItem *preview = control("Preview of the buttons", QAccessible::Graphic);
+    QVERIFY(preview);
+    const auto beside = preview->parentItem()->childItems();
+    QCOMPARE(beside.size(), 2);
+    QCOMPARE(preview->height(), beside.constLast()->height());
+    QVERIFY(preview->height() > 150);
 }
 
 void TestOnboardingView::theCustomizeStepShowsAndStoresTheLook()

@@ -12,14 +12,18 @@ Item {
     property string glyph
     property string title
     property string detail
+    /// The longest detail that may come to stand there: its height is kept free, so that nothing below the row moves.
+    property string longestDetail
     property real minHeight: 0
     default property alias trailing: trailingRow.data
     /// Everything in the row's width that is not text.
     readonly property real edges: 2 * KitMetrics.rowInset + (glyph !== "" ? disc.width + KitMetrics.rowSpacing : 0)
         + (trailingRow.width > 0 ? trailingRow.width + KitMetrics.rowSpacing : 0)
 
+    readonly property real reserve: longestDetail === "" ? 0 : Math.max(0, detailText.heightOf(longestDetail) - detailText.height)
+
     implicitWidth: edges + Math.max(titleText.implicitWidth, detailText.implicitWidth)
-    implicitHeight: Math.max(minHeight, content.implicitHeight + 2 * KitMetrics.rowPadding)
+    implicitHeight: Math.max(minHeight, content.implicitHeight + reserve + 2 * KitMetrics.rowPadding)
     width: parent?.width ?? implicitWidth
 
     Row {

@@ -17,6 +17,8 @@ Item {
     property alias kicker: label.text
     property alias title: heading.text
     property alias text: paragraph.text
+    /// The longest text that may come to stand there: its height is kept free, so that nothing below moves.
+    property string longestText
     /// What stands in the card; rows and the rules between them.
     default property alias rows: card.content
     /// The buttons.
@@ -116,6 +118,7 @@ Item {
                 id: paragraph
 
                 width: Math.min(310, parent.width)
+                height: Math.max(implicitHeight, heightOf(screen.longestText))
                 color: EB.inkMuted
                 horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
