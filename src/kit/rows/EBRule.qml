@@ -1,6 +1,7 @@
 import QtQuick
 import Embera.Tokens
 import Embera.Controls
+import Embera.Rows
 
 /// A hairline across the card.
 Item {
@@ -12,7 +13,7 @@ Item {
     implicitHeight: KitMetrics.ruleHeight
     width: parent?.width ?? implicitWidth
 
-    ContinuousRectangle {
+    RuleFace {
         anchors {
             left: parent.left
             leftMargin: rule.inset
@@ -20,7 +21,6 @@ Item {
             top: parent.top
             bottom: parent.bottom
         }
-        radius: 0
         color: EB.line
     }
 }
