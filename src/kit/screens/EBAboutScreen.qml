@@ -82,6 +82,7 @@ Rectangle {
             width: parent.width
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap
+            balanced: true
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }

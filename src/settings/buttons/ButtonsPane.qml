@@ -50,6 +50,7 @@ PaneStack {
                 color: EB.inkMuted
                 horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
+                balanced: true
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
