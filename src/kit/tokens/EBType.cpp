@@ -3,6 +3,7 @@
 #include "EBKitFonts.h"
 
 #include <QGuiApplication>
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 
 #include <cmath>
@@ -98,57 +99,74 @@ QFont EBTypes::systemFont(qreal size, QFont::Weight weight)
 
 namespace {
 
-/// A text as `EBText` wraps it, in one width after the other.
-class Wrapping {
-public:
-    Wrapping(const QString &text, const QFont &font) : m_layout(text, font)
-    {
-        QTextOption option;
-        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-        option.setUseDesignMetrics(true);
-        m_layout.setTextOption(option);
-    }
-
-    int lineCount(qreal width)
-    {
-        m_layout.beginLayout();
-        for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine())
-            line.setLineWidth(width);
-        m_layout.endLayout();
-        return m_layout.lineCount();
-    }
-
-    /// The last of several lines is a single word.
-    bool endsInALoneWord() const
-    {
-        const int lines = m_layout.lineCount();
-        return lines > 1 && !m_layout.text().mid(m_layout.lineAt(lines - 1).textStart()).trimmed().contains(u' ');
-    }
-
-private:
-    QTextLayout m_layout;
+struct Wrapped {
+    int lines = 1;
+    /// The last line's first piece.
+    qsizetype lastStart = 0;
 };
 
+Wrapped wrapped(const QList<EBType::Piece> &pieces, qreal width)
+{
+    Wrapped result;
+    for (qsizetype i = 1; i < pieces.size(); ++i) {
+        if (std::abs(pieces[i].end - pieces[result.lastStart].start) <= width)
+            continue;
+        ++result.lines;
+        result.lastStart = i;
+    }
+    return result;
+}
+
+}
+
+QList<EBType::Piece> EBType::pieces(const QString &text, const QFont &font) const
+{
+    const auto key = std::pair(text, font);
+    if (const QList<Piece> *known = m_pieces.object(key))
+        return *known;
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    option.setUseDesignMetrics(true);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    QList<Piece> pieces;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    for (qsizetype from = 0, to = finder.toNextBoundary(); line.isValid() && to > from; to = finder.toNextBoundary()) {
+        qsizetype end = to;
+        while (end > from && text[end - 1].isSpace())
+            --end;
+        pieces.append({line.cursorToX(int(from)), line.cursorToX(int(end))});
+        from = to;
+    }
+    m_pieces.insert(key, new QList<Piece>(pieces));
+    return pieces;
 }
 
 qreal EBType::balancedWidth(const QString &text, const QFont &font, qreal width) const
 {
-    Wrapping wrapping(text, font);
-    const int lines = width > 0 ? wrapping.lineCount(width) : 0;
-    if (!wrapping.endsInALoneWord())
+    if (!(width > 0))
+        return width;
+    const QList<Piece> all = pieces(text, font);
+    const Wrapped unbalanced = wrapped(all, width);
+    if (unbalanced.lines == 1 || unbalanced.lastStart < all.size() - 1)
         return width;
     int tooNarrow = 0;
+    for (const Piece &piece : all)
+        tooNarrow = std::max(tooNarrow, int(std::abs(piece.end - piece.start)));
     int wide = int(std::ceil(width));
     while (wide - tooNarrow > 1) {
         const int middle = (tooNarrow + wide) / 2;
-        (wrapping.lineCount(middle) > lines ? tooNarrow : wide) = middle;
+        (wrapped(all, middle).lines > unbalanced.lines ? tooNarrow : wide) = middle;
     }
     return std::min(width, qreal(wide));
 }
 
 int EBType::lineCount(const QString &text, const QFont &font, qreal width) const
 {
-    return Wrapping(text, font).lineCount(width);
+    return wrapped(pieces(text, font), width).lines;
 }
 
 QFont EBType::font(const QString &role, int weight, qreal size) const

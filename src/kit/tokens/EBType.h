@@ -2,6 +2,7 @@
 
 #include "CaseNames.h"
 
+#include <QCache>
 #include <QFont>
 #include <QObject>
 #include <qqmlregistration.h>
@@ -49,4 +50,17 @@ public:
 
     /// How many lines the text wraps onto in this width.
     Q_INVOKABLE int lineCount(const QString &text, const QFont &font, qreal width) const;
+
+    /// Part of a text that stays in one line, from where to where it reaches when all of it does. Points; leftward
+    /// where text runs from right to left.
+    struct Piece {
+        qreal start;
+        qreal end;
+    };
+
+private:
+    QList<Piece> pieces(const QString &text, const QFont &font) const;
+
+    // A text is asked about at every change of its width, and measuring it is what takes time.
+    mutable QCache<std::pair<QString, QFont>, QList<Piece>> m_pieces;
 };
