@@ -64,9 +64,10 @@ private slots:
     void itsImplicitWidthIsEnoughForOneLine_data() { texts(); }
     void itsImplicitWidthIsEnoughForOneLine();
 
-    void aBalancedTextLeavesNoSingleLastWord();
-    void balancingTakesNoMoreLines();
-    void itsHeightForAnotherTextIsThatItTakes();
+    void aParagraphLeavesNoSingleLastWord();
+    void aParagraphTakesNoMoreLines();
+    void aParagraphFollowsItsText();
+    void aParagraphsHeightForAnotherTextIsThatItTakes();
 
     void itIsPlainInkOfTheBodyRoleUnlessTold();
     void aWeightAndASizeReplaceThoseOfTheRole();
@@ -74,7 +75,8 @@ private slots:
 
 private:
     void texts();
-    void make(const QByteArray &properties);
+    std::unique_ptr<QQuickItem> made(const QByteArray &type, const QByteArray &properties);
+    void make(const QByteArray &properties) { m_item = made("EBText", properties); }
     void makeFetched(const QByteArray &properties);
     void removeTracking();
     Ink painted();
@@ -113,14 +115,15 @@ void TestEBText::texts()
     }
 }
 
-void TestEBText::make(const QByteArray &properties)
+std::unique_ptr<QQuickItem> TestEBText::made(const QByteArray &type, const QByteArray &properties)
 {
     QQmlComponent component(&m_engine);
-    component.setData("import QtQuick\nimport Embera.Tokens\nEBText { " + properties + " }", QUrl());
-    m_item.reset(qobject_cast<QQuickItem *>(component.create()));
-    if (!m_item)
+    component.setData("import QtQuick\nimport Embera.Tokens\n" + type + " { " + properties + " }", QUrl());
+    std::unique_ptr<QQuickItem> item(qobject_cast<QQuickItem *>(component.create()));
+    if (!item)
         throw TestFailure{component.errorString().toUtf8()};
-    m_item->setParentItem(m_window->contentItem());
+    item->setParentItem(m_window->contentItem());
+    return item;
 }
 
 void TestEBText::makeFetched(const QByteArray &properties)
@@ -195,40 +198,52 @@ void TestEBText::itsImplicitWidthIsEnoughForOneLine()
     QCOMPARE(m_item->property("lineCount"), QVariant(1));
 }
 
-void TestEBText::aBalancedTextLeavesNoSingleLastWord()
+void TestEBText::aParagraphLeavesNoSingleLastWord()
 {
-    make("wrapMode: Text.Wrap; text: 'Drop Corvane onto the Accessibility list above.'");
+    const QByteArray properties = "text: 'Drop Corvane onto the Accessibility list above.'; wrapMode: Text.Wrap";
+    const auto plain = made("EBText", properties);
+    m_item = made("EBParagraph", properties);
     QStringList loose;
     for (int width = 120; width < 300; ++width) {
+        plain->setWidth(width);
         m_item->setWidth(width);
-        m_item->setProperty("balanced", false);
-        loose.append(lastLine(*m_item));
-        m_item->setProperty("balanced", true);
+        loose.append(lastLine(*plain));
         QVERIFY2(lastLine(*m_item).contains(u' '), qPrintable(lastLine(*m_item)));
     }
     QVERIFY(loose.contains(QStringLiteral("above.")));
 }
 
-void TestEBText::balancingTakesNoMoreLines()
+void TestEBText::aParagraphTakesNoMoreLines()
 {
-    make("wrapMode: Text.Wrap; text: 'Drop Corvane onto the Accessibility list above.'");
+    const QByteArray properties = "text: 'Drop Corvane onto the Accessibility list above.'; wrapMode: Text.Wrap";
+    const auto plain = made("EBText", properties);
+    m_item = made("EBParagraph", properties);
     for (const Qt::Alignment alignment : {Qt::AlignLeft, Qt::AlignRight}) {
         m_item->setProperty("horizontalAlignment", int(alignment));
         for (int width = 60; width < 340; ++width) {
+            plain->setWidth(width);
             m_item->setWidth(width);
-            m_item->setProperty("balanced", false);
-            const int lines = m_item->property("lineCount").toInt();
-            m_item->setProperty("balanced", true);
-            QCOMPARE(m_item->property("lineCount").toInt(), lines);
+            QCOMPARE(m_item->property("lineCount"), plain->property("lineCount"));
             QVERIFY(m_item->property("contentWidth").toReal() <= width);
         }
     }
 }
 
-void TestEBText::itsHeightForAnotherTextIsThatItTakes()
+void TestEBText::aParagraphFollowsItsText()
+{
+    m_item = made("EBParagraph", "text: 'Drop Corvane onto the Accessibility list above.'");
+    for (int width = 300; width > 120 && m_item->property("slack").toReal() <= 0; --width)
+        m_item->setWidth(width);
+    QVERIFY(m_item->property("slack").toReal() > 0);
+    m_item->setProperty("text", QStringLiteral("Allowed."));
+    QCOMPARE(m_item->property("slack").toReal(), 0.0);
+    QCOMPARE(m_item->property("lineCount").toInt(), 1);
+}
+
+void TestEBText::aParagraphsHeightForAnotherTextIsThatItTakes()
 {
     const QString other = QStringLiteral("Switch on Corvane in the list. Not there? Drag in the tile.");
-    make("wrapMode: Text.Wrap; width: 120; text: 'Allowed.'");
+    m_item = made("EBParagraph", "width: 120; text: 'Allowed.'");
     qreal height = 0;
     QVERIFY(QMetaObject::invokeMethod(m_item.get(), "heightOf", Q_RETURN_ARG(qreal, height), Q_ARG(QString, other)));
     m_item->setProperty("text", other);

@@ -61,18 +61,15 @@ Item {
                 Accessible.name: text
                 wrapMode: Text.Wrap
             }
-            EBText {
+            EBParagraph {
                 id: detailText
 
                 width: parent.width
                 text: row.detail
                 role: "caption"
                 color: EB.inkMuted
-                horizontalAlignment: Text.AlignLeft
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
-                wrapMode: Text.Wrap
-                balanced: true
                 visible: text !== ""
                 Accessible.ignored: !visible
             }

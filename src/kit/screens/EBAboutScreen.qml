@@ -76,13 +76,10 @@ Rectangle {
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
-        EBText {
+        EBParagraph {
             id: paragraph
 
             width: parent.width
-            horizontalAlignment: Text.AlignLeft
-            wrapMode: Text.Wrap
-            balanced: true
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }

@@ -77,15 +77,12 @@ Rectangle {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
-        EBText {
+        EBParagraph {
             id: paragraph
 
             width: parent.width
             topPadding: 4
             color: EB.inkMuted
-            horizontalAlignment: Text.AlignLeft
-            wrapMode: Text.Wrap
-            balanced: true
             Accessible.role: screen.isLive ? Accessible.Notification : Accessible.StaticText
             Accessible.name: text
             Accessible.onNameChanged: if (screen.isLive)

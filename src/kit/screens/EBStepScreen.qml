@@ -114,15 +114,12 @@ Item {
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
-            EBText {
+            EBParagraph {
                 id: paragraph
 
                 width: Math.min(310, parent.width)
                 height: Math.max(implicitHeight, heightOf(screen.longestText))
                 color: EB.inkMuted
-                horizontalAlignment: Text.AlignLeft
-                wrapMode: Text.Wrap
-                balanced: true
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }

@@ -2,9 +2,6 @@ import QtQuick
 import Embera.Tokens
 
 /// A running text in the colour for loud grounds.
-EBText {
+EBParagraph {
     color: EBEnvironment.onLoud
-    horizontalAlignment: Text.AlignLeft
-    wrapMode: Text.Wrap
-    balanced: true
 }

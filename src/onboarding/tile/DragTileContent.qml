@@ -81,15 +81,12 @@ ContinuousRectangle {
             horizontalAlignment: Text.AlignLeft
             Accessible.ignored: true
         }
-        EBText {
+        EBParagraph {
             id: hint
 
             width: parent.width
             text: qsTr("Drop Corvane onto the Accessibility list above.")
             role: "caption"
-            wrapMode: Text.Wrap
-            balanced: true
-            horizontalAlignment: Text.AlignLeft
             Accessible.ignored: true
         }
     }

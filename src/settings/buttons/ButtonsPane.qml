@@ -43,14 +43,11 @@ PaneStack {
                 themeRaw: pane.theme
                 onChosen: themeRaw => pane.look.theme = themeRaw
             }
-            EBText {
+            EBParagraph {
                 width: parent.width - 2 * 16
                 text: ButtonChoices.description(pane.theme)
                 role: "caption"
                 color: EB.inkMuted
-                horizontalAlignment: Text.AlignLeft
-                wrapMode: Text.Wrap
-                balanced: true
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
             }
