@@ -29,6 +29,7 @@ void setIconAfterFirstFrame()
 
 int main(int argc, char *argv[])
 {
+    NativePlatform::secureStreams();
     LaunchFlags::setArguments(argc, argv);
     chooseRenderer();
     // The warm-up and the connection to the display take about as long, and neither needs the other.

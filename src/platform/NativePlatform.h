@@ -9,6 +9,9 @@
 /// The system this is built for. Its folder implements these functions, and only a program's entry calls them.
 namespace NativePlatform {
 
+/// First thing in `main`: makes the process safe from standard streams that are closed, or whose reader goes away.
+void secureStreams();
+
 /// The services. Each is made when it is first asked for, so making them costs nothing. The application object must
 /// exist before any service but the bundles is asked for.
 std::unique_ptr<Platform> make();

@@ -5,6 +5,7 @@
 #include "Service.h"
 #include "TestProgram.h"
 
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -58,6 +59,7 @@ private slots:
 
     void saysOnceWhichFontsAreMissing_data();
     void saysOnceWhichFontsAreMissing();
+    void startsWithoutAStreamForItsComplaints();
     void startsWithoutItsInfoDictionary_data();
     void startsWithoutItsInfoDictionary();
 };
@@ -323,6 +325,18 @@ void TestLaunch::saysOnceWhichFontsAreMissing()
         expectInLog(u"Embera: font "_s + font + u" is missing from the bundle"_s);
     }
     QVERIFY(open({.executable = bundle.executable()}));
+    QVERIFY(showsPage(1, u"General"_s));
+}
+
+// What the program says about the font must not end up in its connection to the display.
+void TestLaunch::startsWithoutAStreamForItsComplaints()
+{
+    const BundleCopy bundle(defaultExecutable());
+    QVERIFY(bundle.isValid() && bundle.remove(u"Resources/GeistMono-Medium.ttf"_s));
+    QVERIFY(bundle.write(u"MacOS/start"_s, "#!/bin/sh\nexec \"${0%/*}/corvane-settings\" 2>&-\n"));
+    const QString start = QFileInfo(bundle.executable()).dir().filePath(u"start"_s);
+    QVERIFY(QFile::setPermissions(start, QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(open({.executable = start}));
     QVERIFY(showsPage(1, u"General"_s));
 }
 

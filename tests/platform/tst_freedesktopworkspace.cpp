@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace {
 
 constexpr QRgb iconColor = qRgb(0, 128, 255);
@@ -38,6 +40,7 @@ private slots:
     void onlyTheGroupOfTheEntryItselfCounts();
     void anApplicationWithoutAnIconHasNone_data();
     void anApplicationWithoutAnIconHasNone();
+    void aDesktopEntryThatIsAPipeIsNotWaitedFor();
     void anIdentifierThatIsNoFileNameHasNoIcon_data();
     void anIdentifierThatIsNoFileNameHasNoIcon();
 
@@ -57,7 +60,7 @@ private:
     QString makeBundle() const;
     QStringList started() const;
     void write(const QString &path, const QString &text) const;
-    QString makeIcon(const QString &path) const;
+    QString makeIcon(const QString &path, QSize size = {48, 48}) const;
     QString makeBundleWithInfo(const QString &info) const;
 
     std::optional<QTemporaryDir> m_folder;
@@ -117,11 +120,11 @@ void FreedesktopWorkspaceTest::write(const QString &path, const QString &text) c
 }
 
 // An icon of one colour, by which it is known again.
-QString FreedesktopWorkspaceTest::makeIcon(const QString &path) const
+QString FreedesktopWorkspaceTest::makeIcon(const QString &path, QSize size) const
 {
     const QString fileName = m_folder->filePath(path);
     QDir().mkpath(QFileInfo(fileName).path());
-    QImage picture(48, 48, QImage::Format_RGB32);
+    QImage picture(size, QImage::Format_RGB32);
     picture.fill(iconColor);
     return picture.save(fileName) ? fileName : QString();
 }
@@ -305,13 +308,33 @@ void FreedesktopWorkspaceTest::anApplicationWithoutAnIconHasNone_data()
     QTest::newRow("a theme does not have it") << QStringLiteral("[Desktop Entry]\nIcon=corvane-test-missing\n");
     QTest::newRow("the file is missing") << QStringLiteral("[Desktop Entry]\nIcon=/nonexistent/icon.png\n");
     QTest::newRow("no desktop entry") << QStringLiteral("\x01\x02\n=\n[\n");
+    QTest::newRow("the file is a pipe") << QStringLiteral("[Desktop Entry]\nIcon=%1/pipe\n");
+    QTest::newRow("the file is larger than any icon") << QStringLiteral("[Desktop Entry]\nIcon=%1/long.svg\n");
+    QTest::newRow("the picture is larger than any icon") << QStringLiteral("[Desktop Entry]\nIcon=%1/wide.png\n");
+    QTest::newRow("an entry larger than any")
+        << QStringLiteral("[Desktop Entry]\nIcon=%1/icon.png\n#") + QString(300'000, u'x') + u'\n';
 }
 
 void FreedesktopWorkspaceTest::anApplicationWithoutAnIconHasNone()
 {
     QFETCH(QString, entry);
+    makeIcon(QStringLiteral("icon.png"));
+    makeIcon(QStringLiteral("wide.png"), {2049, 1});
+    write(QStringLiteral("long.svg"),
+          QStringLiteral(
+              "<svg xmlns='http://www.w3.org/2000/svg' width='48' height='48'><rect width='48' height='48'/>%1</svg>")
+              .arg(QString(5'000'000, u' ')));
+    QCOMPARE(mkfifo(qPrintable(m_folder->filePath(QStringLiteral("pipe"))), 0600), 0);
     if (!entry.isEmpty())
-        write(QStringLiteral("data/applications/app.desktop"), entry);
+        write(QStringLiteral("data/applications/app.desktop"), entry.replace(QStringLiteral("%1"), m_folder->path()));
+    QVERIFY(m_workspace->iconForApplication(QStringLiteral("app")).isNull());
+}
+
+void FreedesktopWorkspaceTest::aDesktopEntryThatIsAPipeIsNotWaitedFor()
+{
+    const QString entry = m_folder->filePath(QStringLiteral("data/applications/app.desktop"));
+    QVERIFY(QDir().mkpath(QFileInfo(entry).path()));
+    QCOMPARE(mkfifo(qPrintable(entry), 0600), 0);
     QVERIFY(m_workspace->iconForApplication(QStringLiteral("app")).isNull());
 }
 

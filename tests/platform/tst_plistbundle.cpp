@@ -3,9 +3,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 
 #include <plist/plist.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -61,6 +64,7 @@ private slots:
     void anInfoPlistThatCannotBeReadIsNoInfoDictionary_data();
     void anInfoPlistThatCannotBeReadIsNoInfoDictionary();
     void aMissingInfoPlistIsNoInfoDictionary();
+    void anInfoPlistThatIsAPipeIsNotWaitedFor();
     void deepNestingIsHarmless_data();
     void deepNestingIsHarmless();
     void anEmptyDictionaryIsAnInfoDictionary();
@@ -68,6 +72,7 @@ private slots:
     void aResourceIsFoundByNameAndExtension();
     void aMissingResourceIsAnEmptyURL();
     void theBundleAroundAnExecutableIsFoundThroughLinks();
+    void aBundleIsFoundInAFolderWhoseNameIsNoText();
     void anExecutableOutsideABundleHasItsFolderForABundle();
     void theExecutableIsTheOneTheInfoPlistNames();
     void withoutAnExistingExecutableThereIsNone();
@@ -162,6 +167,13 @@ void PlistBundleTest::aMissingInfoPlistIsNoInfoDictionary()
     QCOMPARE(bundle.bundleIdentifier(), QString());
 }
 
+void PlistBundleTest::anInfoPlistThatIsAPipeIsNotWaitedFor()
+{
+    QVERIFY(QDir().mkpath(bundlePath() + QStringLiteral("/Contents")));
+    QCOMPARE(mkfifo(qPrintable(bundlePath() + QStringLiteral("/Contents/Info.plist")), 0600), 0);
+    QVERIFY(!PlistBundle(bundlePath()).hasInfoDictionary());
+}
+
 void PlistBundleTest::deepNestingIsHarmless_data()
 {
     QTest::addColumn<QByteArray>("info");
@@ -224,6 +236,28 @@ void PlistBundleTest::theBundleAroundAnExecutableIsFoundThroughLinks()
     QCOMPARE(bundle.bundleURL(), QUrl::fromLocalFile(m_folder->filePath(inner)));
     QCOMPARE(bundle.executable(), executable);
     QVERIFY(bundle.hasInfoDictionary());
+}
+
+void PlistBundleTest::aBundleIsFoundInAFolderWhoseNameIsNoText()
+{
+    write(QStringLiteral("x/Corvane.app/Contents/MacOS/corvane"), "program");
+    write(QStringLiteral("x/Corvane.app/Contents/Info.plist"), goodInfo);
+    write(QStringLiteral("x/Corvane.app/Contents/Resources/LICENSE"), "text");
+    const QByteArray folder = m_folder->path().toUtf8();
+    const QByteArray folderBefore = folder + "/x";
+    const QByteArray named = folder + "/\xff";
+    REQUIRE(rename(folderBefore.constData(), named.constData()) == 0);
+    // Qt cannot remove it under that name.
+    const auto renamed = qScopeGuard([&] { rename(named.constData(), folderBefore.constData()); });
+    const QByteArray program = named + "/Corvane.app/Contents/MacOS/corvane";
+    QCOMPARE(symlink(program.constData(), QByteArray(folder + "/link").constData()), 0);
+    const PlistBundle bundle = PlistBundle::around(m_folder->filePath(QStringLiteral("link")));
+    QCOMPARE(bundle.string(QStringLiteral("CFBundleVersion")), QStringLiteral("212"));
+    QCOMPARE(bundle.bundleURL().fileName(), QStringLiteral("Corvane.app"));
+    QVERIFY(bundle.urlForResource(QStringLiteral("LICENSE"), QString()).isValid());
+    QFile executable(bundle.executable());
+    QVERIFY(executable.open(QFile::ReadOnly));
+    QCOMPARE(executable.readAll(), QByteArray("program"));
 }
 
 void PlistBundleTest::anExecutableOutsideABundleHasItsFolderForABundle()

@@ -41,6 +41,7 @@ std::optional<std::chrono::milliseconds> grantTime(const QCommandLineParser &par
 
 int main(int argc, char *argv[])
 {
+    NativePlatform::secureStreams();
     const bool headless = isGiven(argc, argv, "--headless");
     if (headless)
         qputenv("QT_QPA_PLATFORM", "minimal");

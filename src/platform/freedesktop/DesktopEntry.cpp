@@ -1,5 +1,7 @@
 #include "DesktopEntry.h"
 
+#include "RegularFile.h"
+
 #include <QFile>
 
 #include <glib.h>
@@ -9,6 +11,7 @@
 namespace {
 
 constexpr const char *group = G_KEY_FILE_DESKTOP_GROUP;
+constexpr qint64 largestEntry = 256LL * 1024; // bytes
 
 struct Deleter {
     void operator()(GKeyFile *file) const { g_key_file_unref(file); }
@@ -21,7 +24,8 @@ template <typename Type> using Owned = std::unique_ptr<Type, Deleter>;
 Owned<GKeyFile> read(const QString &path)
 {
     Owned<GKeyFile> file(g_key_file_new());
-    g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_KEEP_TRANSLATIONS, nullptr);
+    if (const auto text = RegularFile::read(path, largestEntry))
+        g_key_file_load_from_data(file.get(), text->constData(), text->size(), G_KEY_FILE_KEEP_TRANSLATIONS, nullptr);
     return file;
 }
 

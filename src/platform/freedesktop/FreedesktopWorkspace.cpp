@@ -3,6 +3,7 @@
 #include "AutostartLoginItem.h"
 #include "DesktopEntry.h"
 #include "GenericIcon.h"
+#include "RegularFile.h"
 #include "WindowOverview.h"
 #include "X11Panel.h"
 #include "X11ShowDesktop.h"
@@ -10,6 +11,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QImageReader>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -62,9 +64,18 @@ QString iconName(const QString &application)
     return DesktopEntry::text(QStandardPaths::locate(QStandardPaths::ApplicationsLocation, entry), "Icon");
 }
 
-/// A null icon where the file is missing or no picture.
+constexpr qint64 largestIconFile = 4LL * 1024 * 1024; // bytes
+constexpr int widestIcon = 2048; // pixels
+
+/// A null icon where the file is missing, no picture, or one that takes far more memory than any icon needs.
 QIcon iconInFile(const QString &path)
 {
+    if (!RegularFile::isUpTo(largestIconFile, path))
+        return {};
+    const QImageReader picture(path);
+    const bool isDrawn = picture.format().startsWith("svg");
+    if (!isDrawn && qMax(picture.size().width(), picture.size().height()) > widestIcon)
+        return {};
     const QIcon icon(path);
     return icon.pixmap(16).isNull() ? QIcon() : icon;
 }

@@ -3,7 +3,13 @@
 #include "AutostartLoginItem.h"
 #include "FreedesktopPlatform.h"
 #include "SessionBus.h"
+#include "StandardStreams.h"
 #include "WarmUp.h"
+
+void NativePlatform::secureStreams()
+{
+    StandardStreams::secure();
+}
 
 std::unique_ptr<Platform> NativePlatform::make()
 {

@@ -1,9 +1,14 @@
 #include "PlistBundle.h"
 
+#include "RegularFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
 #include <plist/plist.h>
 
 namespace {
@@ -24,10 +29,8 @@ plist_t parsed(const QByteArray &text)
 
 std::shared_ptr<void> readDictionary(const QString &fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QFile::ReadOnly) || file.size() > largestInfoPlist)
-        return nullptr;
-    const std::shared_ptr<void> root(parsed(file.readAll()), plist_free);
+    const auto text = RegularFile::read(fileName, largestInfoPlist);
+    const std::shared_ptr<void> root(parsed(text.value_or(QByteArray())), plist_free);
     return plist_get_node_type(root.get()) == PLIST_DICT ? root : nullptr;
 }
 
@@ -54,6 +57,32 @@ QVariant scalar(plist_t node)
     }
 }
 
+bool isReadable(const QByteArray &path)
+{
+    return QFile::encodeName(QFile::decodeName(path)) == path;
+}
+
+/// The path as a text. A text cannot hold a name that is no UTF-8, so the folder of that name is kept open for as long
+/// as the process runs, and its descriptor stands for it.
+QString readable(const QByteArray &path)
+{
+    if (isReadable(path))
+        return QFile::decodeName(path);
+    qsizetype rest = path.size();
+    while (isReadable(path.mid(path.lastIndexOf('/', rest - 1))))
+        rest = path.lastIndexOf('/', rest - 1);
+    const int folder = open(path.first(rest).constData(), O_PATH | O_CLOEXEC);
+    return QStringLiteral("/proc/self/fd/%1").arg(folder) + QFile::decodeName(path.mid(rest));
+}
+
+/// The file itself, symbolic links followed; empty when there is none.
+QString resolved(const QString &fileName)
+{
+    const std::unique_ptr<char, decltype(&std::free)> path(realpath(QFile::encodeName(fileName).constData(), nullptr),
+                                                           &std::free);
+    return readable(path.get());
+}
+
 QString existingFile(const QString &path)
 {
     return QFileInfo(path).isFile() ? path : QString();
@@ -65,7 +94,7 @@ PlistBundle::PlistBundle(const QString &folder) : m_folder(QDir::cleanPath(folde
 
 PlistBundle PlistBundle::around(const QString &executable)
 {
-    const QFileInfo file(QFileInfo(executable).canonicalFilePath());
+    const QFileInfo file(resolved(executable));
     const QString folder = file.path();
     const QString suffix = QStringLiteral("/Contents/MacOS");
     PlistBundle bundle(folder.endsWith(suffix) ? folder.chopped(suffix.size()) : folder);
