@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
+import Embera.Controls
 
 /// A toggle that shows what its caller says: `isOn` is only ever set from outside, and acting on the toggle emits
 /// `flipped` with the value that the person asked for.
-T.CheckBox {
+Pressable {
     id: control
 
     property bool isOn: false
@@ -12,19 +12,15 @@ T.CheckBox {
 
     signal flipped(bool isOn)
 
-    function flip() : int {
+    // Not a check box of the templates, which makes its data for assistive technologies twice and frees them once.
+    checkable: true
+    checked: isOn
+    onClicked: {
         isFlipping = true;
         flipped(!isOn);
         isFlipping = false;
-        return checkState;
+        // The template has flipped it by itself.
+        checked = Qt.binding(() => isOn);
     }
-
-    checkState: isOn ? Qt.Checked : Qt.Unchecked
-    nextCheckState: flip
-    Accessible.name: text
-    Accessible.checked: isOn
-    Accessible.onPressAction: flip()
-    Accessible.onToggleAction: flip()
-    Keys.onReturnPressed: event => event.isAutoRepeat || control.flip()
-    Keys.onEnterPressed: event => event.isAutoRepeat || control.flip()
+    Accessible.onToggleAction: clicked()
 }
