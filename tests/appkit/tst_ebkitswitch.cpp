@@ -1,3 +1,4 @@
+#include "AnimationClock.h"
 #include "ClickInVain.h"
 #include "EBKitSwitch.h"
 #include "FakePlatform.h"
@@ -113,18 +114,28 @@ private slots:
         QCOMPARE(m_told, QList<bool>());
     }
 
+    // The Bézier curve of (0, 0) and (0.58, 1) over 0.15 seconds.
     void itSlidesUnlessMotionIsReduced()
     {
-        EBKitSwitch toggle = made(false);
+        EBKitSwitch toggle = made(true);
         toggle.press();
-        COMPARE_COLOR(Picture(toggle, ground).at(4, 11), EBKit::indigo().current());
+        COMPARE_COLOR(Picture(toggle, ground).at(4, 11), EBKit::knob().current());
 
         m_platform.look.setReduceMotion(false);
+        AnimationClock clock;
         toggle.press();
-        QVERIFY(!toggle.isOn());
-        // It has only just set off.
-        COMPARE_COLOR(Picture(toggle, ground).at(4, 11), EBKit::indigo().current());
-        QTRY_VERIFY(isNear(Picture(toggle, ground).at(4, 11), EBKit::knob().current()));
+        QVERIFY(toggle.isOn());
+        int elapsed = 0;
+        for (const auto &[after, share] : {std::pair(1, 0.0112), {30, 0.3084}, {75, 0.6846}, {150, 1.0}}) {
+            clock.advance(after - elapsed);
+            elapsed = after;
+            const Picture picture(toggle, ground);
+            const QColor track = over(EBKit::indigo().current(), over(EBKit::track().current(), ground), share);
+            COMPARE_COLOR(picture.at(1, 11), track);
+            const qreal knob = 2 + 8 * share;
+            COMPARE_COLOR(picture.at(knob - 0.5, 11), track);
+            COMPARE_COLOR(picture.at(knob + 1.5, 11), EBKit::knob().current());
+        }
     }
 
     void aMirroredSwitchIsOnAtTheLeft()

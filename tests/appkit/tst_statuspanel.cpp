@@ -289,6 +289,44 @@ private slots:
         QCOMPARE(watch.closed, 2);
     }
 
+    void whoeverIsToldFindsItClosed_data() { bothControllers(); }
+    void whoeverIsToldFindsItClosed()
+    {
+        const auto controller = made();
+        Watch watch(*controller);
+        bool wasOut = false;
+        QDateTime date;
+        bool wasUp = false;
+        controller->onClose = [&] {
+            wasOut = !panel()->isVisible();
+            date = controller->closedAt();
+            wasUp = !m_button.isDown();
+        };
+        controller->open(m_button);
+        controller->close();
+        QVERIFY(wasOut);
+        QCOMPARE(date, noon);
+        QVERIFY(wasUp);
+    }
+
+    void whoeverIsToldMayOpenAgain_data() { bothControllers(); }
+    void whoeverIsToldMayOpenAgain()
+    {
+        const auto controller = made();
+        controller->onClose = [&] {
+            controller->onClose = {};
+            controller->open(m_button);
+        };
+        controller->open(m_button);
+        controller->close();
+        QVERIFY(panel()->isVisible());
+        QVERIFY(m_button.isDown());
+        // Of the two monitors the new one is left.
+        QTest::mousePress(m_host.windowHandle(), Qt::LeftButton, {}, QPoint(10, 280));
+        QVERIFY(!controller->isOpen());
+        QTest::mouseRelease(m_host.windowHandle(), Qt::LeftButton, {}, QPoint(10, 280));
+    }
+
     void whoeverIsToldMayCloseAgain()
     {
         const auto controller = std::make_unique<EBStatusPanel>(new QWidget, QSize(220, 140));

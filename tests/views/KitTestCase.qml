@@ -25,6 +25,7 @@ TestCase {
         failOnWarning(/.?/);
         Desktop.dark = false;
         Desktop.reduceMotion = false;
+        Desktop.holdsAnimations = false;
         testCase.product = "corvane";
         testCase.LayoutMirroring.enabled = false;
         // Out of the way of whatever the next test hovers.
@@ -75,6 +76,12 @@ TestCase {
         let found = pixel(item, x, y);
         tryVerify(() => isNear(found = pixel(item, x, y), expected, tolerance), 1000,
                   `at ${x}, ${y}: ${found} instead of ${expected}`);
+    }
+
+    /// The same for what changes at once, without any patience.
+    function comparePixelAtOnce(item, x, y, expected) {
+        const found = pixel(item, x, y);
+        verify(isNear(found, expected), `at ${x}, ${y}: ${found} instead of ${expected}`);
     }
 
     /// How many pixels of an item's rectangle have a colour.

@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Embera.Tokens
+import Embera.Glyphs
 import Embera.Controls
 
 KitTestCase {
@@ -53,6 +54,10 @@ KitTestCase {
         search.text = "a";
         // 6 from the text to the glyph of 11, 10 to the end.
         compare(search.width - field.x - field.width, 27);
+        const cross = allIn(clearButton, child => child instanceof Glyph)[0];
+        compare(cross.name, "close");
+        compare(cross.size, 11);
+        compareColor(cross.color, EB.inkMuted);
     }
 
     function test_placeholder_shows_while_empty() {

@@ -105,12 +105,25 @@ KitTestCase {
         compare(flips.signalArguments[1][0], true);
     }
 
-    function test_slides_after_a_click() {
+    // The Bézier curve of (0, 0) and (0.58, 1) over 0.15 seconds.
+    function test_a_click_slides_the_knob_and_mixes_the_track_data() {
+        return [{tag: "at a fifth", after: 30, share: 0.3084}, {tag: "half way", after: 75, share: 0.6846},
+                {tag: "at the end", after: 150, share: 1}];
+    }
+    function test_a_click_slides_the_knob_and_mixes_the_track(data) {
+        Desktop.holdsAnimations = true;
         mouseClick(toggle);
         compare(toggle.isOn, true);
-        verify(toggle.contentItem.position < 1);
-        tryVerify(() => toggle.contentItem.position > 0 && toggle.contentItem.position < 1);
-        tryCompare(toggle.contentItem, "position", 1, 1000);
+        compare(toggle.contentItem.position, 0);
+        verify(Desktop.advance(data.after - 1));
+        verify(toggle.contentItem.position < data.share);
+        verify(Desktop.advance(1));
+        fuzzyCompare(toggle.contentItem.position, data.share, 0.0005);
+        const off = over(EB.track, EB.paper), on = EB.indigo, share = data.share;
+        comparePixel(toggle, 1, 11, Qt.rgba(off.r + (on.r - off.r) * share, off.g + (on.g - off.g) * share,
+                                            off.b + (on.b - off.b) * share, 1));
+        verify(Math.abs(knobX() - (2 + 8 * share)) < 1);
+        Desktop.advance(150);
     }
 
     function test_a_change_from_outside_does_not_slide() {
