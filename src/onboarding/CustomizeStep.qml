@@ -41,7 +41,6 @@ EBStageScreen {
             id: card
 
             width: parent.width - 176 - parent.spacing
-            ruleInset: 0
 
             Item {
                 width: parent.width

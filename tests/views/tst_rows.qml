@@ -60,6 +60,37 @@ KitTestCase {
                 onFlipped: isOn => stored = isOn
             }
         }
+        EBGroup {
+            id: narrowGroup
+
+            Item {
+                id: narrow
+
+                implicitWidth: 101
+                implicitHeight: 20
+                width: implicitWidth
+                height: implicitHeight
+            }
+            EBRow {
+                id: fullRow
+
+                EBSwitch {
+                    id: lowItem
+
+                    label: "Low"
+                }
+                EBButton {
+                    id: highItem
+
+                    text: "High"
+                }
+                EBDisc {
+                    id: lastItem
+
+                    glyph: "plus"
+                }
+            }
+        }
         EBNote {
             id: note
 
@@ -140,7 +171,7 @@ KitTestCase {
     function test_pane_stacks_12_apart_and_8_below_its_top() {
         compare(groupLabel.y, 8);
         compare(group.y, groupLabel.y + groupLabel.height + 12);
-        compare(note.y, group.y + group.height + 12);
+        compare(narrowGroup.y, group.y + group.height + 12);
         compare(group.x, 0);
     }
 
@@ -187,6 +218,24 @@ KitTestCase {
         comparePixel(group, 150, 4, EB.surface);
     }
 
+    function test_a_groups_content_stands_in_its_middle() {
+        compare(narrow.mapToItem(narrowGroup, 0, 0).x, 99);
+        compare(fullRow.mapToItem(narrowGroup, 0, 0).x, 0);
+        testCase.LayoutMirroring.childrenInherit = true;
+        testCase.LayoutMirroring.enabled = true;
+        compare(narrow.mapToItem(narrowGroup, 0, 0).x, 99);
+        narrow.width = 51;
+        tryVerify(() => narrow.mapToItem(narrowGroup, 0, 0).x === 124);
+        narrow.width = 101;
+    }
+
+    function test_trailing_items_are_centred_on_one_line() {
+        compare(fullRow.height, 40 + 2 * 6);
+        for (const item of [lowItem, highItem, lastItem])
+            compare(item.mapToItem(fullRow, 0, item.height / 2).y, fullRow.height / 2);
+        compare(highItem.x, lowItem.x + lowItem.width + 12);
+    }
+
     function test_rule_is_a_hairline_from_its_inset_on() {
         compare(rule.height, 1);
         compare(rule.width, 200);
@@ -227,17 +276,15 @@ KitTestCase {
         verify(isNear(pixel(hiddenRow, 150, 1), EB.surface));
     }
 
-    function test_rules_are_indented_as_the_group_says() {
+    function test_rules_are_indented_on_the_leading_side() {
         const line = over(EB.line, EB.surface);
-        otherGroup.ruleInset = 56;
-        comparePixel(secondRow, 55, -1, EB.surface);
-        comparePixel(secondRow, 56, -1, line);
-        otherGroup.ruleInset = 0;
-        comparePixel(secondRow, 1, -1, line);
+        comparePixel(secondRow, 15, -1, EB.surface);
+        comparePixel(secondRow, 16, -1, line);
+        comparePixel(secondRow, 198, -1, line);
         mirror();
-        otherGroup.ruleInset = 56;
-        comparePixel(secondRow, 200 - 56, -1, EB.surface);
-        comparePixel(secondRow, 200 - 57, -1, line);
+        comparePixel(secondRow, 200 - 16, -1, EB.surface);
+        comparePixel(secondRow, 200 - 17, -1, line);
+        comparePixel(secondRow, 1, -1, line);
     }
 
     function test_row_with_only_a_title_is_40_high() {

@@ -4,13 +4,11 @@ import Embera.Tokens
 import Embera.Controls
 import Embera.Rows
 
-/// A card around rows, with a rule between each two that show.
+/// A card around rows, which stand in its middle, with a rule between each two that show.
 ContinuousRectangle {
     id: card
 
     default property alias content: rows.data
-    /// How far the rules stay away from the leading edge, in points; 0 lets them span the card.
-    property real ruleInset: KitMetrics.rowInset
 
     implicitWidth: rows.implicitWidth
     implicitHeight: rows.implicitHeight
@@ -23,6 +21,7 @@ ContinuousRectangle {
 
         width: parent.width
         spacing: KitMetrics.ruleHeight
+        onChildrenChanged: Array.from(children).forEach(child => child.anchors.horizontalCenter = horizontalCenter)
         onPositioningComplete: rules.model = Array.from(visibleChildren).filter(row => row.height > 0 && row.y > 0).map(row => row.y)
     }
     Repeater {
@@ -32,7 +31,7 @@ ContinuousRectangle {
             required property real modelData
 
             y: modelData - height
-            inset: card.ruleInset
+            inset: KitMetrics.rowInset
         }
     }
     // Over the content, so that nothing in it hides the edge.

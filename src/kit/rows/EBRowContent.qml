@@ -4,7 +4,8 @@ import Embera.Controls
 import Embera.Rows
 
 /// What stands in a row: a disc, a title with an optional detail below it, and whatever is put into the row at its
-/// trailing edge. Both texts wrap, and the row grows with them. Several trailing items are 12 points apart.
+/// trailing edge. Both texts wrap, and the row grows with them. Several trailing items are 12 points apart and
+/// centred on one line.
 Item {
     id: row
 
@@ -79,6 +80,7 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             spacing: KitMetrics.rowSpacing
+            onChildrenChanged: Array.from(children).forEach(child => child.anchors.verticalCenter = verticalCenter)
         }
     }
 }

@@ -23,11 +23,9 @@ PaneStack {
                 title: label
 
                 KeyCap {
-                    anchors.verticalCenter: parent?.verticalCenter
                     keys: row.keys
                 }
                 EBSwitch {
-                    anchors.verticalCenter: parent?.verticalCenter
                     label: row.label
                     isOn: row.on
                     onFlipped: on => shortcuts.setOn(row.index, on)

@@ -49,11 +49,9 @@ Sheet {
                 title: qsTr("Close")
 
                 KeyCap {
-                    anchors.verticalCenter: parent?.verticalCenter
                     keys: "⌘W"
                 }
                 EBSwitch {
-                    anchors.verticalCenter: parent?.verticalCenter
                     label: qsTr("Close")
                     isOn: true
                 }
@@ -62,11 +60,9 @@ Sheet {
                 title: qsTr("Minimize")
 
                 KeyCap {
-                    anchors.verticalCenter: parent?.verticalCenter
                     keys: "⌘M"
                 }
                 EBSwitch {
-                    anchors.verticalCenter: parent?.verticalCenter
                     label: qsTr("Minimize")
                 }
             }

@@ -111,8 +111,6 @@ Sheet {
         LayoutMirroring.childrenInherit: true
 
         EBGroup {
-            ruleInset: 56
-
             EBSwitchRow {
                 glyph: "power"
                 title: qsTr("A switch")
