@@ -34,8 +34,10 @@ KitTestCase {
         button.size = "md";
         button.arrow = false;
         button.enabled = true;
-        button.text = "Continue";
+        button.text = lead.text = "Continue";
         button.focus = false;
+        button.width = undefined;
+        button.height = undefined;
         clicks.clear();
     }
 
@@ -62,6 +64,32 @@ KitTestCase {
         compare(button.width, 8 + label + data.spacing + data.badge + data.after);
         button.arrow = false;
         compare(button.width, 8 + label + 8);
+    }
+
+    function test_it_keeps_its_ideal_size_data() {
+        return [{tag: "larger", width: 300, height: 100}, {tag: "smaller", width: 60, height: 20}];
+    }
+    function test_it_keeps_its_ideal_size(data) {
+        const ideal = Qt.size(button.implicitWidth, button.implicitHeight);
+        button.x = 100;
+        button.y = 100;
+        button.width = data.width;
+        button.height = data.height;
+        waitForRendering(button);
+        const left = 100 + Math.floor((data.width - ideal.width) / 2);
+        const top = 100 + (data.height - ideal.height) / 2;
+        const isInk = (x, y) => isNear(grabImage(testCase).pixel(x, y), EB.ink);
+        verify(isInk(left + 1, top + 20) && isInk(left + ideal.width - 2, top + 20));
+        verify(!isInk(left - 2, top + 20) && !isInk(left + ideal.width + 1, top + 20));
+        verify(isInk(left + ideal.width / 2, top + 1) && isInk(left + ideal.width / 2, top + 38));
+        verify(!isInk(left + ideal.width / 2, top - 2) && !isInk(left + ideal.width / 2, top + 41));
+        mouseClick(testCase, left + 10, top + 20);
+        compare(clicks.count, 1);
+        mouseClick(testCase, left - 8, top + 20);
+        mouseClick(testCase, left + ideal.width / 2, top - 8);
+        compare(clicks.count, 1);
+        button.x = 20;
+        button.y = 20;
     }
 
     function test_primary_is_ink_with_a_light_label() {
@@ -102,9 +130,41 @@ KitTestCase {
                       onLoud: over(EB.onLoudIndigo, EB.paper, 0.85), plain: washed};
         comparePixel(button, 6, 20, rest[data.variant]);
         mousePress(button);
-        comparePixel(button, 6, 20, held[data.variant]);
+        comparePixelAtOnce(button, 6, 20, held[data.variant]);
         mouseRelease(button);
-        comparePixel(button, 6, 20, rest[data.variant]);
+        comparePixelAtOnce(button, 6, 20, rest[data.variant]);
+    }
+
+    function test_the_pointer_over_it_changes_nothing_data() {
+        return test_pressed_looks_at_once_data();
+    }
+    function test_the_pointer_over_it_changes_nothing(data) {
+        button.variant = data.variant;
+        waitForRendering(button);
+        const before = grabImage(button);
+        mouseMove(button, 30, 20);
+        mouseMove(button, 32, 20);
+        verify(grabImage(button).equals(before));
+    }
+
+    function test_a_long_label_stays_on_one_line() {
+        const lines = () => {
+            const image = grabImage(testCase);
+            let count = 0;
+            for (let y = 22, was = false; y < 58; ++y) {
+                let isText = false;
+                for (let x = 60; x < 120 && !isText; ++x)
+                    isText = isNear(image.pixel(x, y), EB.onInk, 0.2);
+                count += isText && !was ? 1 : 0;
+                was = isText;
+            }
+            return count;
+        };
+        button.text = lead.text = "A label of many words, far longer than any button should have";
+        waitForRendering(button);
+        compare(button.height, 40);
+        compare(button.width, 20 + labelWidth("lead") + 20);
+        compare(lines(), 1);
     }
 
     function test_secondary_keeps_its_border_while_pressed() {

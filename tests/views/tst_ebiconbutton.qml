@@ -40,10 +40,32 @@ KitTestCase {
     function test_circle_appears_while_hovered() {
         comparePixel(button, 3, 14, EB.paper);
         mouseMove(button, 14, 5);
-        comparePixel(button, 3, 14, over(EB.chip, EB.paper));
+        comparePixelAtOnce(button, 3, 14, over(EB.chip, EB.paper));
         comparePixel(button, 1, 1, EB.paper);
         mouseMove(testCase, testCase.width - 1, testCase.height - 1);
-        comparePixel(button, 3, 14, EB.paper);
+        comparePixelAtOnce(button, 3, 14, EB.paper);
+    }
+
+    function toolTip(text = "Remove") {
+        return textIn(testCase.Window.contentItem, text);
+    }
+
+    function test_a_tool_tip_says_what_it_does() {
+        button.y = 100;
+        verify(!toolTip());
+        mouseMove(button, 14, 14);
+        tryVerify(() => toolTip() !== null);
+        verify(toolTip().mapToItem(testCase, 0, toolTip().height).y <= button.y);
+        button.label = "Take away";
+        verify(toolTip("Take away"));
+        button.label = "Remove";
+        mouseMove(testCase, testCase.width - 1, testCase.height - 1);
+        tryVerify(() => toolTip() === null);
+        button.forceActiveFocus(Qt.TabFocusReason);
+        tryVerify(() => toolTip() !== null);
+        button.focus = false;
+        tryVerify(() => toolTip() === null);
+        button.y = 20;
     }
 
     function test_a_click_in_the_circle_presses_and_in_a_corner_misses() {

@@ -1,7 +1,8 @@
 import QtQuick
 import Embera.Controls
 
-/// A pill-shaped text button at its ideal size; `text` is its label.
+/// A pill-shaped text button; `text` is its label. It keeps its ideal size: in an item of another size it stands in the
+/// middle, and a click beside it misses.
 Pressable {
     id: control
 
@@ -12,11 +13,15 @@ Pressable {
     /// A round arrow badge follows the label.
     property bool arrow: false
 
-    implicitWidth: implicitContentWidth
-    implicitHeight: implicitContentHeight
+    implicitWidth: face.implicitWidth
+    implicitHeight: face.implicitHeight
     opacity: enabled ? 1 : KitMetrics.disabledOpacity
+    containmentMask: face
 
-    contentItem: ButtonFace {
+    ButtonFace {
+        id: face
+
+        anchors.centerIn: parent
         text: control.text
         variant: control.variant
         size: control.size

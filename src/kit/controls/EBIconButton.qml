@@ -3,7 +3,7 @@ import Embera.Tokens
 import Embera.Glyphs
 import Embera.Controls
 
-/// A round button that shows only a glyph.
+/// A round button that shows only a glyph, and in a tool tip what it does.
 Pressable {
     id: control
 
@@ -32,5 +32,10 @@ Pressable {
         name: control.glyph
         size: control.size * KitMetrics.iconButtonGlyph
         color: EB.inkMuted
+    }
+
+    Loader {
+        active: control.hovered || control.visualFocus
+        Component.onCompleted: setSource("EBToolTip.qml", {control: control})
     }
 }
