@@ -23,12 +23,17 @@ double drawable(double fraction)
     return std::clamp(fraction, -100.0, 100.0);
 }
 
-/// The rectangle with its edges on whole device pixels, so that a border of one point is not smeared over two.
+/// The rectangle with its edges on whole device pixels, so that a border of one point is not smeared over two. It stays
+/// at least a point wide and high.
 QRectF onPixels(const QPainter *painter, const QRectF &rect)
 {
     const qreal scale = painter->device()->devicePixelRatio();
     const auto snap = [scale](qreal edge) { return std::round(edge * scale) / scale; };
-    return QRectF(QPointF(snap(rect.left()), snap(rect.top())), QPointF(snap(rect.right()), snap(rect.bottom())));
+    const qreal point = std::ceil(scale) / scale;
+    const QPointF corner(snap(rect.left()), snap(rect.top()));
+    return QRectF(
+        corner,
+        QSizeF(std::max(point, snap(rect.right()) - corner.x()), std::max(point, snap(rect.bottom()) - corner.y())));
 }
 
 }
@@ -79,9 +84,10 @@ void LayoutPreview::paint(QPainter *painter)
 
 void LayoutPreview::paintWindow(QPainter *painter, const SavedLayout::Window &window) const
 {
-    const QRectF shape = onPixels(painter, LayoutPreviews::shape(window.rect, size()));
+    const QRectF exact = LayoutPreviews::shape(window.rect, size());
+    const QRectF shape = onPixels(painter, exact);
     paintContinuousRect(painter, shape, windowRadius, m_windowColor, m_borderColor, 1);
-    if (shape.width() < smallestWithIcon || shape.height() < smallestWithIcon)
+    if (exact.width() < smallestWithIcon || exact.height() < smallestWithIcon)
         return;
     QRectF place(0, 0, iconSize, iconSize);
     place.moveCenter(shape.center());
