@@ -1,6 +1,8 @@
 #include "EndToEndTest.h"
 #include "TestProgram.h"
 
+#include <X11/keysym.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -154,20 +156,40 @@ void TestSettings::aChoiceShowsAndStores(const Choice &choice, int told)
 
 void TestSettings::renamingAndDeletingRewriteTheSavedLayouts()
 {
-    const QString stored = u"[{\"created\":1,\"id\":\"11111111-1111-4111-8111-111111111111\",\"name\":\"Work\","
-                           "\"windows\":[]},{\"created\":2,\"id\":\"22222222-2222-4222-8222-222222222222\","
-                           "\"name\":\"Play\",\"windows\":[]}]"_s;
-    store().write(u"layouts.saved"_s, stored);
+    const QString work = u"{\"created\":1,\"id\":\"11111111-1111-4111-8111-111111111111\",\"name\":\"Work\","
+                         "\"windows\":[]}"_s;
+    const QString play = u"{\"created\":2,\"id\":\"22222222-2222-4222-8222-222222222222\",\"name\":\"Play\","
+                         "\"windows\":[]}"_s;
+    const auto list = [](const QStringList &layouts) -> QString { return u'[' + layouts.join(u',') + u']'; };
+    const auto stored = [this] { return store().readAll().value(u"layouts.saved"_s).toString(); };
+    store().write(u"layouts.saved"_s, list({work, play}));
     QVERIFY(openPage(u"layouts"_s));
-    const Accessible button = find(ATSPI_ROLE_PUSH_BUTTON, u"Delete Work"_s);
-    QVERIFY(button);
+    QTRY_VERIFY(window()->hasInputFocus());
+
+    FIND(field, ATSPI_ROLE_TEXT, "Name of layout 2");
+    pointer().click(field.extents().center());
+    QVERIFY(becomes(field, ATSPI_STATE_FOCUSED));
+    keyboard().press(XK_a, {XK_Control_L});
+    keyboard().type(u"My Games"_s);
+    FIND(save, ATSPI_ROLE_PUSH_BUTTON, "Save name");
+    QCOMPARE(stored(), list({work, play}));
+    keyboard().press(XK_Return);
+    QVERIFY(disappears(ATSPI_ROLE_PUSH_BUTTON, u"Save name"_s));
+    const QString games = QString(play).replace(u"Play"_s, u"My Games"_s);
+    QCOMPARE(stored(), list({work, games}));
+
+    FIND(button, ATSPI_ROLE_PUSH_BUTTON, "Delete Work");
     QVERIFY(button.doAction(u"Press"_s));
     QVERIFY(disappears(ATSPI_ROLE_PUSH_BUTTON, u"Delete Work"_s));
     settle();
-    const QString left = u"[{\"created\":2,\"id\":\"22222222-2222-4222-8222-222222222222\",\"name\":\"Play\","
-                         "\"windows\":[]}]"_s;
-    QCOMPARE(store().readAll().value(u"layouts.saved"_s).toString(), left);
-    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Delete Play"_s));
+    QCOMPARE(stored(), list({games}));
+    QVERIFY(find(ATSPI_ROLE_NOTIFICATION, u"Deleted “Work”."_s));
+    FIND(undo, ATSPI_ROLE_PUSH_BUTTON, "Undo");
+    QVERIFY(undo.doAction(u"Press"_s));
+    QVERIFY(disappears(ATSPI_ROLE_PUSH_BUTTON, u"Undo"_s));
+    settle();
+    QCOMPARE(stored(), list({work, games}));
+    QVERIFY(find(ATSPI_ROLE_PUSH_BUTTON, u"Delete Work"_s));
     QCOMPARE(commands().heard().size(), 0);
 }
 

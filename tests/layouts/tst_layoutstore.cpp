@@ -91,12 +91,20 @@ private slots:
 
     void removingDeletesEveryLayoutOfThatId();
     void removingKeepsTheOrder();
-    void removingAnUnknownIdStillWrites();
+    void removingAnUnknownIdHandsTheSameListToTheStore();
     void removingTheLastLayoutStoresAnEmptyList();
     void removingFromAnAbsentValueStoresAnEmptyList();
     void removingFromAnUnreadableListStoresAnEmptyOne_data() { unreadableValues(); }
     void removingFromAnUnreadableListStoresAnEmptyOne();
 
+    void everyLayoutOfAnIdIsFoundWithItsPlace();
+    void restoringPutsALayoutBackToItsPlace_data();
+    void restoringPutsALayoutBackToItsPlace();
+    void restoringBringsBackAllThatOneRemovalTook();
+    void restoringKeepsWhatWasStoredMeanwhile();
+    void restoringIntoAShorterListPutsTheLayoutAtItsEnd();
+    void restoringWhatIsStoredWritesNothing();
+    void restoringNothingWritesNothing();
     void renamingChangesOnlyTheFirstLayoutOfThatId();
     void aNameIsStoredAsGiven_data();
     void aNameIsStoredAsGiven();
@@ -230,7 +238,7 @@ void LayoutStoreTest::removingKeepsTheOrder()
     QCOMPARE(store.saved(), textOf({d, a, d}));
 }
 
-void LayoutStoreTest::removingAnUnknownIdStillWrites()
+void LayoutStoreTest::removingAnUnknownIdHandsTheSameListToTheStore()
 {
     WatchedStore store(textOf({a}));
     QCOMPARE(LayoutStore::remove(Sample::otherId, store), QList{a});
@@ -258,6 +266,88 @@ void LayoutStoreTest::removingFromAnUnreadableListStoresAnEmptyOne()
     WatchedStore store(stored);
     QVERIFY(LayoutStore::remove(Sample::id, store).isEmpty());
     QCOMPARE(store.saved(), QStringLiteral("[]"));
+}
+
+void LayoutStoreTest::everyLayoutOfAnIdIsFoundWithItsPlace()
+{
+    WatchedStore store(textOf({a, b, c}));
+    const auto found = LayoutStore::find(Sample::id, store);
+    QCOMPARE(found.size(), 2);
+    QCOMPARE(found.at(0).index, 0);
+    QCOMPARE(found.at(0).layout, a);
+    QCOMPARE(found.at(1).index, 2);
+    QCOMPARE(found.at(1).layout, c);
+    QVERIFY(LayoutStore::find(QUuid::createUuid(), store).isEmpty());
+    QCOMPARE(store.writes, 0);
+}
+
+void LayoutStoreTest::restoringPutsALayoutBackToItsPlace_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::newRow("first") << 0;
+    QTest::newRow("in the middle") << 1;
+    QTest::newRow("last") << 2;
+}
+
+void LayoutStoreTest::restoringPutsALayoutBackToItsPlace()
+{
+    QFETCH(const int, place);
+    QList<SavedLayout> layouts = {named(QUuid::createUuid(), QStringLiteral("d")), b,
+                                  named(QUuid::createUuid(), QStringLiteral("e"))};
+    layouts.move(1, place);
+    WatchedStore store(textOf(layouts));
+    const auto removed = LayoutStore::find(Sample::otherId, store);
+    LayoutStore::remove(Sample::otherId, store);
+    QCOMPARE(LayoutStore::restore(removed, store), layouts);
+    QCOMPARE(store.saved(), textOf(layouts));
+    QCOMPARE(store.writes, 2);
+}
+
+void LayoutStoreTest::restoringBringsBackAllThatOneRemovalTook()
+{
+    WatchedStore store(textOf({a, b, c}));
+    const auto removed = LayoutStore::find(Sample::id, store);
+    QCOMPARE(LayoutStore::remove(Sample::id, store), QList{b});
+    QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b, c}));
+    QCOMPARE(store.saved(), textOf({a, b, c}));
+}
+
+void LayoutStoreTest::restoringKeepsWhatWasStoredMeanwhile()
+{
+    const SavedLayout d = named(QUuid::createUuid(), QStringLiteral("d"));
+    WatchedStore store(textOf({d, b}));
+    const auto removed = LayoutStore::find(Sample::otherId, store);
+    LayoutStore::remove(Sample::otherId, store);
+    store.values.insert(key, textOf({a, d}));
+    QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b, d}));
+    QCOMPARE(store.saved(), textOf({a, b, d}));
+}
+
+void LayoutStoreTest::restoringIntoAShorterListPutsTheLayoutAtItsEnd()
+{
+    const SavedLayout d = named(QUuid::createUuid(), QStringLiteral("d"));
+    WatchedStore store(textOf({d, a, b}));
+    const auto removed = LayoutStore::find(Sample::otherId, store);
+    store.values.insert(key, textOf({a}));
+    QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b}));
+    store.values.remove(key);
+    QCOMPARE(LayoutStore::restore(removed, store), QList{b});
+    QCOMPARE(store.saved(), textOf({b}));
+}
+
+void LayoutStoreTest::restoringWhatIsStoredWritesNothing()
+{
+    WatchedStore store(textOf({a, b}));
+    const auto found = LayoutStore::find(Sample::otherId, store);
+    QCOMPARE(LayoutStore::restore(found, store), (QList{a, b}));
+    QCOMPARE(store.writes, 0);
+}
+
+void LayoutStoreTest::restoringNothingWritesNothing()
+{
+    WatchedStore store(textOf({a}));
+    QCOMPARE(LayoutStore::restore({}, store), QList{a});
+    QCOMPARE(store.writes, 0);
 }
 
 void LayoutStoreTest::renamingChangesOnlyTheFirstLayoutOfThatId()

@@ -11,6 +11,7 @@ private slots:
     void init();
     void cleanup();
 
+    void itsTextsStandInTheirOrder();
     void theLoginSwitchShowsLaunchOrApproval_data();
     void theLoginSwitchShowsLaunchOrApproval();
     void whileApprovalIsPendingItsRowIsShown();
@@ -36,6 +37,21 @@ void TestGeneralPane::cleanup()
 {
     m_pane.reset();
     GeneralActions::setGuideOpener({});
+}
+
+void TestGeneralPane::itsTextsStandInTheirOrder()
+{
+    QStringList texts = {"Start at login | So the buttons are there whenever you open Mission Control.",
+                         "Show in the menu bar | Open Corvane from Applications to come back here.",
+                         "Accessibility | Needed to see which window you point at in Mission Control.",
+                         "Welcome guide | Try it again in a pretend Mission Control."};
+    QCOMPARE(m_pane->texts(), texts);
+    m_pane->store.setValue("agent.launchAtLoginNeedsApproval", true);
+    m_pane->store.setValue("agent.accessibilityTrusted", true);
+    texts[0] = "Start at login | Waiting for your OK in System Settings › General › Login Items.";
+    texts[2] = "Accessibility | Corvane can see which window you point at. | Allowed";
+    texts.insert(1, "Login Items | Allow Corvane there to finish.");
+    QTRY_COMPARE(m_pane->texts(), texts);
 }
 
 void TestGeneralPane::theLoginSwitchShowsLaunchOrApproval_data()

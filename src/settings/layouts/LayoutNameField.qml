@@ -3,47 +3,126 @@ import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 
-/// A layout's name to type over: Return commits it, Escape and leaving the field bring the stored name back.
-T.TextField {
-    id: field
+/// A layout's name to type over. While the text is not the stored name a button at its end shows that Return stores it,
+/// and does the same. Escape and leaving the field bring the stored name back. A name that is too long is elided until
+/// the field has the focus.
+FocusScope {
+    id: scope
 
     /// The stored name.
     required property string name
     /// The name for accessibility.
     required property string label
+    /// Between the field's edge and its text, in points.
+    readonly property real padding: 6
+    readonly property bool isEdited: field.text !== name
 
-    /// The person pressed Return.
+    /// The person pressed Return, or the button.
     signal committed(name: string)
 
     /// A long name is read from its beginning.
     function showName() {
-        text = name;
-        if (!activeFocus)
-            cursorPosition = 0;
+        field.text = name;
+        if (!field.activeFocus)
+            field.cursorPosition = 0;
+    }
+    /// Goes on in the field: the button may be about to go.
+    function focusField() {
+        field.forceActiveFocus(Qt.OtherFocusReason);
     }
 
     implicitHeight: 24
-    leftPadding: 6
-    rightPadding: 6
-    verticalAlignment: TextInput.AlignVCenter
-    font: EBType.font("bodyStrong")
-    color: EB.ink
-    selectionColor: EBEnvironment.accent
-    selectedTextColor: EBEnvironment.onAccent
-    selectByMouse: true
-    Accessible.name: label
-    onAccepted: committed(text)
     onNameChanged: showName()
     // A window that another one covers keeps what was typed.
     onActiveFocusChanged: if (!activeFocus && Window.active)
         showName()
-    Keys.onEscapePressed: showName()
+    Keys.onEscapePressed: {
+        focusField();
+        showName();
+    }
     Component.onCompleted: showName()
 
-    background: ContinuousRectangle {
+    HoverHandler {
+        id: hover
+    }
+    ContinuousRectangle {
+        anchors.fill: parent
         radius: 6
-        color: field.activeFocus ? EB.chip : "transparent"
+        color: scope.activeFocus || hover.hovered ? EB.chip : "transparent"
         strokeColor: EBEnvironment.accent
         strokeWidth: field.activeFocus ? 1.5 : 0
+    }
+    T.TextField {
+        id: field
+
+        anchors {
+            left: parent.left
+            right: save.visible ? save.left : parent.right
+            top: parent.top
+            bottom: parent.bottom
+        }
+        leftPadding: scope.padding
+        rightPadding: scope.padding
+        focus: true
+        horizontalAlignment: TextInput.AlignLeft
+        verticalAlignment: TextInput.AlignVCenter
+        font: EBType.font("bodyStrong")
+        color: scope.activeFocus ? EB.ink : "transparent"
+        selectionColor: EBEnvironment.accent
+        selectedTextColor: EBEnvironment.onAccent
+        selectByMouse: true
+        Accessible.name: scope.label
+        onAccepted: scope.committed(text)
+    }
+    EBText {
+        anchors {
+            fill: field
+            leftMargin: scope.padding
+            rightMargin: scope.padding
+        }
+        visible: !scope.activeFocus
+        text: field.text
+        role: "bodyStrong"
+        elide: Text.ElideRight
+        horizontalAlignment: Text.AlignLeft
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+    Pressable {
+        id: save
+
+        anchors {
+            right: parent.right
+            rightMargin: 2
+            verticalCenter: parent.verticalCenter
+        }
+        width: 20
+        height: 20
+        visible: scope.isEdited
+        hoverEnabled: true
+        text: qsTr("Save name")
+        onClicked: {
+            scope.focusField();
+            scope.committed(field.text);
+        }
+
+        background: ContinuousRectangle {
+            radius: 5
+            color: save.hovered ? EB.chip : "transparent"
+
+            FocusRing {
+                control: save
+                radius: 9
+            }
+        }
+        contentItem: EBText {
+            text: "↩"
+            role: "small"
+            weight: Font.DemiBold
+            color: save.hovered ? EB.ink : EB.inkMuted
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
     }
 }

@@ -9,14 +9,14 @@ Item {
 
     required property int index
     required property string name
+    /// The name as it is read out.
+    required property string spokenName
     required property var layout
-    /// An empty name says nothing, so the place in the list stands in for it.
-    readonly property string spokenName: name || qsTr("layout %1").arg(index + 1)
 
     /// The person gave the layout in row `index` another name.
     signal renamed(index: int, name: string)
-    /// The person asked for the layout in row `index` to be deleted, perhaps with the focus on the button.
-    signal deleted(index: int, hadFocus: bool)
+    /// The person asked for the layout in row `index` to be deleted, perhaps with the keyboard.
+    signal deleted(index: int, byKeyboard: bool)
 
     /// Gives the delete button the focus, as the keyboard would.
     function focusDelete() {
@@ -48,7 +48,7 @@ Item {
     LayoutNameField {
         anchors {
             left: preview.right
-            leftMargin: 12 - leftPadding
+            leftMargin: 12 - padding
             right: button.left
             rightMargin: 12
             verticalCenter: parent.verticalCenter
@@ -67,6 +67,6 @@ Item {
         glyph: "close"
         size: 24
         label: qsTr("Delete %1").arg(entry.spokenName)
-        onClicked: entry.deleted(entry.index, activeFocus)
+        onClicked: entry.deleted(entry.index, visualFocus)
     }
 }

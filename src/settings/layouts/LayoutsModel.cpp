@@ -1,6 +1,5 @@
 #include "LayoutsModel.h"
 
-#include "LayoutStore.h"
 #include "Shared.h"
 
 #include <algorithm>
@@ -22,6 +21,8 @@ QVariant LayoutsModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case NameRole:
         return layout.name;
+    case SpokenNameRole:
+        return spokenName(index.row());
     case LayoutRole:
         return QVariant::fromValue(layout);
     default:
@@ -31,7 +32,7 @@ QVariant LayoutsModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> LayoutsModel::roleNames() const
 {
-    return {{NameRole, "name"}, {LayoutRole, "layout"}};
+    return {{NameRole, "name"}, {SpokenNameRole, "spokenName"}, {LayoutRole, "layout"}};
 }
 
 void LayoutsModel::rename(int row, const QString &name)
@@ -42,8 +43,39 @@ void LayoutsModel::rename(int row, const QString &name)
 
 void LayoutsModel::removeLayout(int row)
 {
-    if (isRow(row))
-        show(LayoutStore::remove(m_layouts.at(row).id, Shared::store()));
+    if (!isRow(row))
+        return;
+    const QUuid id = m_layouts.at(row).id;
+    const Removal removal = {spokenName(row), LayoutStore::find(id, Shared::store())};
+    show(LayoutStore::remove(id, Shared::store()));
+    if (removal.places.isEmpty())
+        return;
+    m_removals.append(removal);
+    emit removedChanged();
+}
+
+QString LayoutsModel::removed() const
+{
+    return m_removals.isEmpty() ? QString() : m_removals.constLast().name;
+}
+
+int LayoutsModel::undoRemoval()
+{
+    if (m_removals.isEmpty())
+        return -1;
+    const Removal removal = m_removals.takeLast();
+    show(LayoutStore::restore(removal.places, Shared::store()));
+    emit removedChanged();
+    const auto restored = std::ranges::find(m_layouts, removal.places.constFirst().layout.id, &SavedLayout::id);
+    return restored == m_layouts.end() ? -1 : int(restored - m_layouts.begin());
+}
+
+/// An empty name says nothing, so the place in the list stands in for it.
+QString LayoutsModel::spokenName(int row) const
+{
+    const QString &name = m_layouts.at(row).name;
+    //: %1 is the place of a layout without a name in the list.
+    return name.isEmpty() ? tr("layout %1").arg(row + 1) : name;
 }
 
 /// Rows that stay are kept, so that the field a person has just typed into keeps the focus.

@@ -1,22 +1,26 @@
 #pragma once
 
-#include "SavedLayout.h"
+#include "LayoutStore.h"
 
 #include <QAbstractListModel>
 #include <qqmlregistration.h>
 
-/// The saved layouts as the page lists them: loaded once, when the page is shown. Renaming and removing write the
-/// whole list and show what was written.
+/// The saved layouts as the page lists them: loaded once, when the page is shown. Renaming, removing and taking a
+/// removal back write the whole list and show what was written.
 class LayoutsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    /// What the layout is called that was removed last and can be brought back; empty when there is none.
+    Q_PROPERTY(QString removed READ removed NOTIFY removedChanged)
 public:
-    enum Role { NameRole = Qt::UserRole, LayoutRole };
+    /// The name as stored, the name as it is read out, and the SavedLayout.
+    enum Role { NameRole = Qt::UserRole, SpokenNameRole, LayoutRole };
 
     explicit LayoutsModel(QObject *parent = nullptr);
 
     int count() const { return int(m_layouts.size()); }
+    QString removed() const;
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -27,12 +31,24 @@ public:
     /// Deletes the layout in that row, and every other one with its id.
     Q_INVOKABLE void removeLayout(int row);
 
+    /// Takes the last removal back that was not taken back yet. The layout returns to its place in the list as it is
+    /// stored by now; the row where it is shown, -1 when there was nothing to take back.
+    Q_INVOKABLE int undoRemoval();
+
 signals:
     void countChanged();
+    void removedChanged();
 
 private:
+    struct Removal {
+        QString name;
+        QList<LayoutStore::Place> places;
+    };
+
     bool isRow(int row) const { return row >= 0 && row < count(); }
+    QString spokenName(int row) const;
     void show(const QList<SavedLayout> &layouts);
 
     QList<SavedLayout> m_layouts;
+    QList<Removal> m_removals;
 };

@@ -76,7 +76,7 @@ PaneStack {
     GroupLabel {
         text: qsTr("Saved layouts")
     }
-    SavedLayoutsGroup { }
+    SavedLayouts { }
     GroupLabel {
         text: qsTr("In Mission Control")
     }

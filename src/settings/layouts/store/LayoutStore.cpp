@@ -44,6 +44,31 @@ QList<SavedLayout> LayoutStore::remove(const QUuid &id, UserDefaults &store)
     return layouts;
 }
 
+QList<LayoutStore::Place> LayoutStore::find(const QUuid &id, UserDefaults &store)
+{
+    const QList<SavedLayout> layouts = load(store);
+    QList<Place> places;
+    for (qsizetype i = 0; i < layouts.size(); ++i) {
+        if (layouts.at(i).id == id)
+            places.append({i, layouts.at(i)});
+    }
+    return places;
+}
+
+QList<SavedLayout> LayoutStore::restore(const QList<Place> &removed, UserDefaults &store)
+{
+    QList<SavedLayout> layouts = load(store);
+    const auto isStored = [&](const Place &place) {
+        return std::ranges::find(layouts, place.layout.id, &SavedLayout::id) != layouts.end();
+    };
+    if (removed.isEmpty() || std::ranges::any_of(removed, isStored))
+        return layouts;
+    for (const Place &place : removed)
+        layouts.insert(std::min(place.index, layouts.size()), place.layout);
+    replace(layouts, store);
+    return layouts;
+}
+
 QList<SavedLayout> LayoutStore::rename(const QUuid &id, const QString &name, UserDefaults &store)
 {
     QList<SavedLayout> layouts = load(store);
