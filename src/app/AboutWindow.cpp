@@ -25,7 +25,8 @@ QString versionText()
 
 }
 
-AboutWindow::AboutWindow(QQmlEngine &engine) : EBWindow(contentSize, {.movableByWindowBackground = true})
+AboutWindow::AboutWindow(QQmlEngine &engine)
+    : EBWindow(EBApp::corvane, contentSize, {.movableByWindowBackground = true})
 {
     //: The title of the About window; %1 is the product's name.
     setTitle(tr("About %1").arg(EBApps::displayName(EBApp::corvane)));

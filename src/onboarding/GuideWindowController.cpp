@@ -18,7 +18,7 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
                                              std::function<void()> onFinish)
     : m_onFinish(std::move(onFinish)),
       m_flow(run, [this] { finish(); }),
-      m_window(guideSize,
+      m_window(EBApp::corvane, guideSize,
                {.miniaturizeButtonEnabled = false, .movableByWindowBackground = true, .buttonsPlace = buttonsPlace})
 {
     m_window.setTitle(tr("Welcome to Corvane"));
@@ -26,12 +26,7 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
     m_window.installEventFilter(this);
     m_window.host(ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
                                    {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}}));
-    const auto followStep = [this] {
-        // The practice goes by the places of the keys and these shortcuts by their letters, which in many layouts lie
-        // elsewhere: whoever does what the hint says must not lose the guide.
-        m_window.setShortcutsEnabled(m_flow.step() != OnboardingStep::tryIt);
-    };
-    connect(&m_flow, &OnboardingFlow::stepChanged, this, followStep);
+    connect(&m_flow, &OnboardingFlow::stepChanged, this, &GuideWindowController::followStep);
     followStep();
     m_keyMonitor = Platform::current().monitorKeyDown([this](const KeyDown &key) {
         const bool isEscape = key.keyCode == KeyCodes::escape;
@@ -60,6 +55,14 @@ bool GuideWindowController::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::Close)
         finish();
     return QObject::eventFilter(watched, event);
+}
+
+void GuideWindowController::followStep()
+{
+    // The practice goes by the places of the keys and these shortcuts by their letters, which in many layouts lie
+    // elsewhere: whoever does what the hint says must not lose the guide.
+    m_window.setShortcutsEnabled(m_flow.step() != OnboardingStep::tryIt);
+    m_window.setLoudGround(OnboardingSteps::hasLoudCorner(m_flow.step()));
 }
 
 void GuideWindowController::setVisible(bool visible)

@@ -28,6 +28,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void followStep();
     void setVisible(bool visible);
 
     std::function<void()> m_onFinish;

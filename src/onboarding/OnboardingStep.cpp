@@ -6,8 +6,8 @@
 
 namespace {
 
-/// The two screens that fill the window with the product's colour open and close the flow.
-enum class Screen { loud, plain };
+/// How a step's screen is laid out: all in the product's loud colour, beside a panel in that colour, or without it.
+enum class Screen { loud, step, stage };
 
 struct Row {
     OnboardingStep step;
@@ -17,9 +17,9 @@ struct Row {
 
 constexpr std::array rows = {
     Row{OnboardingStep::welcome, QT_TRANSLATE_NOOP("OnboardingStep", "Welcome"), Screen::loud},
-    Row{OnboardingStep::tryIt, QT_TRANSLATE_NOOP("OnboardingStep", "Try it"), Screen::plain},
-    Row{OnboardingStep::access, QT_TRANSLATE_NOOP("OnboardingStep", "Permission"), Screen::plain},
-    Row{OnboardingStep::customize, QT_TRANSLATE_NOOP("OnboardingStep", "Make it yours"), Screen::plain},
+    Row{OnboardingStep::tryIt, QT_TRANSLATE_NOOP("OnboardingStep", "Try it"), Screen::stage},
+    Row{OnboardingStep::access, QT_TRANSLATE_NOOP("OnboardingStep", "Permission"), Screen::step},
+    Row{OnboardingStep::customize, QT_TRANSLATE_NOOP("OnboardingStep", "Make it yours"), Screen::stage},
     Row{OnboardingStep::done, QT_TRANSLATE_NOOP("OnboardingStep", "All set"), Screen::loud},
 };
 static_assert(rows.size() == OnboardingSteps::allCases.size());
@@ -72,4 +72,9 @@ QString OnboardingSteps::kicker(OnboardingStep step)
     if (row(step).screen == Screen::loud)
         return word(step) + QStringLiteral(" · ") + counter(step);
     return QCoreApplication::translate("OnboardingStep", "Step %1 · %2").arg(place(step), word(step));
+}
+
+bool OnboardingSteps::hasLoudCorner(OnboardingStep step)
+{
+    return row(step).screen != Screen::stage;
 }

@@ -17,4 +17,7 @@ struct OnboardingSteps : NumberedCases<OnboardingStep> {
 
     /// The line over the screen's title, "Step 03 · Permission"; on the first and the last screen "Welcome · 01 / 05".
     static QString kicker(OnboardingStep step);
+
+    /// Whether the screen has the product's loud colour where the window's buttons stand.
+    static bool hasLoudCorner(OnboardingStep step);
 };

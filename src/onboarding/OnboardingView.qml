@@ -1,5 +1,4 @@
 import QtQuick
-import Embera.Tokens
 import Corvane.Onboarding
 
 /// The onboarding: one screen at a time, that of the flow's step.
@@ -10,7 +9,6 @@ Item {
 
     implicitWidth: 560
     implicitHeight: 388
-    EBEnvironment.ebApp: "corvane"
     LayoutMirroring.childrenInherit: true
 
     StepHolder {

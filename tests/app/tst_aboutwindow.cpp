@@ -25,6 +25,7 @@ private slots:
     void itIsAsLargeAsItsContentAndInTheMiddle();
     void itCannotBeMiniaturizedOrZoomed();
     void anyPlaceOfItIsPaper();
+    void itsOwnButtonHasTheRingOfTheProduct();
     void itShowsTheVersionWithTheBuild_data();
     void itShowsTheVersionWithTheBuild();
     void itSaysWhatTheProductIs();
@@ -156,6 +157,13 @@ void TestAboutWindow::anyPlaceOfItIsPaper()
         QCOMPARE(picture.pixelColor(2, 2).rgb(), EBKit::paper().current().rgb());
         QCOMPARE(picture.pixelColor(457, 377).rgb(), EBKit::paper().current().rgb());
     }
+}
+
+void TestAboutWindow::itsOwnButtonHasTheRingOfTheProduct()
+{
+    open();
+    button("Close")->forceActiveFocus(Qt::TabFocusReason);
+    QCOMPARE(Views::pixel(*window(), button("Close"), {7, -3}).name(), EBKit::indigo().current().name());
 }
 
 void TestAboutWindow::itShowsTheVersionWithTheBuild_data()

@@ -8,6 +8,7 @@
 #include "Shared.h"
 #include "TestProgram.h"
 #include "ViewEngine.h"
+#include "Views.h"
 
 #include <QGuiApplication>
 #include <QSignalSpy>
@@ -30,6 +31,8 @@ private slots:
     void whereTextRunsTheOtherWayEveryScreenIsMirrored();
     void theButtonsStandInLineWithTheTextsAndClearOfThem_data();
     void theButtonsStandInLineWithTheTextsAndClearOfThem();
+    void theCloseButtonHasARingThatIsSeen_data();
+    void theCloseButtonHasARingThatIsSeen();
     void escapeEndsTheOnboardingOnEveryStep_data();
     void escapeEndsTheOnboardingOnEveryStep();
     void everyOtherKeyPassesThrough();
@@ -194,6 +197,32 @@ void TestGuideWindow::theButtonsStandInLineWithTheTextsAndClearOfThem()
     QVERIFY(!close.isEmpty() && !text.isEmpty());
     QCOMPARE(close.left(), text.left());
     QVERIFY2(text.top() - close.bottom() >= 8, qPrintable(QString::number(text.top() - close.bottom())));
+}
+
+void TestGuideWindow::theCloseButtonHasARingThatIsSeen_data()
+{
+    QTest::addColumn<OnboardingStep>("step");
+    QTest::addColumn<bool>("loud");
+    QTest::newRow("welcome") << OnboardingStep::welcome << true;
+    QTest::newRow("tryIt") << OnboardingStep::tryIt << false;
+    QTest::newRow("access") << OnboardingStep::access << true;
+    QTest::newRow("customize") << OnboardingStep::customize << false;
+    QTest::newRow("done") << OnboardingStep::done << true;
+}
+
+void TestGuideWindow::theCloseButtonHasARingThatIsSeen()
+{
+    QFETCH(const OnboardingStep, step);
+    QFETCH(const bool, loud);
+    m_guide->flow().go(step);
+    showGuide();
+    QQuickItem *close = NamedItems::first(window().contentItem(), "Close", QAccessible::Button);
+    QVERIFY(close);
+    close->forceActiveFocus(Qt::TabFocusReason);
+    // On its own colour the product's ring would not be seen.
+    const QString ring = (loud ? EBKit::onLoudIndigo() : EBKit::indigo()).current().name();
+    QTRY_COMPARE(Views::pixel(window(), close, {7, -3}).name(), ring);
+    QVERIFY(Views::pixel(window(), close, {7, -6}).name() != ring);
 }
 
 void TestGuideWindow::escapeEndsTheOnboardingOnEveryStep_data()

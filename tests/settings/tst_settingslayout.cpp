@@ -18,6 +18,9 @@ private slots:
     void theHeadingIsSetInTheDisplayFace();
     void aSearchThatHidesTheShownPageLeavesItAsItIs();
     void aSearchWithoutResultLeavesThePageAsItIs();
+
+    void aPageIsMadeAnewEachTimeItIsShown();
+    void theWindowsOwnButtonsHaveTheRingOfTheProduct();
 };
 
 void TestSettingsLayout::theProductsMarkStandsBesideItsNameInItsColour()
@@ -117,6 +120,41 @@ void TestSettingsLayout::aSearchWithoutResultLeavesThePageAsItIs()
     QVERIFY(settings.label("Settings · 04"));
     QVERIFY(settings.heading("Layouts"));
     QCOMPARE(settings.window().size(), window);
+}
+
+void TestSettingsLayout::aPageIsMadeAnewEachTimeItIsShown()
+{
+    const QString list = R"([{"created":1,"id":"11111111-1111-4111-8111-111111111111","name":"Work","windows":[]}])";
+    SettingsWindow settings("layouts");
+    const auto show = [&settings](const QString &page) {
+        settings.controller.model()->setSelection(page);
+        settings.waitForFrame();
+    };
+    QVERIFY(settings.label("None yet"));
+    settings.store.setValue("layouts.saved", list);
+    settings.waitForFrame();
+    QVERIFY(settings.label("None yet"));
+    show("general");
+    show("layouts");
+    QVERIFY(!settings.label("None yet"));
+    QVERIFY(settings.item("Delete Work", QAccessible::Button));
+    // What was deleted can be brought back until the page is left.
+    settings.click(settings.item("Delete Work", QAccessible::Button));
+    QVERIFY(settings.item("Undo", QAccessible::Button));
+    show("general");
+    show("layouts");
+    QVERIFY(settings.label("None yet"));
+    QVERIFY(!settings.item("Undo", QAccessible::Button));
+}
+
+void TestSettingsLayout::theWindowsOwnButtonsHaveTheRingOfTheProduct()
+{
+    SettingsWindow settings;
+    for (const char *name : {"Close", "Minimize"}) {
+        QQuickItem *button = settings.item(name, QAccessible::Button);
+        button->forceActiveFocus(Qt::TabFocusReason);
+        QCOMPARE(settings.pixel(button, {7, -3}).name(), EBKit::indigo().current().name());
+    }
 }
 
 CORVANE_TEST(TestSettingsLayout, runInGui)

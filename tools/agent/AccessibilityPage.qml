@@ -12,8 +12,6 @@ Item {
 
     required property AccessibilityList list
 
-    EBEnvironment.ebApp: "corvane"
-
     AppStorage {
         id: trusted
         key: Key.agentAccessibilityTrusted

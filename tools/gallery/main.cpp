@@ -1,6 +1,5 @@
 #include "Accessibility.h"
 #include "EBApp.h"
-#include "EBEnvironment.h"
 #include "EBKitFonts.h"
 #include "EBWindow.h"
 #include "FakePlatform.h"
@@ -104,9 +103,8 @@ int show(int argc, char *argv[], const GalleryOptions &options)
 
     ViewEngine engine;
     auto *scene = ViewEngine::make<Scene>(engine, SceneTable::find(options.scene)->source.toString());
-    EBEnvironment::of(scene)->setEbApp(options.app);
     const QSizeF size(scene->implicitWidth(), scene->implicitHeight());
-    EBWindow window(size.toSize(), {.miniaturizeButtonEnabled = true, .movableByWindowBackground = true});
+    EBWindow window(options.app, size.toSize(), {.miniaturizeButtonEnabled = true, .movableByWindowBackground = true});
     window.setTitle(options.scene);
     window.host(scene);
     window.center();

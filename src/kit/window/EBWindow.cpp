@@ -1,5 +1,6 @@
 #include "EBWindow.h"
 
+#include "EBEnvironment.h"
 #include "EBKit.h"
 #include "Motion.h"
 #include "Platform.h"
@@ -32,7 +33,7 @@ protected:
 
 }
 
-EBWindow::EBWindow(QSize contentSize, Style style) : m_style(style)
+EBWindow::EBWindow(EBApp app, QSize contentSize, Style style) : m_app(app), m_style(style)
 {
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     resize(contentSize);
@@ -59,6 +60,7 @@ void EBWindow::host(QQuickItem *view)
     connect(this, &QWindow::heightChanged, view, fill);
     fill();
     addChrome(qmlEngine(view));
+    EBEnvironment::of(contentItem())->setEbApp(m_app);
 }
 
 void EBWindow::addChrome(QQmlEngine *engine)
@@ -74,6 +76,14 @@ void EBWindow::addItem(QQuickItem *item)
     item->setParentItem(contentItem());
     if (QGuiApplication::isRightToLeft())
         QQmlProperty::write(item, QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(item));
+}
+
+void EBWindow::setLoudGround(bool loud)
+{
+    if (m_loudGround == loud)
+        return;
+    m_loudGround = loud;
+    emit loudGroundChanged();
 }
 
 void EBWindow::center()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "EBApp.h"
+
 #include <QQuickWindow>
 #include <QVariantAnimation>
 #include <qqmlregistration.h>
@@ -14,6 +16,8 @@ class EBWindow : public QQuickWindow {
     Q_PROPERTY(bool miniaturizeButtonEnabled READ miniaturizeButtonEnabled CONSTANT)
     Q_PROPERTY(QPoint buttonsPlace READ buttonsPlace CONSTANT)
     Q_PROPERTY(bool shortcutsEnabled READ shortcutsEnabled NOTIFY shortcutsEnabledChanged)
+    /// What lies under the window's buttons has the product's loud colour, so that their focus ring must not.
+    Q_PROPERTY(bool loudGround READ loudGround WRITE setLoudGround NOTIFY loudGroundChanged)
 public:
     struct Style {
         bool miniaturizeButtonEnabled = false;
@@ -23,8 +27,8 @@ public:
         QPoint buttonsPlace = {22, 16};
     };
 
-    /// `contentSize` in points; the person cannot change it.
-    EBWindow(QSize contentSize, Style style);
+    /// A window of the product `app`, for everything inside. `contentSize` in points; the person cannot change it.
+    EBWindow(EBApp app, QSize contentSize, Style style);
 
     /// Puts `view` into the window and keeps it as large as the window, under the title bar too. The view
     /// never drives the window's size. The window takes ownership.
@@ -47,18 +51,24 @@ public:
     bool shortcutsEnabled() const { return m_shortcutsEnabled; }
     void setShortcutsEnabled(bool enabled);
 
+    bool loudGround() const { return m_loudGround; }
+    void setLoudGround(bool loud);
+
     /// Shows the window in front of the others with the keyboard focus.
     void makeKeyAndOrderFront();
 
 signals:
     void shortcutsEnabledChanged();
+    void loudGroundChanged();
 
 private:
     void addChrome(QQmlEngine *engine);
     void addItem(QQuickItem *item);
     void fixSize();
 
-    Style m_style;
+    const EBApp m_app;
+    const Style m_style;
     bool m_shortcutsEnabled = true;
+    bool m_loudGround = false;
     QVariantAnimation m_resize;
 };

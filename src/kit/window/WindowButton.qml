@@ -8,6 +8,8 @@ Pressable {
     id: button
 
     required property string glyph
+    /// The window has the product's loud colour here.
+    property bool loudGround: false
 
     // An odd number of points: the lines of the glyph run along pixels and through the middle of the disc.
     implicitWidth: 15
@@ -23,6 +25,7 @@ Pressable {
 
         FocusRing {
             control: button
+            strokeColor: button.loudGround ? EBEnvironment.onLoud : EBEnvironment.accent
         }
     }
     contentItem: Glyph {

@@ -33,17 +33,20 @@ Item {
         WindowButton {
             text: qsTr("Close")
             glyph: "close"
+            loudGround: chrome.window.loudGround
             onClicked: chrome.window.close()
         }
         WindowButton {
             text: qsTr("Minimize")
             glyph: "minus"
+            loudGround: chrome.window.loudGround
             enabled: chrome.window.miniaturizeButtonEnabled
             onClicked: chrome.window.showMinimized()
         }
         WindowButton {
             text: qsTr("Zoom")
             glyph: "plus"
+            loudGround: chrome.window.loudGround
             enabled: false
         }
     }

@@ -35,7 +35,7 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
                                                        const QList<EBSettingsPage> &pages,
                                                        const std::optional<QString> &initial)
     : m_model(new Model(pages, initial, this)),
-      m_window(std::make_unique<EBWindow>(initialContent, EBWindow::Style{.miniaturizeButtonEnabled = true}))
+      m_window(std::make_unique<EBWindow>(app, initialContent, EBWindow::Style{.miniaturizeButtonEnabled = true}))
 {
     //: The title of the settings window; %1 is the product's name.
     m_window->setTitle(tr("%1 Settings").arg(EBApps::displayName(app)));
@@ -44,7 +44,6 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
     m_root = ViewEngine::make<MeasuredItem>(
         engine, rootView,
         {
-            {QStringLiteral("app"), EBApps::rawValue(app)},
             {QStringLiteral("version"), version},
             {QStringLiteral("pages"), QVariant::fromValue(new SidebarModel(pages, this))},
             {QStringLiteral("model"), QVariant::fromValue(m_model)},

@@ -1,17 +1,14 @@
 import QtQuick
-import Embera.Tokens
 import Corvane.Settings.Window
 
-/// What the settings window hosts: the settings view with its product, telling how large it wants to be.
+/// What the settings window hosts: the settings view, telling how large it wants to be.
 MeasuredItem {
     id: root
 
-    required property string app
     required property string version
     required property SidebarModel pages
     required property SettingsModel model
 
-    EBEnvironment.ebApp: app
     LayoutMirroring.childrenInherit: true
     contentSize: Qt.size(view.implicitWidth, view.implicitHeight)
 
