@@ -37,6 +37,10 @@ public:
     /// windows. Hiding the window undoes this: call it before each show.
     virtual void floatOnAllSpaces(QWindow &window) = 0;
 
+    /// Whether a window knows where on the screen it is, and goes where it is put. Where it does not, the desktop keeps
+    /// the places of windows to itself.
+    virtual bool placesWindows() = 0;
+
     /// Whether transparent parts of a window show what lies behind it. Where they do not, they are black.
     virtual bool blendsWindows() = 0;
 };

@@ -9,6 +9,7 @@
 #include <QQuickItem>
 #include <QScreen>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -35,6 +36,15 @@ private slots:
     void aFitOfAWindowThatIsNotShownIsNotAnimated();
     void aNewHeightDuringTheAnimationWins();
     void theWindowIsNeverHigherThanTheScreen();
+    void theFirstFitOfAShownWindowIsNotAnimatedAndCentersIt();
+    void aPageWithoutRoomBelowMovesTheWindowUpByWhatIsMissing();
+    void theMoveIsAnimatedWithTheHeight();
+    void theWindowThatMovedUpStaysThere();
+    void aWindowThatWasMovedFitsAgainOnceItStandsStill();
+    void aWindowThatIsStillMovedIsLeftAlone();
+    void aWindowThatWasMovedFarDownKeepsItsFirstHeight();
+    void onAnotherScreenTheWindowFitsAgain();
+    void whereThePlaceIsUnknownTheScreensHeightDecides();
     void theBackgroundFollowsTheAppearance();
     void theViewFillsTheWindow();
 
@@ -42,7 +52,13 @@ private:
     void make(const std::optional<QString> &initial = {});
     void show();
     EBWindow &window() { return *m_controller->window(); }
+    int screenHeight() { return window().screen()->availableGeometry().height(); }
+    /// Moves the window's upper edge, and waits until the window has heard of it.
+    void moveTo(int top);
+    /// A page whose content is that high.
+    EBSettingsPage page(const QString &id, int height);
 
+    QTemporaryDir m_folder;
     FakePlatform *m_platform = nullptr;
     std::unique_ptr<ViewEngine> m_engine;
     std::unique_ptr<EBSettingsWindowController> m_controller;
@@ -208,6 +224,149 @@ void TestSettingsWindow::theWindowIsNeverHigherThanTheScreen()
     m_controller->fit(QSizeF(620, 100000));
     QCOMPARE(window().position(), before);
     QCOMPARE(window().geometry().bottom(), window().screen()->availableGeometry().bottom());
+}
+
+void TestSettingsWindow::moveTo(int top)
+{
+    QSignalSpy moves(&window(), &QWindow::yChanged);
+    window().setPosition(window().x(), top);
+    QTRY_VERIFY(!moves.isEmpty());
+}
+
+EBSettingsPage TestSettingsWindow::page(const QString &id, int height)
+{
+    QFile file(m_folder.filePath(id + ".qml"));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QString("import QtQuick\nItem { implicitHeight: %1 }").arg(height).toUtf8());
+    return {id, id, GlyphName::gear, {}, QUrl::fromLocalFile(file.fileName())};
+}
+
+void TestSettingsWindow::theFirstFitOfAShownWindowIsNotAnimatedAndCentersIt()
+{
+    const auto makeOn = [this](const QList<EBSettingsPage> &pages) {
+        m_controller =
+            std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4", pages, std::nullopt);
+    };
+    makeOn({page("any", 600)});
+    const int around = window().height() - 600;
+    // A page as high as the window is from the beginning: nothing is fitted before the window is shown.
+    makeOn({page("same", 410 - around), page("higher", 560 - around)});
+    show();
+    QCOMPARE(window().height(), 410);
+    window().setPosition(40, 50);
+    QSignalSpy heights(&window(), &QWindow::heightChanged);
+    m_controller->model()->setSelection("higher");
+    QTRY_VERIFY(!heights.isEmpty());
+    QCOMPARE(window().height(), 560);
+    QCOMPARE(heights.size(), 1);
+    const QPoint off = window().geometry().center() - window().screen()->availableGeometry().center();
+    QVERIFY(off.manhattanLength() <= 1);
+    // The next one is.
+    m_controller->model()->setSelection("same");
+    QTRY_COMPARE(window().height(), 410);
+    QVERIFY(heights.size() > 2);
+}
+
+void TestSettingsWindow::aPageWithoutRoomBelowMovesTheWindowUpByWhatIsMissing()
+{
+    show();
+    m_platform->look.setReduceMotion(true);
+    const int x = window().x();
+    window().setPosition(x, 300);
+    m_controller->fit(QSizeF(620, screenHeight() - 300));
+    QCOMPARE(window().geometry(), QRect(x, 300, 620, screenHeight() - 300));
+    m_controller->fit(QSizeF(620, screenHeight() - 120));
+    QCOMPARE(window().geometry(), QRect(x, 120, 620, screenHeight() - 120));
+    m_controller->fit(QSizeF(620, screenHeight()));
+    QCOMPARE(window().geometry(), QRect(x, 0, 620, screenHeight()));
+}
+
+void TestSettingsWindow::theMoveIsAnimatedWithTheHeight()
+{
+    show();
+    const int x = window().x();
+    window().setPosition(x, 300);
+    QSignalSpy places(&window(), &QWindow::yChanged);
+    m_controller->fit(QSizeF(620, screenHeight() - 120));
+    QCOMPARE(window().y(), 300);
+    QTRY_COMPARE(window().geometry(), QRect(x, 120, 620, screenHeight() - 120));
+    QVERIFY(places.size() > 1);
+}
+
+void TestSettingsWindow::theWindowThatMovedUpStaysThere()
+{
+    show();
+    m_platform->look.setReduceMotion(true);
+    window().setPosition(90, 300);
+    m_controller->fit(QSizeF(620, screenHeight() - 120));
+    m_controller->fit(QSizeF(620, 320));
+    QCOMPARE(window().geometry(), QRect(90, 120, 620, 320));
+}
+
+void TestSettingsWindow::aWindowThatWasMovedFitsAgainOnceItStandsStill()
+{
+    make("layouts");
+    show();
+    m_platform->look.setReduceMotion(true);
+    const QRect first = window().geometry();
+    QVERIFY(first.height() > 500);
+    moveTo(screenHeight() - 500);
+    QCOMPARE(window().height(), first.height());
+    m_platform->queue.advance(0.3);
+    QCOMPARE(window().geometry(), QRect(first.x(), screenHeight() - 500, 620, 500));
+    moveTo(first.y());
+    m_platform->queue.advance(0.3);
+    QCOMPARE(window().geometry(), first);
+    QCOMPARE(m_platform->queue.waiting(), 0);
+}
+
+void TestSettingsWindow::aWindowThatIsStillMovedIsLeftAlone()
+{
+    make("layouts");
+    show();
+    m_platform->look.setReduceMotion(true);
+    const int height = window().height();
+    for (int step = 0; step < 5; ++step) {
+        moveTo(screenHeight() - 500 + step);
+        m_platform->queue.advance(0.2);
+        QCOMPARE(window().height(), height);
+    }
+    m_platform->queue.advance(0.1);
+    QCOMPARE(window().height(), 496);
+}
+
+void TestSettingsWindow::aWindowThatWasMovedFarDownKeepsItsFirstHeight()
+{
+    make("layouts");
+    show();
+    m_platform->look.setReduceMotion(true);
+    moveTo(screenHeight() - 100);
+    m_platform->queue.advance(0.3);
+    QCOMPARE(window().size(), QSize(620, 410));
+    QCOMPARE(window().y(), screenHeight() - 100);
+}
+
+void TestSettingsWindow::onAnotherScreenTheWindowFitsAgain()
+{
+    make("layouts");
+    show();
+    m_platform->look.setReduceMotion(true);
+    window().setPosition(90, screenHeight() - 500);
+    emit window().screenChanged(window().screen());
+    QCOMPARE(window().geometry(), QRect(90, screenHeight() - 500, 620, 500));
+}
+
+void TestSettingsWindow::whereThePlaceIsUnknownTheScreensHeightDecides()
+{
+    m_platform->space.places = false;
+    show();
+    m_platform->look.setReduceMotion(true);
+    window().setPosition(90, 300);
+    m_controller->fit(QSizeF(620, 650));
+    QCOMPARE(window().geometry(), QRect(90, 300, 620, 650));
+    // The desktop's bars are kept free, which nobody tells either.
+    m_controller->fit(QSizeF(620, 5000));
+    QCOMPARE(window().geometry(), QRect(90, 300, 620, screenHeight() - 96));
 }
 
 void TestSettingsWindow::theBackgroundFollowsTheAppearance()

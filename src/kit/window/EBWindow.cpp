@@ -40,7 +40,7 @@ EBWindow::EBWindow(EBApp app, QSize contentSize, Style style) : m_app(app), m_st
     fixSize();
     m_resize.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&m_resize, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &height) { resize(width(), height.toInt()); });
+            [this](const QVariant &frame) { setGeometry(frame.toRect()); });
     connect(&m_resize, &QVariantAnimation::finished, this, &EBWindow::fixSize);
     const auto paint = [this] { setColor(EBKit::paper().current()); };
     connect(&Platform::current().appearance(), &Appearance::changed, this, paint);
@@ -93,26 +93,27 @@ void EBWindow::center()
     setPosition(frame.topLeft());
 }
 
-void EBWindow::setHeight(int height, bool animate)
+void EBWindow::setFrame(int top, int height, bool animate)
 {
     m_resize.stop();
     // A window manager refuses what lies outside the limits.
     setMinimumHeight(std::min(this->height(), height));
     setMaximumHeight(std::max(this->height(), height));
+    const QRect frame(x(), top, width(), height);
     if (animate) {
-        m_resize.setStartValue(this->height());
-        m_resize.setEndValue(height);
+        m_resize.setStartValue(geometry());
+        m_resize.setEndValue(frame);
         m_resize.setDuration(Motion::duration(resizeDuration));
         m_resize.start();
         return;
     }
-    resize(width(), height);
+    setGeometry(frame);
     fixSize();
 }
 
-int EBWindow::targetHeight() const
+QRect EBWindow::targetFrame() const
 {
-    return m_resize.state() == QAbstractAnimation::Running ? m_resize.endValue().toInt() : height();
+    return m_resize.state() == QAbstractAnimation::Running ? m_resize.endValue().toRect() : geometry();
 }
 
 void EBWindow::setShortcutsEnabled(bool enabled)

@@ -37,12 +37,12 @@ public:
     /// Places the window in the middle of its screen.
     void center();
 
-    /// Resizes the window to `height`, its top left corner kept: at once, or in a short animation that a later call
-    /// takes over.
-    void setHeight(int height, bool animate);
+    /// Moves the window's upper edge to `top` and resizes it to `height`: at once, or in a short animation that a later
+    /// call takes over.
+    void setFrame(int top, int height, bool animate);
 
-    /// The height the window has, or is on its way to.
-    int targetHeight() const;
+    /// The frame the window has, or is on its way to.
+    QRect targetFrame() const;
 
     bool miniaturizeButtonEnabled() const { return m_style.miniaturizeButtonEnabled; }
     QPoint buttonsPlace() const { return m_style.buttonsPlace; }

@@ -18,6 +18,7 @@ public:
     int loginItemsSettingsOpened = 0;
     int missionControlOpened = 0;
     bool blends = true;
+    bool places = true;
 
     /// The windows that were readied to float, each time anew.
     QList<QWindow *> floating;
@@ -52,6 +53,8 @@ public:
     void openMissionControl() override { ++missionControlOpened; }
 
     void floatOnAllSpaces(QWindow &window) override { floating.append(&window); }
+
+    bool placesWindows() override { return places; }
 
     bool blendsWindows() override { return blends; }
 };

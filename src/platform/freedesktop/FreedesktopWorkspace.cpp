@@ -8,9 +8,9 @@
 #include "X11Panel.h"
 #include "X11ShowDesktop.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QGuiApplication>
 #include <QImageReader>
 #include <QProcess>
 #include <QStandardPaths>
@@ -156,6 +156,11 @@ void FreedesktopWorkspace::openMissionControl()
 void FreedesktopWorkspace::floatOnAllSpaces(QWindow &window)
 {
     X11Panel::floatOnAllDesktops(window);
+}
+
+bool FreedesktopWorkspace::placesWindows()
+{
+    return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 bool FreedesktopWorkspace::blendsWindows()

@@ -21,6 +21,7 @@ public:
     void openLoginItemsSettings() override;
     void openMissionControl() override;
     void floatOnAllSpaces(QWindow &window) override;
+    bool placesWindows() override;
     bool blendsWindows() override;
 
 private:

@@ -14,8 +14,16 @@ namespace {
 
 constexpr QSize initialContent(620, 410);
 constexpr qreal noise = 0.5;
+constexpr double stillSeconds = 0.3;
+/// What a desktop's own bars may take of the screen, where it tells neither that nor the window's place; in points.
+constexpr int desktopBars = 96;
 
 const QString rootView = QStringLiteral("qrc:/qt/qml/Corvane/Settings/Window/SettingsRoot.qml");
+
+bool isPlaceKnown()
+{
+    return Platform::current().workspace().placesWindows();
+}
 
 /// The next height that ends on a whole pixel: at a scale of 1.5 an odd one would leave half a row unpainted.
 qreal wholePixels(qreal height, qreal scale)
@@ -49,11 +57,12 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
             {QStringLiteral("model"), QVariant::fromValue(m_model)},
         });
     connect(m_root, &MeasuredItem::measured, this, &EBSettingsWindowController::fit);
-    connect(m_window.get(), &QWindow::screenChanged, this, [this] { fit(m_root->contentSize()); });
+    connect(m_window.get(), &QWindow::screenChanged, this, [this] { adapt(m_root->contentSize(), Place::kept); });
     m_window->host(m_root);
     m_window->center();
     m_root->settle();
     fit(m_root->contentSize());
+    connect(m_window.get(), &QWindow::yChanged, this, &EBSettingsWindowController::followMove);
 }
 
 EBSettingsWindowController::~EBSettingsWindowController() = default;
@@ -70,27 +79,54 @@ void EBSettingsWindowController::showWindow()
     m_window->makeKeyAndOrderFront();
 }
 
-/// The first fit centers the window, so that it has the whole screen; after that it grows downwards. A window that was
-/// moved far down keeps a usable height.
-qreal EBSettingsWindowController::room() const
+/// The window manager, which moves the window, does not say when it is done.
+void EBSettingsWindowController::followMove()
 {
-    const QRect available = m_window->screen()->availableGeometry();
-    const int below = available.bottom() + 1 - m_window->y();
-    return std::min(available.height(), m_sized ? std::max(below, initialContent.height()) : available.height());
+    m_move = Platform::current().mainQueue().every(stillSeconds, this, [this] {
+        m_move.reset();
+        adapt(m_root->contentSize(), Place::kept);
+    });
+}
+
+/// How high a window can become whose upper edge is at `top`. The first fit centers the window, so that it has the
+/// whole screen. A window that was moved far down keeps a usable height.
+int EBSettingsWindowController::room(int top) const
+{
+    const QRect screen = m_window->screen()->availableGeometry();
+    if (!isPlaceKnown())
+        return screen.height() - desktopBars;
+    const int below = m_sized ? screen.bottom() + 1 - top : screen.height();
+    return std::min(std::max(below, initialContent.height()), screen.height());
+}
+
+/// The upper edge of a window of that height: moved up by what the screen has not below it, if that is enough.
+int EBSettingsWindowController::topFor(int height) const
+{
+    const QRect screen = m_window->screen()->availableGeometry();
+    const int top = m_window->targetFrame().top();
+    const int lowest = screen.bottom() + 1 - height;
+    return isPlaceKnown() && lowest >= screen.top() ? std::min(top, lowest) : top;
 }
 
 void EBSettingsWindowController::fit(QSizeF size)
 {
+    adapt(size, Place::mayMoveUp);
+}
+
+void EBSettingsWindowController::adapt(QSizeF size, Place place)
+{
     if (!(size.height() > 0))
         return;
-    m_root->setRoomHeight(room());
-    const qreal wanted =
-        std::min(wholePixels(std::ceil(size.height()), m_window->devicePixelRatio()), m_root->roomHeight());
-    const int current = m_window->targetHeight();
-    if (std::abs(wanted - current) <= noise || std::abs(size.height() - current) <= noise)
+    const QRect current = m_window->targetFrame();
+    const int wanted = int(wholePixels(std::ceil(size.height()), m_window->devicePixelRatio()));
+    const int top = place == Place::mayMoveUp ? topFor(wanted) : current.top();
+    m_root->setRoomHeight(room(top));
+    const int height = std::min(wanted, room(top));
+    const bool isNoise = height == wanted && std::abs(size.height() - current.height()) <= noise;
+    if (height == current.height() || isNoise)
         return;
     const bool reduceMotion = Platform::current().appearance().shouldReduceMotion();
-    m_window->setHeight(int(wanted), m_sized && m_window->isVisible() && !reduceMotion);
+    m_window->setFrame(top, height, m_sized && m_window->isVisible() && !reduceMotion);
     if (!m_sized) {
         m_sized = true;
         m_window->center();

@@ -3,6 +3,7 @@
 #include "EBApp.h"
 #include "EBSettingsPage.h"
 #include "EBWindow.h"
+#include "MainQueue.h"
 
 #include <memory>
 #include <optional>
@@ -30,16 +31,26 @@ public:
     EBWindow *window() const { return m_window.get(); }
     Model *model() const { return m_model; }
 
-    /// Resizes the window to a measured content: always 620 points wide, as high as reported, at most down to the lower
-    /// edge of the screen, its top left corner kept. A height of 0 or less, or within half a point of the window's,
-    /// changes nothing.
+    /// Resizes the window to a measured content: always 620 points wide, as high as reported, its top left corner kept.
+    /// A height of 0 or less, or within half a point of the window's, changes nothing.
+    ///
+    /// Where the screen has no room for it below the window's upper edge, the window moves up by what is missing; where
+    /// the screen is too low altogether, it stays and ends at the screen's lower edge.
     void fit(QSizeF size);
 
 private:
-    qreal room() const;
+    /// What a window does for which there is no room below its upper edge.
+    enum class Place { kept, mayMoveUp };
+
+    void adapt(QSizeF size, Place place);
+    void followMove();
+    int topFor(int height) const;
+    int room(int top) const;
 
     Model *m_model;
     std::unique_ptr<EBWindow> m_window;
     MeasuredItem *m_root = nullptr;
     bool m_sized = false;
+    /// Held until the window, which somebody has moved, has stood still for a moment.
+    std::unique_ptr<MainQueue::Repetition> m_move;
 };

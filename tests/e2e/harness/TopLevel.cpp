@@ -3,28 +3,38 @@
 #include "XConnection.h"
 #include "XReply.h"
 
+#include <array>
 #include <cstring>
 #include <xcb/xcb_icccm.h>
 
 QList<TopLevel> TopLevel::ofProcess(const XConnection &x, qint64 processId)
 {
-    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, x.root()), nullptr));
-    if (!tree)
-        return {};
-    const xcb_atom_t owner = x.atom("_NET_WM_PID");
-    const xcb_window_t *ids = xcb_query_tree_children(tree.get());
     QList<TopLevel> windows;
-    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
-        if (x.number(ids[i], owner) == processId)
-            windows.append(TopLevel(x, ids[i]));
-    }
+    collect(x, x.root(), processId, windows);
     return windows;
+}
+
+/// A window manager puts a window into a frame of its own.
+void TopLevel::collect(const XConnection &x, xcb_window_t parent, qint64 processId, QList<TopLevel> &windows)
+{
+    const XReply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(x, xcb_query_tree(x, parent), nullptr));
+    if (!tree)
+        return;
+    const xcb_window_t *ids = xcb_query_tree_children(tree.get());
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i) {
+        if (x.number(ids[i], x.atom("_NET_WM_PID")) == processId)
+            windows.append(TopLevel(x, ids[i]));
+        else
+            collect(x, ids[i], processId, windows);
+    }
 }
 
 QRect TopLevel::geometry() const
 {
-    const XReply<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(*m_x, xcb_get_geometry(*m_x, m_id), nullptr));
-    return reply ? QRect(reply->x, reply->y, reply->width, reply->height) : QRect();
+    const XReply<xcb_get_geometry_reply_t> size(xcb_get_geometry_reply(*m_x, xcb_get_geometry(*m_x, m_id), nullptr));
+    const XReply<xcb_translate_coordinates_reply_t> place(
+        xcb_translate_coordinates_reply(*m_x, xcb_translate_coordinates(*m_x, m_id, m_x->root(), 0, 0), nullptr));
+    return size && place ? QRect(place->dst_x, place->dst_y, size->width, size->height) : QRect();
 }
 
 QString TopLevel::title() const
@@ -103,6 +113,13 @@ std::optional<QSize> TopLevel::maximumSize() const
     if (!(hints.flags & XCB_ICCCM_SIZE_HINT_P_MAX_SIZE))
         return std::nullopt;
     return QSize(hints.max_width, hints.max_height);
+}
+
+void TopLevel::moveTo(QPoint place) const
+{
+    const std::array values = {place.x(), place.y()};
+    xcb_configure_window(*m_x, m_id, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, values.data());
+    m_x->synchronise();
 }
 
 void TopLevel::close() const

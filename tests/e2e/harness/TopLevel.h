@@ -38,10 +38,15 @@ public:
     std::optional<QSize> minimumSize() const;
     std::optional<QSize> maximumSize() const;
 
+    /// Moves the window, as a pager does.
+    void moveTo(QPoint place) const;
+
     /// Asks the window to close, as the button of a window manager does.
     void close() const;
 
 private:
+    static void collect(const XConnection &x, xcb_window_t parent, qint64 processId, QList<TopLevel> &windows);
+
     TopLevel(const XConnection &x, xcb_window_t id) : m_x(&x), m_id(id) { }
 
     const XConnection *m_x;

@@ -1,0 +1,82 @@
+#include "EndToEndTest.h"
+#include "TestProgram.h"
+
+using namespace Qt::StringLiterals;
+
+/// The settings window where a window manager places and moves it.
+class TestWindowManager : public EndToEndTest {
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void aPageWithoutRoomBelowMovesTheWindowUp();
+    void aWindowThatWasMovedFitsAgain();
+
+private:
+    /// Starts the window manager, and then the program on that page.
+    bool openPage(const QString &page);
+    bool isManaged() const;
+    /// Whether the last tip of the Layouts page, far down, is on the screen.
+    bool showsTheEnd() const;
+
+    std::unique_ptr<Program> m_manager;
+};
+
+bool TestWindowManager::openPage(const QString &page)
+{
+    m_manager = std::make_unique<Program>(u"openbox"_s, desktop().environment());
+    return m_manager->start() && QTest::qWaitFor([this] { return isManaged(); })
+        && open({.environment = {{u"CV_TAB"_s, page}}})
+        && QTest::qWaitFor([this] { return window()->hasInputFocus(); });
+}
+
+void TestWindowManager::cleanup()
+{
+    EndToEndTest::cleanup();
+    m_manager.reset();
+    QTRY_VERIFY(!isManaged());
+}
+
+/// It names a window of its own, which knows its own name.
+bool TestWindowManager::isManaged() const
+{
+    const XConnection &x = desktop().x();
+    const xcb_atom_t check = x.atom("_NET_SUPPORTING_WM_CHECK");
+    const xcb_window_t own = x.number(x.root(), check);
+    return own != XCB_NONE && x.number(own, check) == own;
+}
+
+bool TestWindowManager::showsTheEnd() const
+{
+    const Accessible last = application().find(ATSPI_ROLE_LABEL, u"Put a saved layout back"_s);
+    return last && window()->geometry().contains(last.extents());
+}
+
+void TestWindowManager::aPageWithoutRoomBelowMovesTheWindowUp()
+{
+    QVERIFY(openPage(u"general"_s));
+    const QRect first = window()->geometry();
+    const int screen = desktop().x().size().height();
+    FIND(page, ATSPI_ROLE_LIST_ITEM, "Layouts");
+    QVERIFY(page.doAction(u"Press"_s));
+    QTRY_VERIFY(window()->geometry().height() > screen - first.top());
+    QTRY_COMPARE(window()->geometry().bottom(), screen - 1);
+    QCOMPARE(window()->geometry().left(), first.left());
+    QTRY_VERIFY(showsTheEnd());
+}
+
+void TestWindowManager::aWindowThatWasMovedFitsAgain()
+{
+    QVERIFY(openPage(u"layouts"_s));
+    const QRect first = window()->geometry();
+    const int screen = desktop().x().size().height();
+    window()->moveTo({first.left(), 220});
+    QTRY_COMPARE(window()->geometry(), QRect(first.left(), 220, first.width(), screen - 220));
+    window()->moveTo(first.topLeft());
+    QTRY_COMPARE(window()->geometry(), first);
+    QTRY_VERIFY(showsTheEnd());
+}
+
+CORVANE_TEST(TestWindowManager, runInCore)
+#include "e2e_windowmanager.moc"
