@@ -104,6 +104,9 @@ void TestAppDelegate::theWindowShowsTheShortVersionAlone()
 void TestAppDelegate::closingTheLastWindowEndsTheProcess()
 {
     QVERIFY(SettingsAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    const SettingsAppDelegate delegate;
+    QVERIFY(QGuiApplication::quitOnLastWindowClosed());
 }
 
 void TestAppDelegate::theGuideIsThisApplicationStartedAgain()
