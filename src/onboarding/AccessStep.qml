@@ -3,8 +3,10 @@ import Embera.Controls
 import Embera.Rows
 import Embera.Screens
 import Corvane.Onboarding
+import Corvane.Onboarding.Tile
 
-/// The permission that the agent needs. The buttons keep their place while it is asked for and when it arrives.
+/// The permission that the agent needs, with the tile to drag where it cannot float below System Settings. The buttons keep
+/// their place when the permission arrives and, where the tile floats, while it is asked for.
 EBStepScreen {
     id: screen
 
@@ -24,11 +26,21 @@ EBStepScreen {
         detail: screen.flow.trusted ? qsTr("Allowed in System Settings.")
               : screen.flow.accessRequested ? longestDetail
               : qsTr("Opens Privacy & Security in System Settings.")
-        longestDetail: qsTr("Switch on Corvane in the list. Not there? Drag in the tile under System Settings.")
+        longestDetail: screen.flow.carriesTile ? qsTr("Switch on Corvane in the list in System Settings.")
+                     : qsTr("Switch on Corvane in the list. Not there? Drag in the tile under System Settings.")
 
         EBStatus {
             state: screen.flow.trusted ? "allowed" : "waiting"
         }
+    }
+    // There as soon as there is a list to drop it onto. It stays, so that nothing jumps when the permission arrives.
+    DragTile {
+        width: parent.width
+        visible: screen.flow.carriesTile && screen.flow.accessRequested
+        enabled: !screen.flow.trusted
+        opacity: enabled ? 1 : KitMetrics.disabledOpacity
+        appURL: screen.flow.appURL
+        floats: false
     }
 
     // In a wide face the way back goes to a line of its own. Nothing shows of its padding, which may lie in the margin.

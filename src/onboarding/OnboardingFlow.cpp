@@ -26,6 +26,7 @@ bool initialLaunchAtLogin(OnboardingFlow::Run run)
 OnboardingFlow::OnboardingFlow(Run run, std::function<void()> finish)
     : m_finish(std::move(finish)),
       m_step(firstStep()),
+      m_carriesTile(!Platform::current().windowList().isAvailable()),
       m_launchAtLogin(initialLaunchAtLogin(run)),
       m_reduceMotion(Platform::current().appearance().shouldReduceMotion())
 {
@@ -110,6 +111,10 @@ void OnboardingFlow::requestAccess()
     if (!m_accessRequested) {
         m_accessRequested = true;
         emit accessRequestedChanged();
+    }
+    if (m_carriesTile) {
+        Shared::send(Shared::Command::requestAccessibility);
+        return;
     }
     GuideVisibility::post(false);
     Shared::send(Shared::Command::requestAccessibility);

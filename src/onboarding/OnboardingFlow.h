@@ -28,6 +28,11 @@ class OnboardingFlow : public QObject {
     /// The agent has the Accessibility permission.
     Q_PROPERTY(bool trusted READ trusted NOTIFY trustedChanged)
     Q_PROPERTY(bool accessRequested READ accessRequested NOTIFY accessRequestedChanged)
+    /// Nobody can tell where System Settings stands, so the tile to drag is part of the permission step, and the guide
+    /// stays where it is.
+    Q_PROPERTY(bool carriesTile READ carriesTile CONSTANT)
+    /// The application that the tile drags.
+    Q_PROPERTY(QUrl appURL READ appURL CONSTANT)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin CONSTANT)
     /// Whether less motion was asked for when the flow began; later changes are not followed.
     Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion CONSTANT)
@@ -47,6 +52,8 @@ public:
     QString hint() const { return m_hint; }
     bool trusted() const { return m_trusted.value().toBool(); }
     bool accessRequested() const { return m_accessRequested; }
+    bool carriesTile() const { return m_carriesTile; }
+    const QUrl &appURL() const { return m_dragTile.appURL(); }
     bool launchAtLogin() const { return m_launchAtLogin; }
     DragTileController &dragTile() { return m_dragTile; }
 
@@ -63,7 +70,8 @@ public:
     /// Ends the flow at once: nothing is stored and nothing is sent.
     Q_INVOKABLE void skipSetup();
 
-    /// Hides the guide, asks the agent for the permission and, a moment later, shows the tile to drag.
+    /// Asks the agent for the permission. The guide steps aside for that, and a moment later the tile to drag is shown,
+    /// unless the guide carries it.
     Q_INVOKABLE void requestAccess();
 
     /// The two ways on from the choice of a look: with what was chosen, or with the defaults.
@@ -94,6 +102,7 @@ private:
     QString m_hint;
     AppStorage m_trusted;
     bool m_accessRequested = false;
+    const bool m_carriesTile;
     const bool m_launchAtLogin;
     const bool m_reduceMotion;
 };

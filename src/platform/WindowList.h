@@ -23,6 +23,9 @@ class WindowList {
 public:
     virtual ~WindowList() = default;
 
-    /// The windows that are on the screen, front to back; none where the desktop does not tell.
+    /// Whether the desktop tells one application of the windows of others. Where it does not, no window is ever listed.
+    virtual bool isAvailable() = 0;
+
+    /// The windows that are on the screen, front to back.
     virtual QList<OnScreenWindow> onScreenWindows() = 0;
 };

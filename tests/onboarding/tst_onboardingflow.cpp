@@ -43,6 +43,8 @@ private slots:
     void permissionDoesNotMoveWhoeverMovedOnFirst();
     void permissionThatWasThereBeforeMovesNothing();
     void permissionTakenAwayIsShown();
+    void whereWindowsAreUnknownTheGuideStaysAndNoTileFloats();
+    void whereWindowsAreUnknownPermissionAdvancesAllTheSame();
     void leavingTheAccessStepHidesTheTile_data();
     void leavingTheAccessStepHidesTheTile();
 
@@ -375,6 +377,31 @@ void TestOnboardingFlow::permissionTakenAwayIsShown()
     emit store().changed({});
     QVERIFY(!flow.trusted());
     QCOMPARE(m_visibilities, QList<bool>());
+}
+
+void TestOnboardingFlow::whereWindowsAreUnknownTheGuideStaysAndNoTileFloats()
+{
+    QVERIFY(!make().carriesTile());
+    m_platform->windows.available = false;
+    OnboardingFlow &flow = makeAt(OnboardingStep::access);
+    QVERIFY(flow.carriesTile());
+    flow.requestAccess();
+    QVERIFY(flow.accessRequested());
+    QCOMPARE(commands(), QStringList{"requestAccessibility"});
+    m_platform->queue.advance(20);
+    QVERIFY(!flow.dragTile().panel());
+    QCOMPARE(m_visibilities, QList<bool>());
+}
+
+void TestOnboardingFlow::whereWindowsAreUnknownPermissionAdvancesAllTheSame()
+{
+    m_platform->windows.available = false;
+    OnboardingFlow &flow = makeAt(OnboardingStep::access);
+    flow.requestAccess();
+    store().setValue("agent.accessibilityTrusted", true);
+    QCOMPARE(m_visibilities, QList<bool>{true});
+    m_platform->queue.advance(1);
+    QCOMPARE(flow.stepName(), "customize");
 }
 
 void TestOnboardingFlow::leavingTheAccessStepHidesTheTile_data()

@@ -1,3 +1,5 @@
+#include "DragTileView.h"
+#include "Glyph.h"
 #include "Motion.h"
 #include "OnboardingFlow.h"
 #include "TestProgram.h"
@@ -52,6 +54,10 @@ private slots:
     void theAccessStepExplainsThePermission();
     void theAccessStepChangesOnceThePermissionWasAskedFor();
     void theAccessStepShowsThePermission();
+    void whereWindowsAreUnknownTheAccessStepCarriesTheTile();
+    void whereTheTileFloatsTheAccessStepHasNone();
+    void theTileInTheStepDoesNotBob();
+    void whenThePermissionArrivesTheTileInTheStepStaysAndDoesNothing();
     void theButtonsOfTheAccessStepGoOnAndBack();
     void theButtonsOfTheAccessStepKeepTheirPlace();
     void noSingleWordIsLeftForALastLine();
@@ -316,6 +322,56 @@ void TestOnboardingView::theAccessStepShowsThePermission()
     QCOMPARE(step(), "customize");
 }
 
+void TestOnboardingView::whereWindowsAreUnknownTheAccessStepCarriesTheTile()
+{
+    m_platform->windows.available = false;
+    make(OnboardingStep::access);
+    QVERIFY(shows("Opens Privacy & Security in System Settings."));
+    QVERIFY(m_guide->all<DragTileView>().isEmpty());
+    m_flow->requestAccess();
+    m_guide->waitForFrame();
+    QVERIFY(shows("Switch on Corvane in the list in System Settings."));
+    const DragTileView &tile = *m_guide->all<DragTileView>().constFirst();
+    QCOMPARE(tile.appURL(), m_flow->appURL());
+    QVERIFY(tile.isEnabled());
+    QVERIFY(control("Not in the list? Drag me in.", QAccessible::StaticText));
+    QVERIFY(m_guide->textItem("Drop Corvane onto the Accessibility list."));
+}
+
+void TestOnboardingView::whereTheTileFloatsTheAccessStepHasNone()
+{
+    make(OnboardingStep::access);
+    m_flow->requestAccess();
+    QVERIFY(m_guide->all<DragTileView>().isEmpty());
+    QVERIFY(shows("Switch on Corvane in the list. Not there? Drag in the tile under System Settings."));
+}
+
+void TestOnboardingView::theTileInTheStepDoesNotBob()
+{
+    m_platform->windows.available = false;
+    m_platform->look.setReduceMotion(false);
+    make(OnboardingStep::access);
+    m_flow->requestAccess();
+    m_guide->waitForFrame();
+    QVERIFY(!m_guide->typed("DragTileContent").constFirst()->property("nudge").toBool());
+    for (const Glyph *glyph : m_guide->all<Glyph>())
+        QVERIFY(glyph->property("name") != "arrow");
+}
+
+void TestOnboardingView::whenThePermissionArrivesTheTileInTheStepStaysAndDoesNothing()
+{
+    m_platform->windows.available = false;
+    make(OnboardingStep::access);
+    m_flow->requestAccess();
+    m_guide->waitForFrame();
+    const qreal buttons = m_guide->rectOf(control("Skip")).y();
+    m_store->setValue("agent.accessibilityTrusted", true);
+    m_guide->waitForFrame();
+    QVERIFY(shows("Allowed in System Settings."));
+    QVERIFY(!m_guide->all<DragTileView>().constFirst()->isEnabled());
+    QCOMPARE(m_guide->rectOf(control("Continue")).y(), buttons);
+}
+
 void TestOnboardingView::theButtonsOfTheAccessStepGoOnAndBack()
 {
     make(OnboardingStep::access);
@@ -561,20 +617,25 @@ void TestOnboardingView::nothingIsCutInAWideFace_data()
 {
     QTest::addColumn<OnboardingStep>("step");
     QTest::addColumn<bool>("requested");
+    QTest::addColumn<bool>("carriesTile");
     for (const OnboardingStep step : OnboardingSteps::allCases)
-        QTest::newRow(qPrintable(OnboardingSteps::caseName(step))) << step << false;
-    QTest::newRow("access, asked for") << OnboardingStep::access << true;
+        QTest::newRow(qPrintable(OnboardingSteps::caseName(step))) << step << false << false;
+    QTest::newRow("access, asked for") << OnboardingStep::access << true << false;
+    QTest::newRow("access with the tile") << OnboardingStep::access << false << true;
+    QTest::newRow("access with the tile, asked for") << OnboardingStep::access << true << true;
 }
 
 void TestOnboardingView::nothingIsCutInAWideFace()
 {
     QFETCH(OnboardingStep, step);
     QFETCH(bool, requested);
+    QFETCH(bool, carriesTile);
     const QFont usual = QGuiApplication::font();
     const auto restore = qScopeGuard([&] { QGuiApplication::setFont(usual); });
     QGuiApplication::setFont(QFont("DejaVu Sans"));
     // The longest texts and all the buttons.
     m_store->values = {{"buttonSizeOption", "large"}, {"showMinimizeButton", true}, {"showMaximizeButton", true}};
+    m_platform->windows.available = !carriesTile;
     make(step);
     if (requested)
         m_flow->requestAccess();

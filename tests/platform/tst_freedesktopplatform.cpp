@@ -19,7 +19,7 @@ private slots:
     void theMainBundleIsTheFolderOfTheExecutable();
     void aBundleIsNullWhereThereIsNoFolder();
     void everyServiceIsThereAndStaysTheSame();
-    void withoutAnXServerNoWindowIsOnTheScreen();
+    void withoutAnXServerNobodyTellsOfWindows();
 
 private:
     PrivateSession &m_session;
@@ -75,10 +75,11 @@ void FreedesktopPlatformTest::everyServiceIsThereAndStaysTheSame()
     QCOMPARE(&platform.mainQueue(), &platform.mainQueue());
 }
 
-void FreedesktopPlatformTest::withoutAnXServerNoWindowIsOnTheScreen()
+void FreedesktopPlatformTest::withoutAnXServerNobodyTellsOfWindows()
 {
     QWindow window;
     window.show();
+    QVERIFY(!Platform::current().windowList().isAvailable());
     QVERIFY(Platform::current().windowList().onScreenWindows().isEmpty());
     // A panel is shown there as it is.
     Platform::current().workspace().floatOnAllSpaces(window);

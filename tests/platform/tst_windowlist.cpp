@@ -7,6 +7,7 @@ public:
     using ServiceTest::ServiceTest;
 
 private slots:
+    void itIsAvailableWhereThereAreWindows();
     void anEmptyScreenHasNoWindows();
     void windowsComeFrontToBackWithWhatIsKnownOfThem();
     void theListIsThatOfTheMoment();
@@ -14,6 +15,11 @@ private slots:
 private:
     static QList<OnScreenWindow> list() { return platform().windowList().onScreenWindows(); }
 };
+
+void WindowListTest::itIsAvailableWhereThereAreWindows()
+{
+    QVERIFY(platform().windowList().isAvailable());
+}
 
 void WindowListTest::anEmptyScreenHasNoWindows()
 {

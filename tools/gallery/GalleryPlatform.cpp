@@ -2,6 +2,7 @@
 
 #include "EBKitFonts.h"
 #include "FakePlatform.h"
+#include "ProductIcon.h"
 
 #include <QDir>
 
@@ -26,6 +27,7 @@ FakePlatform &installGalleryPlatform(const QString &fontsFolder)
         const QString file = face + QStringLiteral(".ttf");
         platform.main.resources.insert(file, QUrl::fromLocalFile(QDir(fontsFolder).filePath(file)));
     }
+    platform.space.fileIcons.insert(QStringLiteral("/Applications/Corvane.app"), ProductIcon::icon());
     EBKitFonts::registerFonts();
     return platform;
 }

@@ -14,6 +14,8 @@ class GuideScene : public WindowScene {
     Q_PROPERTY(QString step MEMBER m_step)
     /// The permission was asked for.
     Q_PROPERTY(bool accessRequested MEMBER m_accessRequested)
+    /// The desktop tells where the windows of others stand; true unless set.
+    Q_PROPERTY(bool knowsWindows MEMBER m_knowsWindows)
 public:
     explicit GuideScene(QQuickItem *parent = nullptr);
     ~GuideScene() override;
@@ -24,5 +26,6 @@ protected:
 private:
     QString m_step;
     bool m_accessRequested = false;
+    bool m_knowsWindows = true;
     std::unique_ptr<GuideWindowController> m_controller;
 };

@@ -49,6 +49,7 @@ constexpr Row rows[] = {
     {SceneKind::screen, "guide-try-it", "GuideTryItScene", "wins"},
     {SceneKind::screen, "guide-access", "GuideAccessScene", "key"},
     {SceneKind::screen, "guide-access-requested", "GuideAccessRequestedScene", "key"},
+    {SceneKind::screen, "guide-access-tile", "GuideAccessTileScene", "key"},
     {SceneKind::screen, "guide-access-trusted", "GuideAccessTrustedScene", "key"},
     {SceneKind::screen, "guide-customize", "GuideCustomizeScene", "sliders"},
     {SceneKind::screen, "guide-welcome-mirrored", "GuideWelcomeMirroredScene", "flag"},

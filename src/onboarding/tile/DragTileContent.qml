@@ -4,24 +4,28 @@ import Embera.Glyphs
 import Embera.Controls
 import Corvane.Onboarding.Tile
 
-/// What the tile shows: the application's icon, what to do with it, and an arrow that bobs towards the list above for
-/// as long as the tile is on the screen. One element for accessibility.
+/// What the tile shows: the application's icon and what to do with it. One element for accessibility.
+///
+/// Floating below System Settings it is a card with an arrow that bobs towards the list above for as long as the tile is
+/// on the screen. Otherwise it is a row of a card, which nothing moves.
 ContinuousRectangle {
     id: tile
 
     property alias icon: image.icon
+    /// See above; true unless set.
+    property bool floats: true
     /// The arrow is bobbing.
-    readonly property bool nudge: Window.visibility !== Window.Hidden && !EB.reduceMotion
+    readonly property bool nudge: floats && Window.visibility !== Window.Hidden && !EB.reduceMotion
     /// How far below its middle the arrow stands, in points; with reduced motion it rests in the middle.
     property real drop: 3
 
     EBEnvironment.ebApp: "corvane"
     implicitWidth: 330
-    implicitHeight: 76
+    implicitHeight: floats ? 76 : 52
     radius: 16
-    color: EB.surface
+    color: floats ? EB.surface : "transparent"
     strokeColor: EB.line
-    strokeWidth: 1
+    strokeWidth: floats ? 1 : 0
     Accessible.role: Accessible.StaticText
     Accessible.name: title.text
     Accessible.description: hint.text
@@ -58,15 +62,16 @@ ContinuousRectangle {
             leftMargin: 12
             verticalCenter: parent.verticalCenter
         }
-        width: 48
-        height: 48
+        width: tile.floats ? 48 : 36
+        height: width
     }
     Column {
         anchors {
             left: image.right
-            leftMargin: 12
-            right: arrow.left
-            rightMargin: 24
+            // In a card in line with the texts of the rows.
+            leftMargin: tile.floats ? 12 : KitMetrics.rowInset + KitMetrics.discDiameter + KitMetrics.rowSpacing - 12 - image.width
+            right: tile.floats ? arrow.left : parent.right
+            rightMargin: tile.floats ? 24 : KitMetrics.rowInset
             verticalCenter: parent.verticalCenter
         }
         spacing: 1
@@ -85,7 +90,9 @@ ContinuousRectangle {
             id: hint
 
             width: parent.width
-            text: qsTr("Drop Corvane onto the Accessibility list above.")
+            text: tile.floats ? qsTr("Drop Corvane onto the Accessibility list above.")
+                              : qsTr("Drop Corvane onto the Accessibility list.")
+            color: tile.floats ? EB.ink : EB.inkMuted
             role: "caption"
             Accessible.ignored: true
         }
@@ -93,6 +100,7 @@ ContinuousRectangle {
     Glyph {
         id: arrow
 
+        visible: tile.floats
         anchors {
             right: parent.right
             rightMargin: 12

@@ -30,13 +30,11 @@ DragTilePanel::DragTilePanel(const QUrl &appURL) : m_engine(std::make_unique<Vie
     setMinimumSize(panelSize);
     setMaximumSize(panelSize);
 
-    const QIcon icon = Platform::current().workspace().iconForFile(appURL.toLocalFile());
-    QQuickItem *content =
-        ViewEngine::make(*m_engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/Tile/DragTileContent.qml"),
-                         {{QStringLiteral("icon"), icon}});
+    m_view.reset(ViewEngine::make<DragTileView>(*m_engine,
+                                                QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/Tile/DragTile.qml"),
+                                                {{QStringLiteral("appURL"), appURL}}));
     if (QGuiApplication::isRightToLeft())
-        QQmlProperty::write(content, QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(content));
-    m_view = std::make_unique<DragTileView>(appURL, icon, content);
+        QQmlProperty::write(m_view.get(), QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(m_view.get()));
     m_view->setParentItem(contentItem());
     m_view->setSize(panelSize);
 }

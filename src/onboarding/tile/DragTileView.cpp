@@ -1,6 +1,7 @@
 #include "DragTileView.h"
 
 #include "IconImage.h"
+#include "Platform.h"
 
 #include <QCursor>
 #include <QDrag>
@@ -15,21 +16,19 @@ constexpr int pictureSide = 56;
 
 }
 
-DragTileView::DragTileView(const QUrl &appURL, const QIcon &icon, QQuickItem *content)
-    : m_appURL(appURL), m_icon(icon), m_content(content)
+DragTileView::DragTileView(QQuickItem *parent) : QQuickItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
     setCursor(Qt::OpenHandCursor);
-    content->setParent(this);
-    content->setParentItem(this);
-    // Behind the view itself, so that the view receives the pointer.
-    content->setZ(-1);
 }
 
-void DragTileView::geometryChange(const QRectF &now, const QRectF &before)
+void DragTileView::setAppURL(const QUrl &appURL)
 {
-    QQuickItem::geometryChange(now, before);
-    m_content->setSize(now.size());
+    if (appURL == m_appURL)
+        return;
+    m_appURL = appURL;
+    m_icon = Platform::current().workspace().iconForFile(appURL.toLocalFile());
+    emit appURLChanged();
 }
 
 QDrag *DragTileView::makeDrag(QPointF point)

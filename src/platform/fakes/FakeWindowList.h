@@ -6,6 +6,8 @@
 class FakeWindowList : public WindowList {
 public:
     QList<OnScreenWindow> windows;
+    bool available = true;
 
-    QList<OnScreenWindow> onScreenWindows() override { return windows; }
+    bool isAvailable() override { return available; }
+    QList<OnScreenWindow> onScreenWindows() override { return available ? windows : QList<OnScreenWindow>(); }
 };

@@ -186,6 +186,11 @@ std::optional<QList<xcb_window_t>> windows(X11Names &names, xcb_get_property_coo
 X11WindowList::X11WindowList() = default;
 X11WindowList::~X11WindowList() = default;
 
+bool X11WindowList::isAvailable()
+{
+    return X11::connection();
+}
+
 QList<OnScreenWindow> X11WindowList::onScreenWindows()
 {
     xcb_connection_t *x = X11::connection();
