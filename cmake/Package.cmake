@@ -21,8 +21,8 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What the programs load by name, so that no linked library tells of it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "dconf-service, libqt6svg6,\
  qml6-module-qtqml, qml6-module-qtqml-models, qml6-module-qtqml-workerscript,\
- qml6-module-qtquick, qml6-module-qtquick-templates, qml6-module-qtquick-window")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "at-spi2-core, fonts-dejavu-core, fonts-inter, qt6-wayland")
+ qml6-module-qtquick, qml6-module-qtquick-templates, qml6-module-qtquick-window, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "at-spi2-core, fonts-dejavu-core, fonts-inter")
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/DebianLayout.cmake")
 set(CPACK_CORVANE_RESOURCES "${PROJECT_SOURCE_DIR}/resources")
 include(CPack)

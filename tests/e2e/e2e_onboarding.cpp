@@ -1,5 +1,6 @@
 #include "EndToEndTest.h"
 #include "Processes.h"
+#include "ReferenceAgent.h"
 #include "TestProgram.h"
 
 #include <X11/keysym.h>
@@ -22,10 +23,7 @@ class TestOnboarding : public EndToEndTest {
     Q_OBJECT
 
 private:
-    /// Starts the reference agent, without a login item from an earlier test, and waits until it listens.
     bool startAgent(const QStringList &arguments = {});
-    Accessible agent() const { return Accessible::application(m_agent->processId()); }
-    Accessible findInAgent(AtspiRole role, const QString &name) const;
 
     bool openGuide(const QHash<QString, QString> &environment = {}, const QStringList &more = {});
 
@@ -44,7 +42,7 @@ private:
     QStringList sent() const;
     bool ends();
 
-    std::unique_ptr<Program> m_agent;
+    std::unique_ptr<ReferenceAgent> m_agent;
 
 private slots:
     void cleanup();
@@ -70,9 +68,8 @@ private slots:
 
 bool TestOnboarding::startAgent(const QStringList &arguments)
 {
-    QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + u"/autostart/com.vexmoor.corvane.desktop"_s);
-    m_agent = std::make_unique<Program>(QStringLiteral(PROGRAM_CORVANE_AGENT), desktop().environment());
-    return m_agent->start(arguments) && store().waitFor(launchAtLogin, false, 20000);
+    m_agent = std::make_unique<ReferenceAgent>(environment());
+    return m_agent->start(store(), arguments);
 }
 
 void TestOnboarding::cleanup()
@@ -80,22 +77,10 @@ void TestOnboarding::cleanup()
     EndToEndTest::cleanup();
     if (!m_agent)
         return;
-    const std::unique_ptr<Program> agent = std::move(m_agent);
+    const std::unique_ptr<ReferenceAgent> agent = std::move(m_agent);
     QVERIFY(agent->terminate());
     const QStringList complaints = agent->complaints();
     QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(u'\n')));
-}
-
-Accessible TestOnboarding::findInAgent(AtspiRole role, const QString &name) const
-{
-    Accessible found;
-    const bool appeared = QTest::qWaitFor(
-        [&] {
-            found = agent().find(role, name);
-            return !found.isNull();
-        },
-        20000);
-    return appeared ? found : Accessible();
 }
 
 bool TestOnboarding::openGuide(const QHash<QString, QString> &environment, const QStringList &more)
@@ -141,7 +126,7 @@ void TestOnboarding::dragTile(const TopLevel &tile, const Accessible &target) co
     for (int step = 1; step <= 20; ++step) {
         pointer().move(from + (to - from) * step / 20);
         application().name();
-        agent().name();
+        m_agent->tree().name();
     }
     pointer().release();
 }
@@ -187,7 +172,7 @@ void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
 
     QVERIFY(find(ATSPI_ROLE_HEADING, u"One permission, then you're done"_s));
     QVERIFY(clickButton(u"Open System Settings"_s));
-    const Accessible list = findInAgent(ATSPI_ROLE_PANEL, u"No applications"_s);
+    const Accessible list = m_agent->find(ATSPI_ROLE_PANEL, u"No applications"_s);
     QVERIFY(list);
     const auto tile = windowOf(tileSize);
     QVERIFY(tile);
@@ -243,7 +228,7 @@ void TestOnboarding::theWholeJourneyThroughAccessibilityAlone()
 
     QVERIFY(shows(u"Step 3 of 5, Permission, current"_s));
     QVERIFY(press(u"Open System Settings"_s));
-    const Accessible permission = findInAgent(ATSPI_ROLE_CHECK_BOX, u"Corvane"_s);
+    const Accessible permission = m_agent->find(ATSPI_ROLE_CHECK_BOX, u"Corvane"_s);
     QVERIFY(permission);
     QVERIFY(permission.doAction(u"Toggle"_s));
     QVERIFY(store().waitFor(trusted, true));

@@ -66,14 +66,29 @@ void EndToEndTest::cleanup()
 void EndToEndTest::closeProgram() const
 {
     // Ending by itself is what lets the leak check of the sanitizers run.
+    closeWindow();
+    m_program->waitForExit();
+}
+
+QProcessEnvironment EndToEndTest::environment() const
+{
+    return desktop().environment();
+}
+
+bool EndToEndTest::hasWindow() const
+{
+    return window().has_value();
+}
+
+void EndToEndTest::closeWindow() const
+{
     if (const auto open = window())
         open->close();
-    m_program->waitForExit();
 }
 
 bool EndToEndTest::launch(const Launch &how)
 {
-    QProcessEnvironment environment = desktop().environment();
+    QProcessEnvironment environment = this->environment();
     for (auto entry = how.environment.cbegin(); entry != how.environment.cend(); ++entry) {
         if (entry.value().isNull())
             environment.remove(entry.key());
@@ -82,7 +97,7 @@ bool EndToEndTest::launch(const Launch &how)
     }
     m_program = std::make_unique<Program>(how.executable, environment);
     return m_program->start(how.arguments)
-        && QTest::qWaitFor([this] { return window() || !m_program->isRunning(); }, startTime) && window();
+        && QTest::qWaitFor([this] { return hasWindow() || !m_program->isRunning(); }, startTime) && hasWindow();
 }
 
 bool EndToEndTest::open(const Launch &how)

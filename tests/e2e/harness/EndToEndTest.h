@@ -51,6 +51,12 @@ protected:
 
     static QString defaultExecutable();
 
+    /// What a program started in this session gets; where its window stands, and how to close it from outside. Those of
+    /// the X display, unless a test has another.
+    virtual QProcessEnvironment environment() const;
+    virtual bool hasWindow() const;
+    virtual void closeWindow() const;
+
     const Desktop &desktop() const { return *m_session->desktop; }
     const Store &store() const { return m_session->store; }
     CommandListener &commands() const { return m_session->commands; }
@@ -82,11 +88,12 @@ protected:
     void settle() const;
 
 protected Q_SLOTS:
+    /// A test that has more to begin calls this first.
+    void initTestCase();
     /// A test that has more to end does so first and then calls this.
     void cleanup();
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
 
 private:

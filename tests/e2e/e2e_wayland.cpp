@@ -1,0 +1,150 @@
+#include "Compositor.h"
+#include "EndToEndTest.h"
+#include "ReferenceAgent.h"
+#include "TestProgram.h"
+
+using namespace Qt::StringLiterals;
+
+/// The program on a Wayland compositor, where no application knows where its own windows stand, or those of others.
+class TestWayland : public EndToEndTest {
+    Q_OBJECT
+
+protected:
+    QProcessEnvironment environment() const override { return m_compositor->inside(desktop().environment()); }
+    bool hasWindow() const override { return shown().has_value(); }
+    void closeWindow() const override { m_compositor->close(program().processId()); }
+
+private:
+    /// The program's window; none before it is on the screen.
+    std::optional<Compositor::Window> shown() const;
+
+    /// Where the middle of an element of the program, or of another process, is on the screen.
+    QPoint place(const Accessible &element) const { return place(element, application(), program().processId()); }
+    QPoint place(const Accessible &element, const Accessible &tree, qint64 processId) const;
+
+    bool clickButton(const QString &name) const;
+
+    /// Takes what is at `from` by the pointer to `to`, and lets go there.
+    void drag(QPoint from, QPoint to) const;
+
+    std::unique_ptr<Compositor> m_compositor;
+    std::unique_ptr<ReferenceAgent> m_agent;
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+    void theSettingsWindowIsKnownByItsNameAndCloses();
+    void theWholeJourneyByPointer();
+};
+
+void TestWayland::initTestCase()
+{
+    EndToEndTest::initTestCase();
+    m_compositor = std::make_unique<Compositor>(desktop().environment());
+    QVERIFY2(m_compositor->isValid(), "no compositor");
+}
+
+void TestWayland::cleanup()
+{
+    EndToEndTest::cleanup();
+    if (!m_agent)
+        return;
+    const std::unique_ptr<ReferenceAgent> agent = std::move(m_agent);
+    QVERIFY(agent->terminate());
+    const QStringList complaints = agent->complaints();
+    QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(u'\n')));
+}
+
+std::optional<Compositor::Window> TestWayland::shown() const
+{
+    const QList<Compositor::Window> windows = m_compositor->windowsOf(program().processId());
+    return windows.isEmpty() ? std::nullopt : std::optional(windows.constFirst());
+}
+
+QPoint TestWayland::place(const Accessible &element, const Accessible &tree, qint64 processId) const
+{
+    const QList<Compositor::Window> windows = m_compositor->windowsOf(processId);
+    const QList<Accessible> frames = tree.children();
+    REQUIRE(windows.size() == 1 && frames.size() == 1);
+    return windows.constFirst().frame.topLeft() + element.extents().center() - frames.constFirst().extents().topLeft();
+}
+
+bool TestWayland::clickButton(const QString &name) const
+{
+    const Accessible button = find(ATSPI_ROLE_PUSH_BUTTON, name);
+    if (button)
+        pointer().click(place(button));
+    return !button.isNull();
+}
+
+void TestWayland::drag(QPoint from, QPoint to) const
+{
+    pointer().move(from);
+    pointer().press();
+    // Each position is offered to the window under the pointer, which has to answer before the next one.
+    for (int step = 1; step <= 20; ++step) {
+        pointer().move(from + (to - from) * step / 20);
+        application().name();
+        m_agent->tree().name();
+    }
+    pointer().release();
+}
+
+void TestWayland::theSettingsWindowIsKnownByItsNameAndCloses()
+{
+    QVERIFY(open());
+    QCOMPARE(shown()->appId, u"com.vexmoor.corvane.settings"_s);
+    QCOMPARE(shown()->title, u"Corvane Settings"_s);
+    QCOMPARE(shown()->frame.size(), QSize(620, 311));
+    QVERIFY(shown()->hasFocus);
+    QVERIFY(clickButton(u"Close"_s));
+    QVERIFY(program().waitForExit());
+    QCOMPARE(program().exitCode(), 0);
+}
+
+void TestWayland::theWholeJourneyByPointer()
+{
+    m_agent = std::make_unique<ReferenceAgent>(environment());
+    QVERIFY(m_agent->start(store()));
+    QVERIFY(open({.arguments = {u"--onboarding"_s}}));
+    QCOMPARE(shown()->title, u"Welcome to Corvane"_s);
+    QCOMPARE(shown()->frame.size(), QSize(560, 388));
+    QVERIFY(clickButton(u"Get started"_s));
+
+    FIND(first, ATSPI_ROLE_PANEL, "Browser window, Start page");
+    const QPoint middle = place(first);
+    pointer().move(middle);
+    // The close button hangs over the window's corner; beside its cross it is red.
+    const QPoint button = middle - first.extents().center() + first.extents().topLeft() - QPoint(3, 9);
+    QVERIFY(screen().waitForPixel(button, QColor("#EC4640")));
+    pointer().click(button);
+    QVERIFY(shows(u"Now hover another window and press ⌘M to minimize it."_s));
+    QVERIFY(clickButton(u"Continue"_s));
+
+    QVERIFY(clickButton(u"Open System Settings"_s));
+    const Accessible list = m_agent->find(ATSPI_ROLE_PANEL, u"No applications"_s);
+    QVERIFY(list);
+    const qint64 agent = m_agent->processId();
+    QTRY_COMPARE(m_compositor->windowsOf(agent).size(), 1);
+    QCOMPARE(m_compositor->windowsOf(agent).constFirst().title, u"System Settings"_s);
+    // The guide is still there, and carries the tile.
+    QVERIFY(shown());
+    FIND(tile, ATSPI_ROLE_LABEL, "Not in the list? Drag me in.");
+    m_compositor->move(agent, {20, 20});
+    drag(place(tile), place(list, m_agent->tree(), agent));
+    QVERIFY(store().waitFor(u"agent.accessibilityTrusted"_s, true));
+
+    QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
+    QVERIFY(clickButton(u"Soft look"_s));
+    QVERIFY(store().waitFor(u"buttonTheme"_s, u"soft"_s));
+    QVERIFY(clickButton(u"Looks Good"_s));
+    QVERIFY(clickButton(u"Open Mission Control"_s));
+    QVERIFY(program().waitForExit());
+    QCOMPARE(program().exitCode(), 0);
+    QCOMPARE(store().read(u"onboardingCompleted"_s), true);
+    QVERIFY(store().waitFor(u"agent.launchAtLogin"_s, true));
+}
+
+CORVANE_TEST(TestWayland, runInCore)
+#include "e2e_wayland.moc"

@@ -1,0 +1,33 @@
+#include "ReferenceAgent.h"
+
+#include "Store.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace {
+
+constexpr int startTime = 20000; // milliseconds
+
+}
+
+ReferenceAgent::ReferenceAgent(const QProcessEnvironment &environment)
+    : Program(QStringLiteral(CORVANE_AGENT_PROGRAM), environment)
+{
+}
+
+bool ReferenceAgent::start(const Store &store, const QStringList &arguments)
+{
+    QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/autostart/com.vexmoor.corvane.desktop"));
+    return Program::start(arguments) && store.waitFor(QStringLiteral("agent.launchAtLogin"), false, startTime);
+}
+
+Accessible ReferenceAgent::find(AtspiRole role, const QString &name) const
+{
+    Accessible found;
+    const auto isThere = [&] {
+        found = tree().find(role, name);
+        return !found.isNull();
+    };
+    return QTest::qWaitFor(isThere, startTime) ? found : Accessible();
+}
