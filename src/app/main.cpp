@@ -16,12 +16,16 @@ void chooseRenderer()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// Nobody waits for the icon, and it would only be in the way of the first frame.
-void setIconAfterFirstFrame()
+/// Does what nobody waits for, and what would only be in the way of the first frame.
+void finishAfterFirstFrame()
 {
     auto *window = qobject_cast<QQuickWindow *>(QGuiApplication::topLevelWindows().constFirst());
     QObject::connect(
-        window, &QQuickWindow::frameSwapped, qApp, [] { QGuiApplication::setWindowIcon(windowIcon()); },
+        window, &QQuickWindow::frameSwapped, qApp,
+        [] {
+            QGuiApplication::setWindowIcon(windowIcon());
+            Platform::current().appearance().wake();
+        },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
@@ -44,6 +48,6 @@ int main(int argc, char *argv[])
 
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
-    setIconAfterFirstFrame();
+    finishAfterFirstFrame();
     return QGuiApplication::exec();
 }

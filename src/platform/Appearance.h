@@ -22,6 +22,10 @@ public:
     /// right; what is not known when this returns arrives as a change.
     virtual void settle() { }
 
+    /// Has the desktop start whatever tells of its appearance, where that does not run yet. Called once, after the
+    /// first frame; nothing waits for it, and what comes of it arrives as a change.
+    virtual void wake() { }
+
 signals:
     void changed();
 };

@@ -53,6 +53,7 @@ private slots:
     void startsInTheSchemeOfThePortal();
     void followsTheSchemeWhileItIsOpen();
     void followsAPortalThatComesLater();
+    void aPortalThatDoesNotRunIsStartedAndFollowed();
     void highContrastKeepsTheColours_data();
     void highContrastKeepsTheColours();
     void recoloursTheControlsToo();
@@ -133,6 +134,24 @@ void TestAppearance::followsTheSchemeWhileItIsOpen()
 void TestAppearance::followsAPortalThatComesLater()
 {
     QVERIFY(open());
+    QVERIFY(isPaintedOn(lightPaper));
+    const SettingsPortal portal(settings({{colorScheme, dark}}));
+    QVERIFY(isPaintedOn(darkPaper));
+}
+
+void TestAppearance::aPortalThatDoesNotRunIsStartedAndFollowed()
+{
+    const QString started = desktop().session().runtimeFolder() + u"/portal-started"_s;
+    const QString service = u"org.freedesktop.portal.Desktop"_s;
+    const QString services = desktop().session().dataFolder() + u"/dbus-1/services/"_s;
+    QDir().mkpath(services);
+    QFile file(services + service + u".service"_s);
+    const auto removed = qScopeGuard([&] { file.remove(); });
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write(u"[D-BUS Service]\nName=%1\nExec=/usr/bin/touch %2\n"_s.arg(service, started).toUtf8());
+    file.close();
+    QVERIFY(open());
+    QTRY_VERIFY(QFile::exists(started));
     QVERIFY(isPaintedOn(lightPaper));
     const SettingsPortal portal(settings({{colorScheme, dark}}));
     QVERIFY(isPaintedOn(darkPaper));

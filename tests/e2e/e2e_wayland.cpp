@@ -97,7 +97,7 @@ void TestWayland::theSettingsWindowIsKnownByItsNameAndCloses()
     QCOMPARE(shown()->appId, u"com.vexmoor.corvane.settings"_s);
     QCOMPARE(shown()->title, u"Corvane Settings"_s);
     QCOMPARE(shown()->frame.size(), QSize(620, 311));
-    QVERIFY(shown()->hasFocus);
+    QTRY_VERIFY(shown()->hasFocus);
     QVERIFY(clickButton(u"Close"_s));
     QVERIFY(program().waitForExit());
     QCOMPARE(program().exitCode(), 0);

@@ -3,6 +3,7 @@
 #include "SettingsPortal.h"
 #include "TestProgram.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusVariant>
 #include <QDir>
 #include <QElapsedTimer>
@@ -67,7 +68,8 @@ private slots:
     void aChangeThatChangesNothingIsNotAnnounced();
     void aPortalThatAppearsLaterIsAsked();
     void aPortalThatReturnsIsAskedAgain();
-    void aPortalThatIsNotRunningIsNotStarted();
+    void aPortalThatIsNotRunningIsStartedAndAskedOnlyWhenWoken();
+    void aRunningPortalIsNotDisturbedByWaking();
     void withoutAPortalThePaletteDecidesAndIsFollowed();
     void aPortalsPreferenceOutranksThePalette();
 
@@ -249,10 +251,29 @@ void PortalAppearanceTest::aPortalThatReturnsIsAskedAgain()
 }
 
 // main() has made one that the bus could start.
-void PortalAppearanceTest::aPortalThatIsNotRunningIsNotStarted()
+void PortalAppearanceTest::aPortalThatIsNotRunningIsStartedAndAskedOnlyWhenWoken()
 {
+    const QString started = m_session.runtimeFolder() + QStringLiteral("/started");
     PortalAppearance appearance;
     appearance.settle();
+    QVERIFY(!QFile::exists(started));
+    appearance.wake();
+    QTRY_VERIFY(QFile::exists(started));
+    QVERIFY(QFile::remove(started));
+    const SettingsPortal portal(dark());
+    QTRY_COMPARE(appearance.bestMatch(), darkAqua);
+    QCOMPARE(portal.calls(), QStringList{QStringLiteral("ReadAll")});
+}
+
+void PortalAppearanceTest::aRunningPortalIsNotDisturbedByWaking()
+{
+    const SettingsPortal portal(dark());
+    PortalAppearance appearance;
+    appearance.settle();
+    appearance.wake();
+    // The bus answers in order.
+    QDBusConnection::sessionBus().interface()->registeredServiceNames();
+    QCOMPARE(portal.calls(), QStringList{QStringLiteral("ReadAll")});
     QVERIFY(!QFile::exists(m_session.runtimeFolder() + QStringLiteral("/started")));
 }
 

@@ -16,6 +16,7 @@ constexpr const char *configuration =
   <listen>unix:dir=%1</listen>
   <auth>EXTERNAL</auth>
   <servicedir>%1/services</servicedir>
+  <servicedir>%2</servicedir>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
@@ -52,7 +53,9 @@ bool BusDaemon::writeConfiguration(const QStringList &services) const
             QStandardPaths::locate(QStandardPaths::GenericDataLocation, QStringLiteral("dbus-1/services/") + name);
         complete = complete && QFile::link(installed, folder + u'/' + name);
     }
+    const QString own =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/dbus-1/services");
     QFile file(m_folder.filePath(QStringLiteral("bus.conf")));
     return complete && file.open(QIODevice::WriteOnly)
-        && file.write(QString::fromLatin1(configuration).arg(m_folder.path()).toUtf8()) > 0;
+        && file.write(QString::fromLatin1(configuration).arg(m_folder.path(), own).toUtf8()) > 0;
 }

@@ -8,8 +8,9 @@
 /// A message bus of the test's own. It ends with this object, and with the test process however that one ends.
 class BusDaemon {
 public:
-    /// The bus may start the installed session services named in `services`, such as "ca.desrt.dconf", and no others:
-    /// what else is installed on the machine cannot answer in a test. They get the environment this process has now.
+    /// The bus may start the installed session services named in `services`, such as "ca.desrt.dconf", and those in the
+    /// folder for data that the environment names, but no others: what else is installed on the machine cannot answer
+    /// in a test. They get the environment this process has now.
     explicit BusDaemon(const QStringList &services);
     ~BusDaemon();
 

@@ -18,8 +18,8 @@ public:
     PrivateSession();
     ~PrivateSession();
 
-    /// Starts the bus. It can start the installed services named in `services` and no others; those of the
-    /// session's own dataFolder()/dbus-1/services count as installed. False when no bus could be started.
+    /// Starts the bus. It can start the installed services named in `services` and those that a test puts into
+    /// dataFolder()/dbus-1/services, and no others. False when no bus could be started.
     bool start(const QStringList &services = {QStringLiteral("ca.desrt.dconf")});
 
     /// Ends the bus. Its address stays in the environment, as it does in a real session.

@@ -95,6 +95,19 @@ void PortalAppearance::settle()
         m_question->waitForFinished();
 }
 
+// To start what runs already does nothing. When the portal is there, the bus says so.
+void PortalAppearance::wake()
+{
+    const auto bus = SessionBus::connection();
+    if (!bus)
+        return;
+    QDBusMessage start =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("StartServiceByName"));
+    start << portal << 0U;
+    bus->send(start);
+}
+
 bool PortalAppearance::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance())

@@ -14,7 +14,8 @@ class QDBusPendingCallWatcher;
 /// palette.
 ///
 /// The portal is asked as soon as this object is made, and only if one is running; nothing waits for its
-/// answer but `settle`. One that appears later is asked then, and what changes later is followed.
+/// answer but `settle`. One that appears later, be it because `wake` started it, is asked then, and what changes later
+/// is followed.
 class PortalAppearance : public Appearance {
     Q_OBJECT
 public:
@@ -26,6 +27,8 @@ public:
 
     /// Waits for the portal's first answer until 50 ms after this object was made, and no longer.
     void settle() override;
+
+    void wake() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
