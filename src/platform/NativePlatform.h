@@ -20,6 +20,10 @@ std::unique_ptr<Platform> make();
 /// ask for a font before the result is there.
 [[nodiscard]] std::future<void> warmUp();
 
+/// How large the person wants texts, where Qt does not find out by itself; 1 is the usual size. Needs no application
+/// object.
+double textScale();
+
 /// Whether this process is the first of the person's session to claim that dotted name, which it then holds until it
 /// ends. Without a session every process is.
 bool claimName(const QString &name);

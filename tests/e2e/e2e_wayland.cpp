@@ -1,7 +1,10 @@
 #include "Compositor.h"
 #include "EndToEndTest.h"
 #include "ReferenceAgent.h"
+#include "SettingsPortal.h"
 #include "TestProgram.h"
+
+#include <QDBusVariant>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +38,7 @@ private slots:
     void cleanup();
 
     void theSettingsWindowIsKnownByItsNameAndCloses();
+    void theDesktopsTextSizeScalesTheWindow();
     void theWholeJourneyByPointer();
 };
 
@@ -101,6 +105,13 @@ void TestWayland::theSettingsWindowIsKnownByItsNameAndCloses()
     QVERIFY(clickButton(u"Close"_s));
     QVERIFY(program().waitForExit());
     QCOMPARE(program().exitCode(), 0);
+}
+
+void TestWayland::theDesktopsTextSizeScalesTheWindow()
+{
+    const SettingsPortal portal(QVariant::fromValue(QDBusVariant(1.5)));
+    QVERIFY(open({.arguments = {u"--about"_s}}));
+    QTRY_COMPARE(shown()->frame.size(), QSize(690, 570));
 }
 
 void TestWayland::theWholeJourneyByPointer()

@@ -4,6 +4,7 @@
 #include "FreedesktopPlatform.h"
 #include "SessionBus.h"
 #include "StandardStreams.h"
+#include "TextScale.h"
 #include "WarmUp.h"
 
 void NativePlatform::secureStreams()
@@ -19,6 +20,11 @@ std::unique_ptr<Platform> NativePlatform::make()
 std::future<void> NativePlatform::warmUp()
 {
     return WarmUp::begin();
+}
+
+double NativePlatform::textScale()
+{
+    return TextScale::read();
 }
 
 bool NativePlatform::claimName(const QString &name)

@@ -1,0 +1,118 @@
+#include "PrivateSession.h"
+#include "SettingsPortal.h"
+#include "TestProgram.h"
+#include "TextScale.h"
+
+#include <QDBusVariant>
+#include <QElapsedTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QVariant wrapped(const QVariant &value)
+{
+    return QVariant::fromValue(QDBusVariant(value));
+}
+
+}
+
+class TextScaleTest : public QObject {
+    Q_OBJECT
+public:
+    explicit TextScaleTest(PrivateSession &) { }
+
+private slots:
+    void init();
+    void cleanup();
+
+    void thePortalTellsTheScale_data();
+    void thePortalTellsTheScale();
+    void onlyOnWaylandIsThePortalAsked_data();
+    void onlyOnWaylandIsThePortalAsked();
+    void withoutAPortalTextsHaveTheirUsualSize();
+    void aPortalThatHangsIsNotWaitedFor();
+
+private:
+    QByteArray m_platform;
+};
+
+void TextScaleTest::init()
+{
+    m_platform = qgetenv("QT_QPA_PLATFORM");
+    qputenv("QT_QPA_PLATFORM", "wayland");
+}
+
+void TextScaleTest::cleanup()
+{
+    qputenv("QT_QPA_PLATFORM", m_platform);
+    qunsetenv("XDG_SESSION_TYPE");
+}
+
+void TextScaleTest::thePortalTellsTheScale_data()
+{
+    QTest::addColumn<QVariant>("answer");
+    QTest::addColumn<double>("scale");
+    QTest::newRow("larger") << wrapped(1.5) << 1.5;
+    QTest::newRow("smaller") << wrapped(0.5) << 0.5;
+    QTest::newRow("wrapped twice") << wrapped(wrapped(1.25)) << 1.25;
+    QTest::newRow("the largest") << wrapped(3.0) << 3.0;
+    QTest::newRow("too large") << wrapped(3.1) << 1.0;
+    QTest::newRow("too small") << wrapped(0.4) << 1.0;
+    QTest::newRow("no number at all") << wrapped(qQNaN()) << 1.0;
+    QTest::newRow("a text") << wrapped(u"1.5"_s) << 1.0;
+    QTest::newRow("an empty list") << wrapped(QStringList()) << 1.0;
+    QTest::newRow("not wrapped") << QVariant(1.5) << 1.0;
+    QTest::newRow("an error") << QVariant() << 1.0;
+}
+
+void TextScaleTest::thePortalTellsTheScale()
+{
+    QFETCH(QVariant, answer);
+    const SettingsPortal portal(answer);
+    QTEST(TextScale::read(), "scale");
+    QCOMPARE(portal.calls(), QStringList{u"Read"_s});
+}
+
+void TextScaleTest::onlyOnWaylandIsThePortalAsked_data()
+{
+    QTest::addColumn<QByteArray>("platform");
+    QTest::addColumn<QByteArray>("session");
+    QTest::addColumn<double>("scale");
+    QTest::newRow("chosen") << QByteArray("wayland") << QByteArray("x11") << 1.5;
+    QTest::newRow("chosen with an option") << QByteArray("wayland-egl") << QByteArray() << 1.5;
+    QTest::newRow("the session's") << QByteArray() << QByteArray("wayland") << 1.5;
+    QTest::newRow("X inside Wayland") << QByteArray("xcb") << QByteArray("wayland") << 1.0;
+    QTest::newRow("X") << QByteArray() << QByteArray("x11") << 1.0;
+    QTest::newRow("unknown") << QByteArray() << QByteArray() << 1.0;
+}
+
+void TextScaleTest::onlyOnWaylandIsThePortalAsked()
+{
+    QFETCH(QByteArray, platform);
+    QFETCH(QByteArray, session);
+    QFETCH(double, scale);
+    qputenv("QT_QPA_PLATFORM", platform);
+    qputenv("XDG_SESSION_TYPE", session);
+    const SettingsPortal portal(wrapped(1.5));
+    QCOMPARE(TextScale::read(), scale);
+    QCOMPARE(portal.calls().isEmpty(), scale == 1);
+}
+
+void TextScaleTest::withoutAPortalTextsHaveTheirUsualSize()
+{
+    QCOMPARE(TextScale::read(), 1.0);
+}
+
+void TextScaleTest::aPortalThatHangsIsNotWaitedFor()
+{
+    const SettingsPortal portal(wrapped(1.5), SettingsPortal::Manner::IsSlow);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QCOMPARE(TextScale::read(), 1.0);
+    QVERIFY2(elapsed.elapsed() < 2000, qPrintable(QString::number(elapsed.elapsed())));
+}
+
+CORVANE_TEST(TextScaleTest, runInPrivateSession)
+
+#include "tst_textscale.moc"
