@@ -16,21 +16,6 @@ void chooseRenderer()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// The dots per inch that texts, and all else with them, are scaled for. Qt reads it while it makes the application
-/// object.
-constexpr const char *dotsPerInch = "QT_FONT_DPI";
-
-/// Scales all there is by the person's text size where Qt does not do so by itself. What the environment says counts
-/// instead. True when that has set the variable.
-bool followTextSize()
-{
-    if (qEnvironmentVariableIsSet(dotsPerInch) || qEnvironmentVariableIsSet("QT_SCALE_FACTOR"))
-        return false;
-    constexpr int usual = 96;
-    const int wanted = qRound(usual * NativePlatform::textScale());
-    return wanted != usual && qputenv(dotsPerInch, QByteArray::number(wanted));
-}
-
 /// Does what nobody waits for, and what would only be in the way of the first frame.
 void finishAfterFirstFrame()
 {
@@ -51,15 +36,12 @@ int main(int argc, char *argv[])
     NativePlatform::secureStreams();
     LaunchFlags::setArguments(argc, argv);
     chooseRenderer();
-    const bool isScaled = followTextSize();
+    std::shared_ptr<void> environment = NativePlatform::prepareEnvironment();
     // The warm-up and the connection to the display take about as long, and neither needs the other.
     const std::future<void> warmUp = NativePlatform::warmUp();
     int ownName = 1;
     QGuiApplication application(ownName, argv);
     warmUp.wait();
-    // For this process alone, not for those it starts.
-    if (isScaled)
-        qunsetenv(dotsPerInch);
     // The name is also the window class on X11.
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));
@@ -67,6 +49,8 @@ int main(int argc, char *argv[])
 
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
+    // Qt has read it by now, and programs that are started later are not to inherit it.
+    environment.reset();
     finishAfterFirstFrame();
     return QGuiApplication::exec();
 }

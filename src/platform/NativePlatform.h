@@ -20,9 +20,9 @@ std::unique_ptr<Platform> make();
 /// ask for a font before the result is there.
 [[nodiscard]] std::future<void> warmUp();
 
-/// How large the person wants texts, where Qt does not find out by itself; 1 is the usual size. Needs no application
-/// object.
-double textScale();
+/// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
+/// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.
+[[nodiscard]] std::shared_ptr<void> prepareEnvironment();
 
 /// Whether this process is the first of the person's session to claim that dotted name, which it then holds until it
 /// ends. Without a session every process is.

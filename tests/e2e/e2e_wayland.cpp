@@ -38,6 +38,7 @@ private slots:
     void cleanup();
 
     void theSettingsWindowIsKnownByItsNameAndCloses();
+    void noGraphicsDriverIsLoaded();
     void theDesktopsTextSizeScalesTheWindow();
     void theWholeJourneyByPointer();
 };
@@ -105,6 +106,17 @@ void TestWayland::theSettingsWindowIsKnownByItsNameAndCloses()
     QVERIFY(clickButton(u"Close"_s));
     QVERIFY(program().waitForExit());
     QCOMPARE(program().exitCode(), 0);
+}
+
+/// The software renderer needs none, and it would take as much memory as all the rest.
+void TestWayland::noGraphicsDriverIsLoaded()
+{
+    QVERIFY(open({.arguments = {u"--about"_s}}));
+    QFile maps(u"/proc/%1/maps"_s.arg(program().processId()));
+    QVERIFY(maps.open(QFile::ReadOnly));
+    const QByteArray loaded = maps.readAll();
+    QVERIFY(loaded.contains("libQt6WaylandClient"));
+    QVERIFY(!loaded.contains("wayland-graphics-integration-client"));
 }
 
 void TestWayland::theDesktopsTextSizeScalesTheWindow()

@@ -23,31 +23,11 @@ public:
     explicit TextScaleTest(PrivateSession &) { }
 
 private slots:
-    void init();
-    void cleanup();
-
     void thePortalTellsTheScale_data();
     void thePortalTellsTheScale();
-    void onlyOnWaylandIsThePortalAsked_data();
-    void onlyOnWaylandIsThePortalAsked();
     void withoutAPortalTextsHaveTheirUsualSize();
     void aPortalThatHangsIsNotWaitedFor();
-
-private:
-    QByteArray m_platform;
 };
-
-void TextScaleTest::init()
-{
-    m_platform = qgetenv("QT_QPA_PLATFORM");
-    qputenv("QT_QPA_PLATFORM", "wayland");
-}
-
-void TextScaleTest::cleanup()
-{
-    qputenv("QT_QPA_PLATFORM", m_platform);
-    qunsetenv("XDG_SESSION_TYPE");
-}
 
 void TextScaleTest::thePortalTellsTheScale_data()
 {
@@ -72,31 +52,6 @@ void TextScaleTest::thePortalTellsTheScale()
     const SettingsPortal portal(answer);
     QTEST(TextScale::read(), "scale");
     QCOMPARE(portal.calls(), QStringList{u"Read"_s});
-}
-
-void TextScaleTest::onlyOnWaylandIsThePortalAsked_data()
-{
-    QTest::addColumn<QByteArray>("platform");
-    QTest::addColumn<QByteArray>("session");
-    QTest::addColumn<double>("scale");
-    QTest::newRow("chosen") << QByteArray("wayland") << QByteArray("x11") << 1.5;
-    QTest::newRow("chosen with an option") << QByteArray("wayland-egl") << QByteArray() << 1.5;
-    QTest::newRow("the session's") << QByteArray() << QByteArray("wayland") << 1.5;
-    QTest::newRow("X inside Wayland") << QByteArray("xcb") << QByteArray("wayland") << 1.0;
-    QTest::newRow("X") << QByteArray() << QByteArray("x11") << 1.0;
-    QTest::newRow("unknown") << QByteArray() << QByteArray() << 1.0;
-}
-
-void TextScaleTest::onlyOnWaylandIsThePortalAsked()
-{
-    QFETCH(QByteArray, platform);
-    QFETCH(QByteArray, session);
-    QFETCH(double, scale);
-    qputenv("QT_QPA_PLATFORM", platform);
-    qputenv("XDG_SESSION_TYPE", session);
-    const SettingsPortal portal(wrapped(1.5));
-    QCOMPARE(TextScale::read(), scale);
-    QCOMPARE(portal.calls().isEmpty(), scale == 1);
 }
 
 void TextScaleTest::withoutAPortalTextsHaveTheirUsualSize()

@@ -4,7 +4,7 @@
 #include "FreedesktopPlatform.h"
 #include "SessionBus.h"
 #include "StandardStreams.h"
-#include "TextScale.h"
+#include "StartEnvironment.h"
 #include "WarmUp.h"
 
 void NativePlatform::secureStreams()
@@ -22,9 +22,9 @@ std::future<void> NativePlatform::warmUp()
     return WarmUp::begin();
 }
 
-double NativePlatform::textScale()
+std::shared_ptr<void> NativePlatform::prepareEnvironment()
 {
-    return TextScale::read();
+    return std::make_shared<StartEnvironment>();
 }
 
 bool NativePlatform::claimName(const QString &name)

@@ -19,13 +19,6 @@ constexpr double largest = 3;
 
 using Variant = std::unique_ptr<GVariant, decltype(&g_variant_unref)>;
 
-/// Where Qt will connect to, which it does not tell before it has.
-bool isOnWayland()
-{
-    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
-    return chosen.isEmpty() ? qgetenv("XDG_SESSION_TYPE") == "wayland" : chosen.startsWith("wayland");
-}
-
 /// Qt's own connection wants an application object. With this one dconf goes on.
 Variant askPortal()
 {
@@ -52,7 +45,7 @@ Variant unwrapped(Variant value)
 
 double TextScale::read()
 {
-    if (!isOnWayland() || !SessionBus::isPresent())
+    if (!SessionBus::isPresent())
         return 1;
     const Variant answer = unwrapped(askPortal());
     if (!answer || !g_variant_is_of_type(answer.get(), G_VARIANT_TYPE_DOUBLE))

@@ -3,8 +3,8 @@
 /// How large the person wants texts, as the desktop's settings portal tells it.
 namespace TextScale {
 
-/// 1 stands for the usual size, and for all that is not known. An X server tells Qt itself, so only on Wayland is the
-/// portal asked, if one is running, for at most 50 ms. Needs no application object.
+/// 1 stands for the usual size, and for all that is not known. Waits for the portal, if one is running, for at most
+/// 50 ms. Needs no application object.
 double read();
 
 }

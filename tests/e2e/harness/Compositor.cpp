@@ -76,10 +76,6 @@ QProcessEnvironment Compositor::inside(QProcessEnvironment environment) const
     environment.remove(QStringLiteral("DISPLAY"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
     environment.insert(QStringLiteral("WAYLAND_DISPLAY"), m_display);
-    // Qt loads the graphics driver there, which leaks and has gone by the time leaks are counted, so that they cannot
-    // be told from others.
-    const QString options = QStringLiteral("ASAN_OPTIONS");
-    environment.insert(options, environment.value(options) + QStringLiteral(":detect_leaks=0"));
     return environment;
 }
 
