@@ -12,8 +12,9 @@ namespace NativePlatform {
 /// First thing in `main`: makes the process safe from standard streams that are closed, or whose reader goes away.
 void secureStreams();
 
-/// The services. Each is made when it is first asked for, so making them costs nothing. The application object must
-/// exist before any service but the bundles is asked for.
+/// The services. Each is made when it is first asked for, so making them costs nothing. A program that may be raised by a
+/// later start makes them before the application object, which takes what a start was given out of the environment; that
+/// object must exist before any service but the bundles is asked for.
 std::unique_ptr<Platform> make();
 
 /// Does what a start can get done while the program still connects to the display, on a thread of its own. Nothing may
@@ -23,10 +24,6 @@ std::unique_ptr<Platform> make();
 /// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.
 [[nodiscard]] std::shared_ptr<void> prepareEnvironment();
-
-/// Whether this process is the first of the person's session to claim that dotted name, which it then holds until it
-/// ends. Without a session every process is.
-bool claimName(const QString &name);
 
 /// The program's entry among those started at login. With `needsApproval` a new one waits for the person's approval.
 std::unique_ptr<LoginItem> makeLoginItem(const LoginItem::Program &program, bool needsApproval);

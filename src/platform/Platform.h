@@ -3,6 +3,7 @@
 #include "Appearance.h"
 #include "Bundle.h"
 #include "DistributedNotificationCenter.h"
+#include "Instances.h"
 #include "KeyMonitor.h"
 #include "MainQueue.h"
 #include "UserDefaults.h"
@@ -44,4 +45,7 @@ public:
 
     /// What is on the screen.
     virtual WindowList &windowList() = 0;
+
+    /// The other programs of the session.
+    virtual Instances &instances() = 0;
 };

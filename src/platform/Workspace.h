@@ -41,6 +41,10 @@ public:
     /// the places of windows to itself.
     virtual bool placesWindows() = 0;
 
+    /// Gives a window that was shown before the place in front of the others and the keyboard focus, also where the
+    /// desktop keeps programs from taking them: the person has asked for it, if perhaps in another program.
+    virtual void bringToFront(QWindow &window) = 0;
+
     /// Whether transparent parts of a window show what lies behind it. Where they do not, they are black.
     virtual bool blendsWindows() = 0;
 };

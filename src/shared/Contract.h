@@ -51,6 +51,9 @@
 
 namespace Contract {
 
+/// The name that the agent holds in the session while it runs, and under which it is installed to be started.
+inline const QString agentName = QStringLiteral("com.vexmoor.corvane");
+
 struct StoreKey {
     QString name;
     QVariant defaultValue;

@@ -28,6 +28,21 @@ public:
 
     void show(const QList<OnScreenWindow> &windows) override { m_platform.windows.windows = windows; }
 
+    void hold(const QString &name, Answer answer) override
+    {
+        m_platform.programs.others.insert(name, [this, answer](const Instances::Request &request) {
+            m_asked.append(request);
+            return answer == Answer::Done;
+        });
+    }
+
+    QList<Instances::Request> asked() override { return m_asked; }
+
+    bool isAsked(const QString &, const Instances::Request &request) override
+    {
+        return m_platform.programs.receive(request);
+    }
+
     QUrl makeBundle(const QVariantMap &info, const QStringList &resources) override
     {
         FakeBundle bundle;
@@ -50,5 +65,6 @@ public:
     }
 
 private:
+    QList<Instances::Request> m_asked;
     FakePlatform &m_platform = FakePlatform::install();
 };

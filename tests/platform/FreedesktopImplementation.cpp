@@ -114,6 +114,11 @@ void FreedesktopImplementation::show(const QList<OnScreenWindow> &windows)
     }
 }
 
+void FreedesktopImplementation::hold(const QString &name, Answer answer)
+{
+    m_other.emplace(name, answer == Answer::Refused);
+}
+
 QUrl FreedesktopImplementation::makeBundle(const QVariantMap &info, const QStringList &resources)
 {
     const QString folder = m_bundles.filePath(QStringLiteral("%1.app").arg(m_bundleCount++));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Implementation.h"
+#include "OtherInstance.h"
 #include "SettingsPortal.h"
 #include "X11TestWindow.h"
 
@@ -19,6 +20,12 @@ public:
     void choose(const Look &look) override;
     bool press(const KeyDown &key) override;
     void show(const QList<OnScreenWindow> &windows) override;
+    void hold(const QString &name, Answer answer) override;
+    QList<Instances::Request> asked() override { return m_other->asked(); }
+    bool isAsked(const QString &name, const Instances::Request &request) override
+    {
+        return OtherInstance::ask(name, request);
+    }
     QUrl makeBundle(const QVariantMap &info, const QStringList &resources) override;
     bool waitFor(const std::function<bool()> &isTrue) override { return QTest::qWaitFor(isTrue); }
 
@@ -36,6 +43,7 @@ private:
     SettingsPortal m_portal;
     Window m_window;
     std::vector<std::unique_ptr<X11TestWindow>> m_shown;
+    std::optional<OtherInstance> m_other;
     QTemporaryDir m_bundles;
     int m_bundleCount = 0;
 };

@@ -31,6 +31,18 @@ public:
     /// These windows, front to back, are what is on the screen; their bounds are whole pixels.
     virtual void show(const QList<OnScreenWindow> &windows) = 0;
 
+    /// What a process that is asked to do something says.
+    enum class Answer { Done, Refused };
+
+    /// Another process holds that name from now on, and answers whatever it is asked in that way.
+    virtual void hold(const QString &name, Answer answer) = 0;
+
+    /// What that process was asked.
+    virtual QList<Instances::Request> asked() = 0;
+
+    /// Another process asks this one, which holds that name. True when it was done.
+    virtual bool isAsked(const QString &name, const Instances::Request &request) = 0;
+
     /// A bundle with an info dictionary and resources, whose contents do not matter.
     virtual QUrl makeBundle(const QVariantMap &info, const QStringList &resources) = 0;
 

@@ -84,7 +84,7 @@ private slots:
     void thePageListsTheKeysOfTheCodeAndNoOthers();
     void thePageListsTheCommandsOfTheCodeAndNoOthers();
     void thePageListsTheShortcutsOfTheCodeAndNoOthers();
-    void thePageNamesTheSuiteAndTheSignal();
+    void thePageNamesTheSuiteTheAgentAndTheSignal();
 
     void aKeyOutsideTheTableHasNoDefault();
     void theIdentifiersSpellTheNames();
@@ -127,12 +127,14 @@ void TestContract::thePageListsTheShortcutsOfTheCodeAndNoOthers()
     }
 }
 
-void TestContract::thePageNamesTheSuiteAndTheSignal()
+void TestContract::thePageNamesTheSuiteTheAgentAndTheSignal()
 {
     QCOMPARE(Shared::suiteName, QStringLiteral("com.vexmoor.corvane"));
+    QCOMPARE(Contract::agentName, QStringLiteral("com.vexmoor.corvane"));
     QCOMPARE(Shared::Command::name, QStringLiteral("com.vexmoor.corvane.command"));
     const QString text = page();
     QVERIFY(text.contains(QStringLiteral("named `%1`").arg(Shared::suiteName)));
+    QVERIFY(text.contains(QStringLiteral("the agent holds the name `%1`").arg(Contract::agentName)));
     const QString path = u'/' + QString(Shared::suiteName).replace(u'.', u'/');
     const qsizetype dot = Shared::Command::name.lastIndexOf(u'.');
     const QList<Row> signal = {{"path", code(path)},

@@ -72,9 +72,9 @@ int main(int argc, char *argv[])
     }
 
     // One agent a session: a second one would do everything twice.
-    if (!NativePlatform::claimName(Shared::suiteName))
-        return 0;
     Platform::install(NativePlatform::make());
+    if (!Platform::current().instances().claim(Contract::agentName))
+        return 0;
     const auto loginItem = NativePlatform::makeLoginItem(
         {Shared::suiteName, QStringLiteral("Corvane"), QGuiApplication::applicationFilePath()},
         parser.isSet(QStringLiteral("needs-approval")));

@@ -134,8 +134,12 @@ void EBWindow::makeKeyAndOrderFront()
 {
     // A new window comes up in front; one that was hidden comes back where it was among the others.
     const bool isNew = !handle();
+    setWindowStates(windowStates() & ~Qt::WindowMinimized);
     show();
-    if (!isNew)
-        raise();
     requestActivate();
+    if (isNew)
+        return;
+    raise();
+    // The click that asked for it may have been in another program.
+    Platform::current().workspace().bringToFront(*this);
 }

@@ -3,6 +3,7 @@
 #include "FakeAppearance.h"
 #include "FakeBundle.h"
 #include "FakeDistributedNotificationCenter.h"
+#include "FakeInstances.h"
 #include "FakeMainQueue.h"
 #include "FakeUserDefaults.h"
 #include "FakeWindowList.h"
@@ -25,6 +26,7 @@ public:
     FakeAppearance look;
     FakeMainQueue queue;
     FakeWindowList windows;
+    FakeInstances programs;
 
     /// A key going down in a window of the application. True when a monitor swallowed it.
     bool pressKey(const KeyDown &key) { return m_keyMonitors.swallow(key); }
@@ -53,6 +55,7 @@ public:
     }
     MainQueue &mainQueue() override { return queue; }
     WindowList &windowList() override { return windows; }
+    Instances &instances() override { return programs; }
 
 private:
     KeyMonitors m_keyMonitors;

@@ -22,6 +22,8 @@ public:
 
     /// The windows that were readied to float, each time anew.
     QList<QWindow *> floating;
+    /// The windows that were brought to the front.
+    QList<QWindow *> broughtToFront;
 
     /// Bundle identifier to icon.
     QMap<QString, QIcon> icons;
@@ -55,6 +57,8 @@ public:
     void floatOnAllSpaces(QWindow &window) override { floating.append(&window); }
 
     bool placesWindows() override { return places; }
+
+    void bringToFront(QWindow &window) override { broughtToFront.append(&window); }
 
     bool blendsWindows() override { return blends; }
 };

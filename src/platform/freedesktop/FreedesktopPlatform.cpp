@@ -1,5 +1,6 @@
 #include "FreedesktopPlatform.h"
 
+#include "DBusInstances.h"
 #include "DBusNotificationCenter.h"
 #include "DconfUserDefaults.h"
 #include "FreedesktopWorkspace.h"
@@ -27,6 +28,7 @@ public:
     std::unique_ptr<KeyMonitor> monitorKeyDown(KeyMonitor::Handler handler) override;
     MainQueue &mainQueue() override { return m_mainQueue; }
     WindowList &windowList() override { return m_windows; }
+    Instances &instances() override { return m_instances; }
 
 private:
     PlistBundle &plistBundle();
@@ -37,6 +39,8 @@ private:
     DBusNotificationCenter m_notifications;
     MainQueue m_mainQueue;
     X11WindowList m_windows;
+    // The application object, which comes later, takes a part of it out of the environment.
+    DBusInstances m_instances{ActivationToken::inEnvironment()};
     std::optional<FreedesktopWorkspace> m_workspace;
     std::optional<PortalAppearance> m_appearance;
     std::optional<KeyDownFilter> m_keyDown;

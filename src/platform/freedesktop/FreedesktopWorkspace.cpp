@@ -1,10 +1,12 @@
 #include "FreedesktopWorkspace.h"
 
+#include "ActivationToken.h"
 #include "AutostartLoginItem.h"
 #include "DesktopEntry.h"
 #include "GenericIcon.h"
 #include "RegularFile.h"
 #include "WindowOverview.h"
+#include "X11Activation.h"
 #include "X11Panel.h"
 #include "X11ShowDesktop.h"
 
@@ -111,6 +113,8 @@ void FreedesktopWorkspace::openApplication(const QUrl &bundleURL, const QStringL
         : PlistBundle(bundleURL.toLocalFile()).executable();
     if (!executable.isEmpty())
         QProcess::startDetached(executable, arguments);
+    // The new instance has it now.
+    ActivationToken::clearEnvironment();
     QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(completion), Qt::QueuedConnection);
 }
 
@@ -161,6 +165,12 @@ void FreedesktopWorkspace::floatOnAllSpaces(QWindow &window)
 bool FreedesktopWorkspace::placesWindows()
 {
     return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+void FreedesktopWorkspace::bringToFront(QWindow &window)
+{
+    X11Activation::request(window, ActivationToken::inEnvironment().startupId);
+    ActivationToken::clearEnvironment();
 }
 
 bool FreedesktopWorkspace::blendsWindows()

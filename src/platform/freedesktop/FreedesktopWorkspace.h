@@ -22,6 +22,7 @@ public:
     void openMissionControl() override;
     void floatOnAllSpaces(QWindow &window) override;
     bool placesWindows() override;
+    void bringToFront(QWindow &window) override;
     bool blendsWindows() override;
 
 private:

@@ -2,7 +2,6 @@
 
 #include "AutostartLoginItem.h"
 #include "FreedesktopPlatform.h"
-#include "SessionBus.h"
 #include "StandardStreams.h"
 #include "StartEnvironment.h"
 #include "WarmUp.h"
@@ -25,12 +24,6 @@ std::future<void> NativePlatform::warmUp()
 std::shared_ptr<void> NativePlatform::prepareEnvironment()
 {
     return std::make_shared<StartEnvironment>();
-}
-
-bool NativePlatform::claimName(const QString &name)
-{
-    auto bus = SessionBus::connection();
-    return !bus || bus->registerService(name);
 }
 
 std::unique_ptr<LoginItem> NativePlatform::makeLoginItem(const LoginItem::Program &program, bool needsApproval)

@@ -24,9 +24,13 @@ std::unique_ptr<X11Names> X11Names::ask(xcb_connection_t *connection)
     auto names = std::make_unique<X11Names>();
     const auto askedIconicState = askAtom(connection, "WM_STATE");
     const auto askedShadowExtents = askAtom(connection, "_GTK_FRAME_EXTENTS");
+    const auto askedStartupBegin = askAtom(connection, "_NET_STARTUP_INFO_BEGIN");
+    const auto askedStartup = askAtom(connection, "_NET_STARTUP_INFO");
     xcb_intern_atom_cookie_t *asked = xcb_ewmh_init_atoms(connection, &names->ewmh);
     names->iconicState = atom(connection, askedIconicState);
     names->shadowExtents = atom(connection, askedShadowExtents);
+    names->startupInfoBegin = atom(connection, askedStartupBegin);
+    names->startupInfo = atom(connection, askedStartup);
     if (asked && xcb_ewmh_init_atoms_replies(&names->ewmh, asked, nullptr))
         return names;
     // The library has tidied up by itself.

@@ -23,4 +23,7 @@ struct X11Names {
     xcb_atom_t iconicState = XCB_ATOM_NONE;
     /// The shadow that a window draws itself.
     xcb_atom_t shadowExtents = XCB_ATOM_NONE;
+    /// A message on the starts of programs: its first piece, and every further one.
+    xcb_atom_t startupInfoBegin = XCB_ATOM_NONE;
+    xcb_atom_t startupInfo = XCB_ATOM_NONE;
 };
