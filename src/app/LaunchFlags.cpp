@@ -37,3 +37,9 @@ bool LaunchFlags::replay()
     static const bool given = isGiven("--replay");
     return given;
 }
+
+bool LaunchFlags::service()
+{
+    static const bool given = isGiven("--service");
+    return given;
+}

@@ -16,4 +16,8 @@ bool about();
 /// "--replay": the onboarding guide is shown once more, to somebody who knows it.
 bool replay();
 
+/// "--service": started by the desktop, which goes on to say what it wants. Without a meaning in the roles of the two
+/// flags above.
+bool service();
+
 }

@@ -2,6 +2,7 @@
 
 #include "AboutWindow.h"
 #include "Accessibility.h"
+#include "AgentBundle.h"
 #include "EBKitFonts.h"
 #include "EBSettingsWindowController.h"
 #include "EBType.h"
@@ -9,11 +10,15 @@
 #include "GuideWindowController.h"
 #include "LaunchFlags.h"
 #include "Platform.h"
+#include "SettingsModel.h"
 #include "SettingsPages.h"
 #include "Shared.h"
+#include "WindowIcon.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+
+#include <algorithm>
 
 namespace {
 
@@ -34,6 +39,29 @@ void loadFaces()
         QFontMetricsF(font).horizontalAdvance(QStringLiteral("x"));
 }
 
+bool isPage(const QString &id)
+{
+    const QList<EBSettingsPage> pages = SettingsPages::make();
+    return std::any_of(pages.begin(), pages.end(), [&](const EBSettingsPage &page) { return page.id == id; });
+}
+
+/// Without an agent that runs or can be started nothing happens.
+void startAgent()
+{
+    if (AgentBundle::bundle())
+        Platform::current().instances().start(Contract::agentName);
+}
+
+/// Opens another role, which has a process of its own.
+void openRole(const QStringList &flags)
+{
+    Platform &platform = Platform::current();
+    platform.workspace().openApplication(platform.mainBundle().bundleURL(), flags, [] {});
+}
+
+/// How long a start by the desktop waits to be told what to open, in seconds.
+constexpr double servicePatience = 10;
+
 }
 
 SettingsAppDelegate::SettingsAppDelegate()
@@ -47,6 +75,8 @@ SettingsAppDelegate::~SettingsAppDelegate() = default;
 
 void SettingsAppDelegate::applicationDidFinishLaunching()
 {
+    Platform &platform = Platform::current();
+    platform.instances().setHandler([this](const Instances::Request &request) { return perform(request); });
     if (LaunchFlags::onboarding()) {
         openOnboarding();
         return;
@@ -55,7 +85,72 @@ void SettingsAppDelegate::applicationDidFinishLaunching()
         openAbout();
         return;
     }
-    openSettings();
+    if (LaunchFlags::service()) {
+        platform.mainQueue().after(servicePatience, this, [this] {
+            if (!m_settings)
+                QCoreApplication::quit();
+        });
+        return;
+    }
+    std::optional<QString> initial;
+    if (qEnvironmentVariableIsSet("CV_TAB"))
+        initial = qEnvironmentVariable("CV_TAB");
+    openSettings(initial);
+}
+
+bool SettingsAppDelegate::perform(const Instances::Request &request)
+{
+    if (request.action == u"about") {
+        openRole({QStringLiteral("--about")});
+        return true;
+    }
+    if (request.action == u"guide") {
+        openRole({QStringLiteral("--onboarding"), QStringLiteral("--replay")});
+        return true;
+    }
+    // The guide hides while the person is elsewhere; the other windows are only gone once they are closed.
+    const bool isEnding = m_guide ? m_guide->finished() : window() && !window()->isVisible();
+    if (isEnding)
+        return false;
+    if (m_guide || m_about)
+        window()->makeKeyAndOrderFront();
+    else
+        showSettings(request);
+    return true;
+}
+
+void SettingsAppDelegate::showSettings(const Instances::Request &request)
+{
+    const bool namesAPage = request.action == pageAction && isPage(request.argument);
+    if (!m_settings) {
+        openSettings(namesAPage ? std::optional(request.argument) : std::nullopt);
+        return;
+    }
+    if (namesAPage)
+        m_settings->model()->setSelection(request.argument);
+    m_settings->showWindow();
+}
+
+EBWindow *SettingsAppDelegate::window() const
+{
+    if (m_guide)
+        return &m_guide->window();
+    if (m_about)
+        return m_about.get();
+    return m_settings ? m_settings->window() : nullptr;
+}
+
+void SettingsAppDelegate::present(EBWindow &window)
+{
+    const auto finish = [this] {
+        QGuiApplication::setWindowIcon(windowIcon());
+        Platform::current().appearance().wake();
+        startAgent();
+        emit opened();
+    };
+    connect(&window, &QQuickWindow::frameSwapped, this, finish,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    window.makeKeyAndOrderFront();
 }
 
 void SettingsAppDelegate::openOnboarding()
@@ -66,7 +161,7 @@ void SettingsAppDelegate::openOnboarding()
     const auto run = LaunchFlags::replay() ? OnboardingFlow::Run::replay : OnboardingFlow::Run::first;
     m_guide = std::make_unique<GuideWindowController>(m_engine, run, &SettingsAppDelegate::finishOnboarding);
     m_guide->window().center();
-    m_guide->window().makeKeyAndOrderFront();
+    present(m_guide->window());
 }
 
 void SettingsAppDelegate::finishOnboarding()
@@ -82,14 +177,11 @@ void SettingsAppDelegate::openAbout()
     chooseBodyFace();
     Platform::current().appearance().settle();
     m_about = std::make_unique<AboutWindow>(m_engine);
-    m_about->makeKeyAndOrderFront();
+    present(*m_about);
 }
 
-void SettingsAppDelegate::openSettings()
+void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
 {
-    std::optional<QString> initial;
-    if (qEnvironmentVariableIsSet("CV_TAB"))
-        initial = qEnvironmentVariable("CV_TAB");
     const QList<EBSettingsPage> pages = SettingsPages::make();
     // From here to the controller this thread works beside the one that loads the views.
     EBSettingsWindowController::prefetch(m_engine, pages, initial);
@@ -101,7 +193,7 @@ void SettingsAppDelegate::openSettings()
     const QString version = platform.mainBundle().string(QStringLiteral("CFBundleShortVersionString"));
     m_settings = std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, pages, initial);
     platform.appearance().settle();
-    m_settings->showWindow();
+    present(*m_settings->window());
 }
 
 bool SettingsAppDelegate::applicationShouldTerminateAfterLastWindowClosed()

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "Instances.h"
 #include "ViewEngine.h"
 
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 class AboutWindow;
+class EBWindow;
 class EBSettingsWindowController;
 class GuideWindowController;
 
@@ -17,6 +20,9 @@ public:
     SettingsAppDelegate();
     ~SettingsAppDelegate() override;
 
+    /// The request to show a page of the settings, whose id is the argument. The others are named in the desktop entry.
+    inline static const QString pageAction = QStringLiteral("page");
+
     void applicationDidFinishLaunching();
 
     /// Closing the last window ends the process, except in the onboarding: the guide ends it itself.
@@ -26,10 +32,26 @@ public:
     /// start.
     static void openGuide();
 
+signals:
+    /// The window's first frame is shown.
+    void opened();
+
 private:
     void openOnboarding();
     void openAbout();
-    void openSettings();
+    /// `initial` is the id of the page to begin with, if one was named.
+    void openSettings(const std::optional<QString> &initial);
+
+    /// Shows a window that was just made, and leaves what nobody waits for until its first frame is there.
+    void present(EBWindow &window);
+
+    /// The window of this process; null while a start by the desktop has not been told what to open.
+    EBWindow *window() const;
+
+    /// What a later start, or the desktop, wants of this process. False when its window is closed and it only has to
+    /// end.
+    bool perform(const Instances::Request &request);
+    void showSettings(const Instances::Request &request);
 
     /// However the onboarding ended: it is not shown by itself again, and the agent applies what was chosen.
     static void finishOnboarding();

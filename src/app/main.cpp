@@ -1,7 +1,7 @@
 #include "LaunchFlags.h"
 #include "NativePlatform.h"
+#include "RunningInstance.h"
 #include "SettingsAppDelegate.h"
-#include "WindowIcon.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -16,19 +16,6 @@ void chooseRenderer()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// Does what nobody waits for, and what would only be in the way of the first frame.
-void finishAfterFirstFrame()
-{
-    auto *window = qobject_cast<QQuickWindow *>(QGuiApplication::topLevelWindows().constFirst());
-    QObject::connect(
-        window, &QQuickWindow::frameSwapped, qApp,
-        [] {
-            QGuiApplication::setWindowIcon(windowIcon());
-            Platform::current().appearance().wake();
-        },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
-}
-
 }
 
 int main(int argc, char *argv[])
@@ -37,20 +24,21 @@ int main(int argc, char *argv[])
     LaunchFlags::setArguments(argc, argv);
     chooseRenderer();
     std::shared_ptr<void> environment = NativePlatform::prepareEnvironment();
+    Platform::install(NativePlatform::make());
     // The warm-up and the connection to the display take about as long, and neither needs the other.
     const std::future<void> warmUp = NativePlatform::warmUp();
     int ownName = 1;
     QGuiApplication application(ownName, argv);
+    if (RunningInstance::takesOver())
+        return 0;
     warmUp.wait();
     // The name is also the window class on X11.
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));
-    Platform::install(NativePlatform::make());
 
     SettingsAppDelegate delegate;
+    // Qt has read it by then, and programs that are started later are not to inherit it.
+    QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment] { environment.reset(); });
     delegate.applicationDidFinishLaunching();
-    // Qt has read it by now, and programs that are started later are not to inherit it.
-    environment.reset();
-    finishAfterFirstFrame();
     return QGuiApplication::exec();
 }

@@ -15,17 +15,25 @@ class TestAppDelegate : public QObject {
 
 private slots:
     void init();
-    void cleanup() { qunsetenv("CV_TAB"); }
+    void cleanup();
     void withoutFlagsTheSettingsWindowOpens();
     void theTabVariableNamesTheFirstPage_data();
     void theTabVariableNamesTheFirstPage();
     void theWindowShowsTheShortVersionAlone();
     void closingTheLastWindowEndsTheProcess();
     void theGuideIsThisApplicationStartedAgain();
+    void aRequestGoesToThePageItNames_data();
+    void aRequestGoesToThePageItNames();
+    void anotherRoleIsAnotherProcess_data();
+    void anotherRoleIsAnotherProcess();
+    void aClosedWindowComesToNoFront();
+    void theAgentIsStartedAfterTheFirstFrame();
+    void outsideOfAnAgentNoneIsStarted();
 
 private:
     /// The one window there is.
     static QQuickWindow *window();
+    static QString selection();
 
     FakePlatform *m_platform = nullptr;
 };
@@ -37,10 +45,22 @@ void TestAppDelegate::init()
     addFaces(m_platform->main);
 }
 
+void TestAppDelegate::cleanup()
+{
+    qunsetenv("CV_TAB");
+    QGuiApplication::setWindowIcon({});
+}
+
 QQuickWindow *TestAppDelegate::window()
 {
     const QWindowList windows = QGuiApplication::topLevelWindows();
     return windows.size() == 1 ? qobject_cast<QQuickWindow *>(windows.constFirst()) : nullptr;
+}
+
+QString TestAppDelegate::selection()
+{
+    const QQuickItem *root = Views::visible(window()->contentItem(), "SettingsRoot").constFirst();
+    return root->property("model").value<EBSettingsWindowController::Model *>()->selection();
 }
 
 void TestAppDelegate::withoutFlagsTheSettingsWindowOpens()
@@ -85,10 +105,7 @@ void TestAppDelegate::theTabVariableNamesTheFirstPage()
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
     QVERIFY(window());
-    const QQuickItem *root = Views::visible(window()->contentItem(), "SettingsRoot").constFirst();
-    const auto *model = root->property("model").value<EBSettingsWindowController::Model *>();
-    QVERIFY(model);
-    QCOMPARE(model->selection(), selection);
+    QCOMPARE(TestAppDelegate::selection(), selection);
     QVERIFY(NamedItems::first(window()->contentItem(), heading, QAccessible::Heading));
 }
 
@@ -120,6 +137,100 @@ void TestAppDelegate::theGuideIsThisApplicationStartedAgain()
     QCOMPARE(opened.bundleURL, QUrl::fromLocalFile("/apps/Corvane Settings.app"));
     const QStringList arguments = {"--onboarding", "--replay"};
     QCOMPARE(opened.arguments, arguments);
+}
+
+void TestAppDelegate::aRequestGoesToThePageItNames_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("a page") << "page"
+                            << "layouts"
+                            << "layouts";
+    QTest::newRow("no such page") << "page"
+                                  << "nowhere"
+                                  << "buttons";
+    QTest::newRow("no page") << "page"
+                             << ""
+                             << "buttons";
+    QTest::newRow("nothing but the window") << ""
+                                            << ""
+                                            << "buttons";
+    QTest::newRow("an unknown action") << "fly"
+                                       << "layouts"
+                                       << "buttons";
+}
+
+void TestAppDelegate::aRequestGoesToThePageItNames()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, page);
+    QFETCH(QString, shown);
+    qputenv("CV_TAB", "buttons");
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    window()->showMinimized();
+    QVERIFY(m_platform->programs.receive({action, page}));
+    QCOMPARE(selection(), shown);
+    QCOMPARE(window()->windowState(), Qt::WindowNoState);
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+}
+
+void TestAppDelegate::anotherRoleIsAnotherProcess_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("About") << "about" << QStringList{"--about"};
+    QTest::newRow("the guide") << "guide" << QStringList{"--onboarding", "--replay"};
+}
+
+void TestAppDelegate::anotherRoleIsAnotherProcess()
+{
+    QFETCH(QString, action);
+    QFETCH(QStringList, arguments);
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    QVERIFY(m_platform->programs.receive({action, {}}));
+    QCOMPARE(m_platform->space.openedApplications.size(), 1);
+    const auto opened = m_platform->space.openedApplications.constFirst();
+    QCOMPARE(opened.bundleURL, QUrl::fromLocalFile("/apps/Corvane Settings.app"));
+    QCOMPARE(opened.arguments, arguments);
+    QVERIFY(window());
+}
+
+void TestAppDelegate::aClosedWindowComesToNoFront()
+{
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    window()->close();
+    QVERIFY(!m_platform->programs.receive({}));
+    QVERIFY(!window()->isVisible());
+}
+
+void TestAppDelegate::theAgentIsStartedAfterTheFirstFrame()
+{
+    m_platform->main.url = QUrl::fromLocalFile("/apps/Corvane.app/Contents/Helpers/Corvane Settings.app");
+    FakeBundle agent;
+    agent.url = QUrl::fromLocalFile("/apps/Corvane.app");
+    m_platform->bundles = {agent};
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    QCOMPARE(m_platform->programs.started, QStringList());
+    QTRY_COMPARE(m_platform->programs.started, QStringList{"com.vexmoor.corvane"});
+    QSignalSpy frames(window(), &QQuickWindow::frameSwapped);
+    window()->update();
+    QVERIFY(frames.wait());
+    QCoreApplication::processEvents();
+    QCOMPARE(m_platform->programs.started.size(), 1);
+}
+
+void TestAppDelegate::outsideOfAnAgentNoneIsStarted()
+{
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    QTRY_VERIFY(!QGuiApplication::windowIcon().isNull());
+    QCoreApplication::processEvents();
+    QCOMPARE(m_platform->programs.started, QStringList());
 }
 
 CORVANE_TEST(TestAppDelegate, runInGui)

@@ -19,14 +19,16 @@ void TestLaunchFlags::flagsAreWholeWords_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("flags");
-    QTest::newRow("none") << QStringList{} << QByteArray("- - -");
-    QTest::newRow("onboarding") << QStringList{"--onboarding"} << QByteArray("onboarding - -");
-    QTest::newRow("about") << QStringList{"--about"} << QByteArray("- about -");
-    QTest::newRow("both") << QStringList{"--about", "--onboarding"} << QByteArray("onboarding about -");
-    QTest::newRow("among others") << QStringList{"--replay", "x", "--onboarding"} << QByteArray("onboarding - replay");
-    QTest::newRow("another case") << QStringList{"--Onboarding", "--ABOUT"} << QByteArray("- - -");
-    QTest::newRow("with a value") << QStringList{"--onboarding=1", "--about="} << QByteArray("- - -");
-    QTest::newRow("part of it") << QStringList{"--onboard", "-about", "about", "--replays"} << QByteArray("- - -");
+    QTest::newRow("none") << QStringList{} << QByteArray("- - - -");
+    QTest::newRow("onboarding") << QStringList{"--onboarding"} << QByteArray("onboarding - - -");
+    QTest::newRow("about") << QStringList{"--about"} << QByteArray("- about - -");
+    QTest::newRow("both") << QStringList{"--about", "--onboarding"} << QByteArray("onboarding about - -");
+    QTest::newRow("among others") << QStringList{"--replay", "x", "--onboarding"}
+                                  << QByteArray("onboarding - replay -");
+    QTest::newRow("service") << QStringList{"--service"} << QByteArray("- - - service");
+    QTest::newRow("another case") << QStringList{"--Onboarding", "--ABOUT"} << QByteArray("- - - -");
+    QTest::newRow("with a value") << QStringList{"--onboarding=1", "--about="} << QByteArray("- - - -");
+    QTest::newRow("part of it") << QStringList{"--onboard", "-about", "about", "--replays"} << QByteArray("- - - -");
 }
 
 void TestLaunchFlags::flagsAreWholeWords()
@@ -44,8 +46,9 @@ static int run(int argc, char **argv)
     QCoreApplication application(argc, argv);
     LaunchFlags::setArguments(argc, argv);
     if (argc > 1 && qstrcmp(argv[1], "print-flags") == 0) {
-        std::printf("%s %s %s\n", LaunchFlags::onboarding() ? "onboarding" : "-", LaunchFlags::about() ? "about" : "-",
-                    LaunchFlags::replay() ? "replay" : "-");
+        std::printf("%s %s %s %s\n", LaunchFlags::onboarding() ? "onboarding" : "-",
+                    LaunchFlags::about() ? "about" : "-", LaunchFlags::replay() ? "replay" : "-",
+                    LaunchFlags::service() ? "service" : "-");
         return 0;
     }
     return runTest<TestLaunchFlags>(argc, argv);

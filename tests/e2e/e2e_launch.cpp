@@ -217,7 +217,7 @@ void TestLaunch::theMinimizeButtonAsksToIconify()
     QVERIFY(open());
     FIND(minimize, ATSPI_ROLE_PUSH_BUTTON, "Minimize");
     pointer().click(minimize.extents().center());
-    QVERIFY(requests.waitForRequest(window()->id(), "WM_CHANGE_STATE", iconicState));
+    QVERIFY(requests.waitForRequest(window()->id(), "WM_CHANGE_STATE", {iconicState}));
 }
 
 void TestLaunch::theZoomButtonDoesNothing()

@@ -144,7 +144,7 @@ void TestRoles::aWindowIsMovedByWhatTakesNoClick()
     // What the press asks for is asked for before the key ends the program.
     keyboard().press(XK_w, {XK_Control_L});
     QVERIFY(program().waitForExit());
-    QCOMPARE(requests.waitForRequest(id, "_NET_WM_MOVERESIZE", quint32(at.x()), 0), expected);
+    QCOMPARE(requests.waitForRequest(id, "_NET_WM_MOVERESIZE", {quint32(at.x())}, 0), expected);
 }
 
 void TestRoles::closingTheAboutWindowEndsTheProcess_data()
