@@ -22,11 +22,12 @@ endfunction()
 corvane_install_command(corvane-settings)
 corvane_install_command(corvane-agent)
 
-# Desktop entries name the commands by their full paths, which are only known when the prefix is.
+# The entries of desktop and session bus name the commands by their full paths, which are only known when the prefix is.
 set(bindir "${CMAKE_INSTALL_BINDIR}")
 set(entries "${CMAKE_INSTALL_DATADIR}/applications")
-configure_file("${PROJECT_SOURCE_DIR}/cmake/InstallDesktopEntries.cmake.in" "${staging}/InstallDesktopEntries.cmake" @ONLY)
-install(SCRIPT "${staging}/InstallDesktopEntries.cmake")
+set(services "${CMAKE_INSTALL_DATADIR}/dbus-1/services")
+configure_file("${PROJECT_SOURCE_DIR}/cmake/InstallEntries.cmake.in" "${staging}/InstallEntries.cmake" @ONLY)
+install(SCRIPT "${staging}/InstallEntries.cmake")
 
 set(icons "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
 foreach(size IN ITEMS 16 22 24 32 48 64 128 256)

@@ -1,12 +1,18 @@
 #include "EndToEndTest.h"
 #include "EntryFile.h"
 #include "InstalledTree.h"
+#include "Processes.h"
+#include "Service.h"
 #include "TestProgram.h"
 
+#include <QDBusConnectionInterface>
+#include <QDBusMetaType>
 #include <QDirIterator>
 #include <QImageReader>
 #include <QProcess>
 #include <QRegularExpression>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +38,15 @@ QString read(const QString &path)
 {
     QFile file(path);
     return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Calls the session's bus itself; false when it refuses.
+bool tellBus(const QString &method, const QVariantList &arguments = {})
+{
+    const QString bus = u"org.freedesktop.DBus"_s;
+    QDBusMessage call = QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, method);
+    call.setArguments(arguments);
+    return QDBusConnection::sessionBus().call(call).type() == QDBusMessage::ReplyMessage;
 }
 
 /// How far apart two pictures are, as a mean over all channels of all pixels, from 0 to 255.
@@ -61,9 +76,18 @@ private:
     /// Starts what the desktop entry, or an action of it, names.
     bool openFromEntry(const InstalledTree &tree, const QString &action = {});
 
+    /// Lets the session's bus start what was installed.
+    void announceServices(const InstalledTree &tree) const;
+
+    /// The titles of the windows that the installed application shows, in whatever processes.
+    QStringList shownTitles(const InstalledTree &tree) const;
+
 private slots:
     void startsFromItsDesktopEntry_data();
     void startsFromItsDesktopEntry();
+    void theDesktopOpensItByItsName_data();
+    void theDesktopOpensItByItsName();
+    void theAgentBesideItIsStarted();
     void theWindowHasTheIcon_data();
     void theWindowHasTheIcon();
     void entriesNameThePathsOfThePrefix_data();
@@ -108,6 +132,76 @@ void TestInstall::startsFromItsDesktopEntry()
     QCOMPARE(window()->windowClass(), entry.value(u"StartupWMClass"_s));
     QFETCH(QString, text);
     QVERIFY(shows(text));
+}
+
+void TestInstall::announceServices(const InstalledTree &tree) const
+{
+    qDBusRegisterMetaType<QMap<QString, QString>>();
+    for (const char *name : {"com.vexmoor.corvane", "com.vexmoor.corvane.settings"}) {
+        const QString file = tree.path(u"share/dbus-1/services/%1.service"_s.arg(QLatin1String(name)));
+        REQUIRE(QFile::exists(file) && desktop().session().installService(file));
+    }
+    // What the bus starts is to open its windows on the display, as what the test starts does.
+    const auto environment = QVariant::fromValue(QMap<QString, QString>{{u"QT_QPA_PLATFORM"_s, u"xcb"_s}});
+    REQUIRE(tellBus(u"UpdateActivationEnvironment"_s, {environment}));
+    REQUIRE(tellBus(u"ReloadConfig"_s));
+}
+
+QStringList TestInstall::shownTitles(const InstalledTree &tree) const
+{
+    QStringList titles;
+    const auto running = Processes::instancesOf(tree.path(u"bin/corvane-settings"_s));
+    for (const Processes::Process &process : running) {
+        for (const TopLevel &window : TopLevel::ofProcess(desktop().x(), process.id)) {
+            if (window.isViewable())
+                titles.append(window.title());
+        }
+    }
+    return titles;
+}
+
+void TestInstall::theDesktopOpensItByItsName_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("the settings") << QString() << u"Corvane Settings"_s;
+    QTest::newRow("About") << u"about"_s << u"About Corvane"_s;
+    QTest::newRow("Show guide") << u"guide"_s << u"Welcome to Corvane"_s;
+}
+
+void TestInstall::theDesktopOpensItByItsName()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, title);
+    const InstalledTree tree(u"Büro & 100%"_s);
+    QVERIFY(tree.isValid());
+    announceServices(tree);
+    const QString id = u"com.vexmoor.corvane.settings"_s;
+    QCOMPARE(EntryFile(tree.path(settingsEntry)).value(u"DBusActivatable"_s), u"true"_s);
+    QVERIFY(action.isEmpty() || !EntryFile(tree.path(settingsEntry)).value(u"Name"_s, action).isEmpty());
+    const QStringList request = action.isEmpty() ? QStringList{u"launch"_s, id} : QStringList{u"action"_s, id, action};
+    const auto endAll = qScopeGuard([&] {
+        for (const char *command : {"corvane-settings", "corvane-agent"}) {
+            for (const auto &process : Processes::instancesOf(tree.path(u"bin/"_s + QLatin1String(command))))
+                kill(pid_t(process.id), SIGTERM);
+        }
+    });
+    QCOMPARE(faults(u"gapplication"_s, request), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(shownTitles(tree), QStringList{title}, 20000);
+}
+
+void TestInstall::theAgentBesideItIsStarted()
+{
+    const InstalledTree tree;
+    QVERIFY(tree.isValid());
+    announceServices(tree);
+    const auto agents = [&] { return Processes::instancesOf(tree.path(u"bin/corvane-agent"_s)); };
+    QVERIFY(openFromEntry(tree));
+    QTRY_COMPARE(agents().size(), 1);
+    const QString name = u"com.vexmoor.corvane"_s;
+    QTRY_VERIFY_WITH_TIMEOUT(QDBusConnection::sessionBus().interface()->isServiceRegistered(name), 20000);
+    QCOMPARE(TopLevel::ofProcess(desktop().x(), agents().constFirst().id).size(), 0);
+    QVERIFY(Service(name).end());
 }
 
 void TestInstall::theWindowHasTheIcon_data()

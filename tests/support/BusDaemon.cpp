@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace {
@@ -43,9 +44,16 @@ BusDaemon::~BusDaemon()
     ChildProcess::stop(m_daemon);
 }
 
+bool BusDaemon::install(const QString &serviceFile) const
+{
+    const QString link = servicesFolder() + u'/' + QFileInfo(serviceFile).fileName();
+    QFile::remove(link);
+    return QFile::link(serviceFile, link);
+}
+
 bool BusDaemon::writeConfiguration(const QStringList &services) const
 {
-    const QString folder = m_folder.filePath(QStringLiteral("services"));
+    const QString folder = servicesFolder();
     bool complete = QDir().mkpath(folder);
     for (const QString &service : services) {
         const QString name = service + QStringLiteral(".service");

@@ -17,7 +17,11 @@ public:
     /// Empty when no bus could be started.
     QByteArray address() const { return m_address; }
 
+    /// The bus may also start the service that the file describes, as soon as it has read its configuration again.
+    bool install(const QString &serviceFile) const;
+
 private:
+    QString servicesFolder() const { return m_folder.filePath(QStringLiteral("services")); }
     bool writeConfiguration(const QStringList &services) const;
 
     QTemporaryDir m_folder;

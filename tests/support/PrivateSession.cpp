@@ -34,6 +34,11 @@ bool PrivateSession::start(const QStringList &services)
     return !m_bus->address().isEmpty();
 }
 
+bool PrivateSession::installService(const QString &file) const
+{
+    return m_bus->install(file);
+}
+
 void PrivateSession::stop()
 {
     m_bus.reset();

@@ -22,6 +22,9 @@ public:
     /// dataFolder()/dbus-1/services, and no others. False when no bus could be started.
     bool start(const QStringList &services = {QStringLiteral("ca.desrt.dconf")});
 
+    /// The bus may also start the service that the file describes, as soon as it has read its configuration again.
+    bool installService(const QString &file) const;
+
     /// Ends the bus. Its address stays in the environment, as it does in a real session.
     void stop();
 
