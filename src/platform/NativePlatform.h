@@ -12,9 +12,9 @@ namespace NativePlatform {
 /// First thing in `main`: makes the process safe from standard streams that are closed, or whose reader goes away.
 void secureStreams();
 
-/// The services. Each is made when it is first asked for, so making them costs nothing. A program that may be raised by a
-/// later start makes them before the application object, which takes what a start was given out of the environment; that
-/// object must exist before any service but the bundles is asked for.
+/// The services. Each is made when it is first asked for, so making them costs nothing. A program that may be raised by
+/// a later start makes them before the application object, which takes what a start was given out of the environment;
+/// that object must exist before any service but the bundles is asked for.
 std::unique_ptr<Platform> make();
 
 /// Does what a start can get done while the program still connects to the display, on a thread of its own. Nothing may

@@ -134,7 +134,6 @@ void EBWindow::makeKeyAndOrderFront()
 {
     // A new window comes up in front; one that was hidden comes back where it was among the others.
     const bool isNew = !handle();
-    setWindowStates(windowStates() & ~Qt::WindowMinimized);
     show();
     requestActivate();
     if (isNew)
