@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QMargins;
 class QWindow;
 
 /// What this application asks of the desktop. A request that the desktop cannot meet does nothing.
@@ -36,6 +37,10 @@ public:
     /// Prepares `window`, which must be hidden, to appear in front of the others, on every workspace and in no list of
     /// windows. Hiding the window undoes this: call it before each show.
     virtual void floatOnAllSpaces(QWindow &window) = 0;
+
+    /// What lies in `shadow`, along the edges of `window`, is not part of what the desktop places, and takes no clicks.
+    /// Call it before the window is shown, and again once it is on the screen: some desktops look only then.
+    virtual void setShadow(QWindow &window, const QMargins &shadow) = 0;
 
     /// Whether a window knows where on the screen it is, and goes where it is put. Where it does not, the desktop keeps
     /// the places of windows to itself.

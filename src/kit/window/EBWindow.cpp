@@ -36,12 +36,11 @@ protected:
 EBWindow::EBWindow(EBApp app, QSize contentSize, Style style) : m_app(app), m_style(style)
 {
     setFlags(Qt::Window | Qt::FramelessWindowHint);
-    resize(contentSize);
-    fixSize();
+    fixSize(contentSize);
     m_resize.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&m_resize, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &frame) { setGeometry(frame.toRect()); });
-    connect(&m_resize, &QVariantAnimation::finished, this, &EBWindow::fixSize);
+    connect(&m_resize, &QVariantAnimation::finished, this, [this] { fixSize(m_resize.endValue().toRect().size()); });
     const auto paint = [this] { setColor(EBKit::paper().current()); };
     connect(&Platform::current().appearance(), &Appearance::changed, this, paint);
     paint();
@@ -108,7 +107,7 @@ void EBWindow::setFrame(int top, int height, bool animate)
         return;
     }
     setGeometry(frame);
-    fixSize();
+    fixSize(frame.size());
 }
 
 QRect EBWindow::targetFrame() const
@@ -124,10 +123,12 @@ void EBWindow::setShortcutsEnabled(bool enabled)
     emit shortcutsEnabledChanged();
 }
 
-void EBWindow::fixSize()
+/// Not to the size that the window has: a late notice of the window manager may still tell of one on the way.
+void EBWindow::fixSize(QSize size)
 {
-    setMinimumSize(size());
-    setMaximumSize(size());
+    resize(size);
+    setMinimumSize(size);
+    setMaximumSize(size);
 }
 
 void EBWindow::makeKeyAndOrderFront()

@@ -64,7 +64,7 @@ signals:
 private:
     void addChrome(QQmlEngine *engine);
     void addItem(QQuickItem *item);
-    void fixSize();
+    void fixSize(QSize size);
 
     const EBApp m_app;
     const Style m_style;

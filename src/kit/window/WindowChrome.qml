@@ -1,7 +1,8 @@
 import QtQuick
+import Embera.Tokens
 import Embera.Window
 
-/// What a window of the kit has over its content: the three buttons and its shortcuts.
+/// What a window of the kit has over its content: its edge, the three buttons and its shortcuts.
 Item {
     id: chrome
 
@@ -20,6 +21,12 @@ Item {
         sequences: ["Ctrl+Q"]
         enabled: chrome.window.shortcutsEnabled
         onActivated: Qt.quit()
+    }
+    // Many desktops give a window without a frame no shadow: over another window of its colour it would have no end.
+    Rectangle {
+        anchors.fill: parent
+        color: "transparent"
+        border.color: EB.lineStrong
     }
     Row {
         anchors {

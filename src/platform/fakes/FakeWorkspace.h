@@ -56,6 +56,8 @@ public:
 
     void floatOnAllSpaces(QWindow &window) override { floating.append(&window); }
 
+    void setShadow(QWindow &, const QMargins &) override { }
+
     bool placesWindows() override { return places; }
 
     void bringToFront(QWindow &window) override { broughtToFront.append(&window); }

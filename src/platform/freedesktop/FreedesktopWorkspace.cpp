@@ -162,6 +162,11 @@ void FreedesktopWorkspace::floatOnAllSpaces(QWindow &window)
     X11Panel::floatOnAllDesktops(window);
 }
 
+void FreedesktopWorkspace::setShadow(QWindow &window, const QMargins &shadow)
+{
+    X11Panel::setShadow(window, shadow);
+}
+
 bool FreedesktopWorkspace::placesWindows()
 {
     return !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));

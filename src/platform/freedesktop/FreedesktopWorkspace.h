@@ -21,6 +21,7 @@ public:
     void openLoginItemsSettings() override;
     void openMissionControl() override;
     void floatOnAllSpaces(QWindow &window) override;
+    void setShadow(QWindow &window, const QMargins &shadow) override;
     bool placesWindows() override;
     void bringToFront(QWindow &window) override;
     bool blendsWindows() override;
