@@ -1,5 +1,6 @@
 #include "EndToEndTest.h"
 #include "TestProgram.h"
+#include "WindowManager.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,18 +17,16 @@ private slots:
 private:
     /// Starts the window manager, and then the program on that page.
     bool openPage(const QString &page);
-    bool isManaged() const;
     /// Whether the last tip of the Layouts page, far down, is on the screen.
     bool showsTheEnd() const;
 
-    std::unique_ptr<Program> m_manager;
+    std::unique_ptr<WindowManager> m_manager;
 };
 
 bool TestWindowManager::openPage(const QString &page)
 {
-    m_manager = std::make_unique<Program>(u"openbox"_s, desktop().environment());
-    return m_manager->start() && QTest::qWaitFor([this] { return isManaged(); })
-        && open({.environment = {{u"CV_TAB"_s, page}}})
+    m_manager = std::make_unique<WindowManager>(desktop(), u"openbox"_s);
+    return m_manager->start() && open({.environment = {{u"CV_TAB"_s, page}}})
         && QTest::qWaitFor([this] { return window()->hasInputFocus(); });
 }
 
@@ -35,16 +34,6 @@ void TestWindowManager::cleanup()
 {
     EndToEndTest::cleanup();
     m_manager.reset();
-    QTRY_VERIFY(!isManaged());
-}
-
-/// It names a window of its own, which knows its own name.
-bool TestWindowManager::isManaged() const
-{
-    const XConnection &x = desktop().x();
-    const xcb_atom_t check = x.atom("_NET_SUPPORTING_WM_CHECK");
-    const xcb_window_t own = x.number(x.root(), check);
-    return own != XCB_NONE && x.number(own, check) == own;
 }
 
 bool TestWindowManager::showsTheEnd() const

@@ -6,6 +6,7 @@
 #include "Screen.h"
 #include "Store.h"
 #include "TopLevel.h"
+#include "WindowManager.h"
 #include "XReply.h"
 
 #include <QDBusConnection>
@@ -43,6 +44,7 @@ private slots:
     void theTileIsOnEveryDesktopAboveTheOthersAndInNoList();
     void theTileNeverTakesTheKeyboard();
     void withoutACompositorTheCornersAreCutOff();
+    void withACompositorTheTileHasAShadowThroughWhichThePointerReaches();
     void theTileGoesWithSystemSettings();
     void whileSystemSettingsIsAwayTheTileIsToo();
     void droppedOntoTheListItGrantsThePermission_data();
@@ -63,6 +65,8 @@ private:
     /// The picture of the icon is on the screen, which has the pointer for so long.
     bool isDragging() const;
     QList<quint32> numbers(const char *property) const;
+    /// The window that a click there would go to.
+    xcb_window_t windowUnder(QPoint place) const;
 
     const Desktop &m_desktop;
     const Store m_store;
@@ -120,7 +124,7 @@ std::optional<TopLevel> DraggedTileTest::tile() const
 {
     const auto windows = TopLevel::ofProcess(m_desktop.x(), m_host->processId());
     for (const TopLevel &window : windows) {
-        if (window.isViewable() && window.geometry().size() == QSize(330, 76))
+        if (window.isViewable() && window.frame().size() == QSize(330, 76))
             return window;
     }
     return std::nullopt;
@@ -129,7 +133,7 @@ std::optional<TopLevel> DraggedTileTest::tile() const
 bool DraggedTileTest::tileIsAt(QPoint place) const
 {
     const auto shown = tile();
-    return shown && shown->geometry().topLeft() == place;
+    return shown && shown->frame().topLeft() == place;
 }
 
 void DraggedTileTest::moveSettings(QPoint to) const
@@ -146,6 +150,19 @@ QList<quint32> DraggedTileTest::numbers(const char *property) const
     return {first, first + bytes.size() / qsizetype(sizeof(quint32))};
 }
 
+xcb_window_t DraggedTileTest::windowUnder(QPoint place) const
+{
+    m_pointer.move(place);
+    const XConnection &x = m_desktop.x();
+    xcb_window_t under = x.root();
+    for (xcb_window_t child = under; child != XCB_NONE;) {
+        under = child;
+        const XReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(x, xcb_query_pointer(x, child), nullptr));
+        child = reply ? reply->child : XCB_NONE;
+    }
+    return under;
+}
+
 bool DraggedTileTest::isDragging() const
 {
     const auto windows = TopLevel::ofProcess(m_desktop.x(), m_host->processId());
@@ -156,7 +173,7 @@ bool DraggedTileTest::isDragging() const
 
 void DraggedTileTest::dragOntoTheList(QPoint grip)
 {
-    const QPoint start = tile()->geometry().topLeft() + grip;
+    const QPoint start = tile()->frame().topLeft() + grip;
     m_pointer.move(start);
     m_pointer.press();
     m_pointer.move(start + QPoint(2, -2));
@@ -220,7 +237,7 @@ void DraggedTileTest::theTileNeverTakesTheKeyboard()
     QVERIFY(settings()->hasInputFocus());
     // Asks a window manager to leave the focus where it is.
     QCOMPARE(numbers("_NET_WM_USER_TIME"), QList<quint32>{0});
-    m_pointer.click(tile()->geometry().center());
+    m_pointer.click(tile()->frame().center());
     const Accessible host = Accessible::application(m_host->processId());
     // The host has handled the click when it answers.
     host.name();
@@ -238,11 +255,45 @@ void DraggedTileTest::withoutACompositorTheCornersAreCutOff()
     const QRect window = settings()->geometry();
     startHost();
     QTRY_VERIFY(tileIsAt({window.x() + 75, window.y() + 312}));
-    const QRect place = tile()->geometry();
+    const QRect place = tile()->frame();
     const QColor root = m_screen.pixel({1, 1});
     QVERIFY(m_screen.waitForPixel(place.topLeft() + QPoint(165, 6), QColor(Qt::white)));
-    QCOMPARE(m_screen.pixel(place.topLeft()), root);
-    QCOMPARE(m_screen.pixel(place.bottomRight()), root);
+    const QImage picture = m_screen.picture(place.marginsAdded({24, 24, 24, 24}));
+    QCOMPARE(picture.pixelColor(24, 24), root);
+    QCOMPARE(picture.pixelColor(353, 99), root);
+    QCOMPARE(picture.pixelColor(10, 62), root);
+    // The root is black, and so would be what is not opaque: the corner has pixels of either kind and none between.
+    const QImage corner = picture.copy(24, 24, 16, 16);
+    for (int y = 0; y < corner.height(); ++y) {
+        for (int x = 0; x < corner.width(); ++x) {
+            const QColor color = corner.pixelColor(x, y);
+            QVERIFY2(color == root || color.lightness() > 200, qPrintable(color.name()));
+        }
+    }
+}
+
+void DraggedTileTest::withACompositorTheTileHasAShadowThroughWhichThePointerReaches()
+{
+    auto manager = std::make_unique<WindowManager>(m_desktop, "xfwm4");
+    QVERIFY(manager->start({"--compositor=on", "--vblank=off"}));
+    openSystemSettings();
+    startHost();
+    // There is no room below: the tile stands over the window, whose colour is known.
+    moveSettings({400, 480});
+    QTRY_COMPARE(tile()->frame().bottom(), settings()->geometry().bottom() - 16);
+    const QRect place = tile()->frame();
+    const QPoint below(place.center().x(), place.bottom() + 4);
+    const QColor paper = m_screen.pixel(settings()->geometry().topLeft() + QPoint(200, 200));
+    QTRY_VERIFY(m_screen.pixel(below).lightness() < paper.lightness());
+    QVERIFY(m_screen.pixel(below).lightness() > paper.lightness() - 60);
+    // The shadow lies over the switch's row as well, which can be used all the same.
+    const QPoint above(place.center().x(), place.top() - 2);
+    QVERIFY(tile()->geometry().contains(above));
+    QCOMPARE(windowUnder(above), settings()->id());
+
+    manager.reset();
+    QVERIFY(m_screen.waitForPixel(below, QColor("#F7F6F2")));
+    QCOMPARE(tile()->frame(), place);
 }
 
 void DraggedTileTest::theTileGoesWithSystemSettings()

@@ -65,6 +65,8 @@ private slots:
     void theIconTheTextsAndTheArrowStandWhereTheyShould();
     void whereTextRunsTheOtherWayTheTileIsMirrored();
     void theGroundIsARoundedCard();
+    void whereWindowsAreBlendedItHasASoftShadow();
+    void whereTheyAreNotEverythingInItsShapeIsOpaque();
     void theTextsFitWithAWiderFace();
     void theArrowBobsBySixPointsWhileTheTileIsShown();
     void oneWayTakesTheArrowSevenTenthsOfASecond();
@@ -117,9 +119,9 @@ void DragTileViewTest::show()
 
 void DragTileViewTest::theTileHasItsSizeAndTheContentFillsIt()
 {
-    QCOMPARE(m_panel->size(), QSize(330, 76));
-    QCOMPARE(m_panel->minimumSize(), QSize(330, 76));
-    QCOMPARE(m_panel->maximumSize(), QSize(330, 76));
+    QCOMPARE(m_panel->tile().size(), QSize(330, 76));
+    QCOMPARE(m_panel->minimumSize(), m_panel->size());
+    QCOMPARE(m_panel->maximumSize(), m_panel->size());
     QCOMPARE(view().size(), QSizeF(330, 76));
     QCOMPARE(content().size(), QSizeF(330, 76));
     view().setSize({400, 100});
@@ -164,7 +166,7 @@ void DragTileViewTest::whereTextRunsTheOtherWayTheTileIsMirrored()
 void DragTileViewTest::theGroundIsARoundedCard()
 {
     show();
-    const QImage picture = m_panel->grabWindow();
+    const QImage picture = m_panel->grabWindow().copy({{24, 24}, QSize(330, 76)});
     const QColor surface(Qt::white);
     QCOMPARE(picture.pixelColor(165, 6), surface);
     QCOMPARE(picture.pixelColor(6, 38), surface);
@@ -177,6 +179,44 @@ void DragTileViewTest::theGroundIsARoundedCard()
     QVERIFY(picture.pixelColor(0, 38) != surface);
     QCOMPARE(picture.pixelColor(1, 38), surface);
     QCOMPARE(content().property("radius").toReal(), 16.0);
+}
+
+void DragTileViewTest::whereWindowsAreBlendedItHasASoftShadow()
+{
+    m_panel->followCompositor();
+    show();
+    QVERIFY(m_panel->mask().isEmpty());
+    const QImage picture = m_panel->grabWindow();
+    QCOMPARE(picture.size(), QSize(378, 124));
+    const auto shade = [&](int x, int y) { return picture.pixelColor(x, y).alpha(); };
+    // It fades out before it reaches the edges, and falls downwards.
+    QCOMPARE(shade(189, 0), 0);
+    QCOMPARE(shade(0, 62), 0);
+    QCOMPARE(shade(0, 123), 0);
+    QVERIFY(shade(189, 101) > shade(189, 108));
+    QVERIFY(shade(189, 108) > shade(189, 115));
+    QVERIFY(shade(189, 115) > 0);
+    QVERIFY(shade(189, 101) > shade(189, 22));
+    QVERIFY(shade(189, 101) < 80);
+}
+
+void DragTileViewTest::whereTheyAreNotEverythingInItsShapeIsOpaque()
+{
+    m_platform->space.blends = false;
+    m_panel->followCompositor();
+    show();
+    const QImage picture = m_panel->grabWindow();
+    const QRegion shape = m_panel->mask();
+    QCOMPARE(shape.boundingRect(), QRect(25, 25, 328, 74));
+    for (const QRect &part : shape) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x)
+                QCOMPARE(picture.pixelColor(x, y).alpha(), 255);
+        }
+    }
+    // The tile keeps its line, a pixel further inside.
+    QVERIFY(picture.pixelColor(189, 25) != QColor(Qt::white));
+    QCOMPARE(picture.pixelColor(189, 26), QColor(Qt::white));
 }
 
 void DragTileViewTest::theTextsFitWithAWiderFace()

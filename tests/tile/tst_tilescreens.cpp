@@ -61,7 +61,7 @@ QPoint TileScreensTest::tileBeside(QPointF topLeft)
     m_platform->windows.windows = {{0, true, QRectF(topLeft, windowSize)}};
     m_tile->show();
     m_tile->reposition();
-    return m_tile->panel()->position();
+    return m_tile->panel()->tile().topLeft();
 }
 
 void TileScreensTest::theScreenOfTheWindowDecidesWhereThereIsRoom_data()

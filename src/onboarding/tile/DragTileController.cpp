@@ -106,11 +106,12 @@ void DragTileController::lookedInVain()
 void DragTileController::moveTo(const QRectF &settingsWindow)
 {
     m_watch.found();
-    const QSizeF size = m_panel->size();
+    const QSizeF size = m_panel->tile().size();
     const QPointF origin = TilePlacement::origin(settingsWindow, size, visibleFrameAround(settingsWindow));
     const QPoint position = TilePlacement::flipped({origin, size}, firstScreenHeight()).topLeft().toPoint();
-    if (m_panel->position() != position)
-        m_panel->setPosition(position);
+    if (m_panel->tile().topLeft() != position)
+        m_panel->moveTile(position);
+    m_panel->followCompositor();
     if (!m_panel->isVisible())
         m_panel->orderFront();
 }

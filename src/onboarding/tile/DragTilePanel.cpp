@@ -4,6 +4,7 @@
 #include "DragTileView.h"
 #include "EBApp.h"
 #include "Platform.h"
+#include "TileGround.h"
 #include "ViewEngine.h"
 
 #include <QGuiApplication>
@@ -11,8 +12,9 @@
 
 namespace {
 
-constexpr QSize panelSize(330, 76);
-constexpr qreal cornerRadius = 16;
+constexpr QSize tileSize(330, 76);
+constexpr QMargins shadow(TileGround::margin, TileGround::margin, TileGround::margin, TileGround::margin);
+constexpr QRect tileInPanel(QPoint(TileGround::margin, TileGround::margin), tileSize);
 
 }
 
@@ -26,9 +28,12 @@ DragTilePanel::DragTilePanel(const QUrl &appURL) : m_engine(std::make_unique<Vie
     setFormat(transparent);
     setColor(Qt::transparent);
     setTitle(EBApps::displayName(EBApp::corvane));
-    resize(panelSize);
-    setMinimumSize(panelSize);
-    setMaximumSize(panelSize);
+    const QSize size = tileSize.grownBy(shadow);
+    resize(size);
+    setMinimumSize(size);
+    setMaximumSize(size);
+    m_ground = new TileGround(contentItem());
+    m_ground->setSize(size);
 
     m_view.reset(ViewEngine::make<DragTileView>(*m_engine,
                                                 QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/Tile/DragTile.qml"),
@@ -36,26 +41,49 @@ DragTilePanel::DragTilePanel(const QUrl &appURL) : m_engine(std::make_unique<Vie
     if (QGuiApplication::isRightToLeft())
         QQmlProperty::write(m_view.get(), QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(m_view.get()));
     m_view->setParentItem(contentItem());
-    m_view->setSize(panelSize);
+    m_view->setPosition(tileInPanel.topLeft());
+    m_view->setSize(tileSize);
 }
 
 DragTilePanel::~DragTilePanel() = default;
 
+QRect DragTilePanel::tile() const
+{
+    return geometry().marginsRemoved(shadow);
+}
+
+void DragTilePanel::moveTile(QPoint topLeft)
+{
+    setPosition(topLeft - tileInPanel.topLeft());
+}
+
+void DragTilePanel::followCompositor()
+{
+    // Without blending, what is not opaque would be black: the tile stands a pixel inside its place, which is cut out
+    // of an opaque ground.
+    const bool blends = Platform::current().workspace().blendsWindows();
+    const QRect card = blends ? tileInPanel : tileInPanel.adjusted(1, 1, -1, -1);
+    m_ground->setBlended(blends);
+    m_view->setPosition(card.topLeft());
+    m_view->setSize(card.size());
+    const QPainterPath outline = continuousRect(card, TileGround::cornerRadius);
+    const QRegion shape = blends ? QRegion() : QRegion(outline.toFillPolygon().toPolygon());
+    if (mask() != shape)
+        setMask(shape);
+}
+
 void DragTilePanel::orderFront()
 {
-    cutOut();
     Platform::current().workspace().floatOnAllSpaces(*this);
+    Platform::current().workspace().setShadow(*this, shadow);
     show();
 }
 
-/// Without blending the corners would be black.
-void DragTilePanel::cutOut()
+void DragTilePanel::exposeEvent(QExposeEvent *event)
 {
-    QRegion shape;
-    if (!Platform::current().workspace().blendsWindows())
-        shape = QRegion(continuousRect(QRectF(QPointF(), panelSize), cornerRadius).toFillPolygon().toPolygon());
-    if (mask() != shape)
-        setMask(shape);
+    QQuickWindow::exposeEvent(event);
+    if (isExposed())
+        Platform::current().workspace().setShadow(*this, shadow);
 }
 
 void DragTilePanel::dispose()

@@ -37,6 +37,15 @@ QRect TopLevel::geometry() const
     return size && place ? QRect(place->dst_x, place->dst_y, size->width, size->height) : QRect();
 }
 
+QRect TopLevel::frame() const
+{
+    const QByteArray bytes = m_x->property(m_id, m_x->atom("_GTK_FRAME_EXTENTS"));
+    std::array<quint32, 4> extents = {};
+    std::memcpy(extents.data(), bytes.constData(), std::min<std::size_t>(bytes.size(), sizeof extents));
+    const auto [left, right, top, bottom] = extents;
+    return geometry().marginsRemoved({int(left), int(top), int(right), int(bottom)});
+}
+
 QString TopLevel::title() const
 {
     return QString::fromUtf8(m_x->property(m_id, m_x->atom("_NET_WM_NAME")));

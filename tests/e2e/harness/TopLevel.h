@@ -18,6 +18,8 @@ public:
 
     xcb_window_t id() const { return m_id; }
     QRect geometry() const;
+    /// The same without the shadow that the window draws itself.
+    QRect frame() const;
     QString title() const;
 
     /// The class part of WM_CLASS.
