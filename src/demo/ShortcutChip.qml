@@ -49,6 +49,9 @@ Row {
             weight: Font.DemiBold
             Accessible.ignored: true
         }
+        KeyHelp {
+            text: KeySymbols.spelled(keys.text)
+        }
     }
     EBText {
         id: name

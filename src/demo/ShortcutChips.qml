@@ -15,7 +15,7 @@ Shake {
 
     trigger: model?.nudge ?? 0
     Accessible.role: Accessible.StaticText
-    Accessible.name: known.map(hotkey => KeySymbols.spoken(ShortcutVocabulary.keys(hotkey)) + ", "
+    Accessible.name: known.map(hotkey => KeySymbols.spelled(ShortcutVocabulary.keys(hotkey)) + ", "
                                + ShortcutVocabulary.name(hotkey)).join(", ")
     Accessible.ignored: known.length === 0
 

@@ -46,7 +46,7 @@ void TestPanelSession::everyViewIsOnTheAccessibilityBus()
     QCOMPARE(row.description(), u"Is open"_s);
     QVERIFY(row.has(ATSPI_STATE_SELECTED));
     FIND(keys, ATSPI_ROLE_PANEL, "Close");
-    QCOMPARE(keys.description(), u"Command W"_s);
+    QCOMPARE(keys.description(), u"Ctrl+W"_s);
     FIND(toggle, ATSPI_ROLE_CHECK_BOX, "Close windows");
     QVERIFY(!toggle.has(ATSPI_STATE_CHECKED));
     QCOMPARE(toggle.extents().size(), QSize(36, 22));

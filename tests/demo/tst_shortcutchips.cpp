@@ -244,7 +244,7 @@ void TestShortcutChips::theRowIsOneElementForAccessibility()
     const auto *element = QAccessible::queryAccessibleInterface(&view.root());
     QVERIFY(element);
     QCOMPARE(element->role(), QAccessible::StaticText);
-    QCOMPARE(element->text(QAccessible::Name), "Command W, Close, Option Command H, Hide other apps");
+    QCOMPARE(element->text(QAccessible::Name), "Ctrl+W, Close, Ctrl+Alt+H, Hide other apps");
     QCOMPARE(element->childCount(), 0);
 }
 

@@ -471,11 +471,11 @@ void TestLayoutsPane::itsTextsStandInTheirOrder()
         "Saved layouts",
         "None yet | In Mission Control, click Save current, or a template.",
         "In Mission Control",
-        "Left or right half | Again: two thirds, then a third. | Command Left Command Right",
-        "Top or bottom half | On a side: a quarter. | Command Up Command Down",
-        "Fill the screen | Command Return",
-        "Put a saved layout back | Command 1 to Command 9",
-        "Point at a window first. Click a layout on the shelf to put its windows back, ⌥-click to delete it. Click a "
+        "Left or right half | Again: two thirds, then a third. | Ctrl+Left Ctrl+Right",
+        "Top or bottom half | On a side: a quarter. | Ctrl+Up Ctrl+Down",
+        "Fill the screen | Ctrl+Return",
+        "Put a saved layout back | Ctrl+1 to Ctrl+9",
+        "Point at a window first. Click a layout on the shelf to put its windows back, Alt-click to delete it. Click a "
         "template, then the windows that go in it, or drag a window onto a slot."};
     open();
     QTRY_COMPARE(m_pane->texts(), texts);

@@ -12,13 +12,13 @@ struct Row {
 };
 
 constexpr std::array rows = {
-    Row{"Close window", "Command W", "close"},
-    Row{"Close all windows of the app", "Option Command W", "closeAll"},
-    Row{"Minimize window", "Command M", "minimize"},
-    Row{"Full screen / maximize window", "Command F", "maximize"},
-    Row{"Hide app", "Command H", "hide"},
-    Row{"Hide other apps", "Option Command H", "hideOthers"},
-    Row{"Force-quit app", "Command Q", "kill"},
+    Row{"Close window", "Ctrl+W", "close"},
+    Row{"Close all windows of the app", "Ctrl+Alt+W", "closeAll"},
+    Row{"Minimize window", "Ctrl+M", "minimize"},
+    Row{"Full screen / maximize window", "Ctrl+F", "maximize"},
+    Row{"Hide app", "Ctrl+H", "hide"},
+    Row{"Hide other apps", "Ctrl+Alt+H", "hideOthers"},
+    Row{"Force-quit app", "Ctrl+Q", "kill"},
 };
 
 QString keyOf(const Row &row)

@@ -226,6 +226,36 @@ private slots:
         QVERIFY(wasAnnounced(item(button)));
     }
 
+    void anAnnouncementIsReadOut()
+    {
+        const Interface root = show(QStringLiteral("Announcement { }"));
+        QCOMPARE(root->childCount(), 0);
+        QAccessible::installUpdateHandler(record);
+        QQuickItem *announcement = m_window->contentItem()->childItems().constFirst();
+        for (const QString &text : {QStringLiteral("Saved"), QStringLiteral("Saved")})
+            QMetaObject::invokeMethod(announcement, "say", Q_ARG(QString, text));
+        QCOMPARE(readOut, QStringList({"Saved", "Saved"}));
+    }
+
+    void keySymbolsAreReadOutAsTheKeysHere_data()
+    {
+        QTest::addColumn<QString>("qml");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("cap") << QStringLiteral("KeyCap { keys: '⌘W' }") << "Ctrl+W";
+        QTest::newRow("note") << QStringLiteral("EBNote { text: '⌥-click' }") << "Alt-click";
+        QTest::newRow("detail of a row") << QStringLiteral("EBRow { title: 'Close'; detail: 'As ⌘W' }") << "As Ctrl+W";
+        QTest::newRow("text of a stage") << QStringLiteral(
+            "EBStageScreen { app: 'corvane'; title: 'Try'; text: 'Press ⌘W' }")
+                                         << "Press Ctrl+W";
+    }
+    void keySymbolsAreReadOutAsTheKeysHere()
+    {
+        QFETCH(const QString, qml);
+        QFETCH(const QString, text);
+        const Interface root = show(qml);
+        QVERIFY((names(root) + names(root->child(0))).contains(text));
+    }
+
     void aLiveTextIsReadOutWhenItChanges()
     {
         show(QStringLiteral("EBStageScreen { app: 'corvane'; title: 'Title'; text: 'Before'; isLive: true }"));

@@ -61,6 +61,25 @@ KitTestCase {
         comparePixel(cap, 3, 11, over(EB.chip, EB.paper));
     }
 
+    function tip() {
+        return findText(testCase.Window.contentItem, "Ctrl+W");
+    }
+    function findText(item, text) {
+        if (item instanceof Text && item.text === text)
+            return item;
+        return Array.from(item.children).reduce((found, child) => found ?? findText(child, text), null);
+    }
+
+    function test_a_tool_tip_says_which_keys_these_are_here() {
+        compare(cap.Accessible.name, "Ctrl+W");
+        verify(!tip());
+        mouseMove(cap, 10, 10);
+        tryVerify(() => tip());
+        verify(tip().mapToItem(testCase, 0, tip().height).y <= cap.y);
+        mouseMove(testCase, testCase.width - 1, testCase.height - 1);
+        tryVerify(() => !tip());
+    }
+
     function test_its_corners_have_a_radius_of_six() {
         compare(cap.radius, 6);
         comparePixel(cap, 0, 0, EB.paper);

@@ -19,7 +19,8 @@ EBKitKeyRow::EBKitKeyRow(EBKitText keys, EBKitText title, EBKitSwitch *toggle, Q
     toggle->setParent(this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAccessibleName(m_title.string);
-    setAccessibleDescription(KeySymbols::spoken(m_keys.string));
+    setAccessibleDescription(KeySymbols::spelled(m_keys.string));
+    setToolTip(accessibleDescription());
 }
 
 QSizeF EBKitKeyRow::capSize() const

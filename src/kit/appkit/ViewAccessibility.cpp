@@ -61,7 +61,7 @@ public:
     {
         const auto *row = qobject_cast<const EBKitMenuRow *>(widget());
         if (row && row->shortcut() && name == pressAction())
-            return {KeySymbols::spoken(row->shortcut()->string)};
+            return {KeySymbols::spelled(row->shortcut()->string)};
         return QAccessibleWidget::keyBindingsForAction(name);
     }
 

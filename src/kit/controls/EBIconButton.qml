@@ -36,6 +36,6 @@ Pressable {
 
     Loader {
         active: control.hovered || control.visualFocus
-        Component.onCompleted: setSource("EBToolTip.qml", {control: control})
+        Component.onCompleted: setSource("EBToolTip.qml", {target: control})
     }
 }

@@ -3,17 +3,18 @@ import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 
-/// Says what a button does that shows no text, above it. It comes up once the pointer has rested on the button for a
-/// moment, or the keyboard has brought the focus to it, and goes with them.
+/// A few words about an item, above it. They come up a moment after the tip was made: whoever makes it does so when the
+/// pointer or the keyboard focus comes, and drops it when they go.
 T.ToolTip {
     id: tip
 
-    required property T.AbstractButton control
+    /// The item, with a `text`, which is what the tip says.
+    required property var target
 
-    parent: control
-    x: (control.width - width) / 2
+    parent: target
+    x: (target.width - width) / 2
     y: -height - 4
-    text: control.text
+    text: target.text
     // It stays inside the window.
     margins: 6
     horizontalPadding: 8
@@ -23,7 +24,7 @@ T.ToolTip {
     delay: 700
     // Nothing but the pointer and the focus ends it.
     closePolicy: T.Popup.NoAutoClose
-    visible: control.hovered || control.visualFocus
+    Component.onCompleted: open()
 
     background: ContinuousRectangle {
         radius: 6

@@ -2,7 +2,7 @@ import QtQuick
 import Embera.Tokens
 import Embera.Controls
 
-/// A key combination in key symbols, on a cap; it is read out in words.
+/// A key combination in key symbols, on a cap. Which keys these are here stands in a tool tip and is read out.
 ContinuousRectangle {
     id: cap
 
@@ -13,7 +13,7 @@ ContinuousRectangle {
     radius: KitMetrics.keyCapRadius
     color: EB.chip
     Accessible.role: Accessible.StaticText
-    Accessible.name: KeySymbols.spoken(keys)
+    Accessible.name: KeySymbols.spelled(keys)
 
     EBText {
         id: text
@@ -23,5 +23,8 @@ ContinuousRectangle {
         role: "small"
         weight: Font.DemiBold
         Accessible.ignored: true
+    }
+    KeyHelp {
+        text: KeySymbols.spelled(cap.keys)
     }
 }

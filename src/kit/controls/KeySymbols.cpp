@@ -1,28 +1,63 @@
 #include "KeySymbols.h"
 
+#include <QKeySequence>
+#include <QRegularExpression>
+
 #include <array>
 
 namespace {
 
 struct Symbol {
     char16_t symbol;
-    const char *word;
+    int key;
 };
 
 constexpr std::array symbols = {
-    Symbol{u'⌘', QT_TRANSLATE_NOOP("KeySymbols", "Command")}, Symbol{u'⌥', QT_TRANSLATE_NOOP("KeySymbols", "Option")},
-    Symbol{u'⌃', QT_TRANSLATE_NOOP("KeySymbols", "Control")}, Symbol{u'⇧', QT_TRANSLATE_NOOP("KeySymbols", "Shift")},
-    Symbol{u'↩', QT_TRANSLATE_NOOP("KeySymbols", "Return")},  Symbol{u'←', QT_TRANSLATE_NOOP("KeySymbols", "Left")},
-    Symbol{u'→', QT_TRANSLATE_NOOP("KeySymbols", "Right")},   Symbol{u'↑', QT_TRANSLATE_NOOP("KeySymbols", "Up")},
-    Symbol{u'↓', QT_TRANSLATE_NOOP("KeySymbols", "Down")},    Symbol{u'…', QT_TRANSLATE_NOOP("KeySymbols", "to")},
+    // Qt's Control is the key that stands for Command on every desktop.
+    Symbol{u'⌘', Qt::CTRL},      Symbol{u'⌥', Qt::ALT},        Symbol{u'⌃', Qt::META},
+    Symbol{u'⇧', Qt::SHIFT},     Symbol{u'↩', Qt::Key_Return}, Symbol{u'←', Qt::Key_Left},
+    Symbol{u'→', Qt::Key_Right}, Symbol{u'↑', Qt::Key_Up},     Symbol{u'↓', Qt::Key_Down},
 };
+
+/// Symbols, with a letter or a digit after them if there is one: "⌥⌘W", "⌘←", or the "⌥" of "⌥-click".
+const QRegularExpression &combination()
+{
+    static const QRegularExpression expression(QStringLiteral("[⌘⌥⌃⇧↩←→↑↓]+[A-Z0-9]?"));
+    return expression;
+}
+
+QString named(QStringView combination)
+{
+    int keys = 0;
+    for (const QChar key : combination) {
+        const auto found =
+            std::find_if(symbols.begin(), symbols.end(), [&](const Symbol &symbol) { return symbol.symbol == key; });
+        keys |= found == symbols.end() ? key.unicode() : found->key;
+    }
+    QString name = QKeySequence(keys).toString(QKeySequence::NativeText);
+    if (name.endsWith(u'+'))
+        name.chop(1);
+    return name;
+}
 
 }
 
-QString KeySymbols::spoken(const QString &keys)
+QString KeySymbols::spelled(const QString &text)
 {
-    QString words = keys;
-    for (const Symbol &symbol : symbols)
-        words.replace(QChar(symbol.symbol), tr(symbol.word) + u' ');
-    return words.simplified();
+    QString spelled;
+    qsizetype end = 0;
+    for (const QRegularExpressionMatch &match : combination().globalMatch(text)) {
+        spelled += QStringView(text).mid(end, match.capturedStart() - end) + named(match.capturedView());
+        end = match.capturedEnd();
+    }
+    spelled += QStringView(text).mid(end);
+    return spelled.replace(QStringLiteral(" … "), tr(" to "));
+}
+
+QString KeySymbols::keysIn(const QString &text)
+{
+    QStringList keys;
+    for (const QRegularExpressionMatch &match : combination().globalMatch(text))
+        keys.append(named(match.capturedView()));
+    return keys.join(QStringLiteral(", "));
 }

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <qqmlregistration.h>
 
-/// Key symbols as words.
+/// Key symbols as the keys that they stand for on the keyboards of this desktop.
 class KeySymbols : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -11,6 +11,10 @@ class KeySymbols : public QObject {
 public:
     using QObject::QObject;
 
-    /// "⌥⌘W" as "Option Command W", for those who hear it. What is no symbol stays as it is.
-    Q_INVOKABLE static QString spoken(const QString &keys);
+    /// A text with the keys in place of the symbols: "Press Ctrl+Alt+W." for "Press ⌥⌘W.", and
+    /// "Ctrl+1 to Ctrl+9" for "⌘1 … ⌘9".
+    Q_INVOKABLE static QString spelled(const QString &text);
+
+    /// The keys alone, "Ctrl+Alt+W"; empty for a text without key symbols.
+    Q_INVOKABLE static QString keysIn(const QString &text);
 };

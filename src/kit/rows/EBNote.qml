@@ -4,6 +4,8 @@ import Embera.Controls
 
 /// A muted remark below a group. It wraps.
 EBText {
+    id: note
+
     role: "caption"
     color: EB.inkMuted
     horizontalAlignment: Text.AlignLeft
@@ -11,6 +13,10 @@ EBText {
     leftPadding: KitMetrics.rowInset
     rightPadding: KitMetrics.rowInset
     Accessible.role: Accessible.StaticText
-    Accessible.name: text
+    Accessible.name: KeySymbols.spelled(text)
     width: parent?.width ?? implicitWidth
+
+    KeyHelp {
+        text: KeySymbols.keysIn(note.text)
+    }
 }

@@ -7,5 +7,5 @@ EBRowContent {
     minHeight: KitMetrics.rowHeight
     Accessible.role: Accessible.Grouping
     Accessible.name: title
-    Accessible.description: detail
+    Accessible.description: KeySymbols.spelled(detail)
 }

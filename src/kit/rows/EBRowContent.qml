@@ -70,9 +70,13 @@ Item {
                 role: "caption"
                 color: EB.inkMuted
                 Accessible.role: Accessible.StaticText
-                Accessible.name: text
+                Accessible.name: KeySymbols.spelled(text)
                 visible: text !== ""
                 Accessible.ignored: !visible
+
+                KeyHelp {
+                    text: KeySymbols.keysIn(detailText.text)
+                }
             }
         }
         Row {

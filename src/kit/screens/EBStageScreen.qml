@@ -84,9 +84,13 @@ Rectangle {
             topPadding: 4
             color: EB.inkMuted
             Accessible.role: screen.isLive ? Accessible.Notification : Accessible.StaticText
-            Accessible.name: text
+            Accessible.name: KeySymbols.spelled(text)
             Accessible.onNameChanged: if (screen.isLive)
                 Announcer.announce(paragraph)
+
+            KeyHelp {
+                text: KeySymbols.keysIn(paragraph.text)
+            }
         }
         Item {
             width: parent.width
