@@ -1,6 +1,7 @@
 #include "DemoModel.h"
 
 #include "Platform.h"
+#include "ShortcutVocabulary.h"
 
 namespace {
 
@@ -110,6 +111,7 @@ void DemoModel::apply(Hotkey hotkey, int id)
             win.state = endsFullScreen ? State::normal : effect.state;
     }
     setWins(wins);
+    emit reported(ShortcutVocabulary::report(hotkey, *find(wins, id)));
     if (effect.task)
         insertDone(*effect.task);
     if (m_hovered == id && !find(wins, id)->isVisible())
@@ -142,6 +144,7 @@ void DemoModel::press(Hotkey hotkey)
     pulse(hotkey);
     ++m_nudge;
     emit nudgeChanged();
+    emit reported(tr("Point at a window first."));
 }
 
 void DemoModel::enter(int id)

@@ -77,6 +77,8 @@ signals:
     void flashChanged();
     void nudgeChanged();
     void springChanged();
+    /// A shortcut was performed, or pressed in vain; `report` says what came of it, translated.
+    void reported(const QString &report);
 
 private:
     QVariantList winList() const;

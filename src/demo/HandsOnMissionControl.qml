@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Embera.Controls
 import Corvane.Shared
 import Corvane.Demo
 
@@ -21,6 +22,16 @@ Item {
     ShortcutMonitor {
         model: surface.model
         active: surface.visible && surface.enabled && surface.Window.visibility !== Window.Hidden
+    }
+    Announcement {
+        id: announcement
+    }
+    Connections {
+        target: surface.model
+
+        function onReported(report: string) {
+            announcement.say(report);
+        }
     }
     Grid {
         id: grid

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "DemoWin.h"
+#include "Hotkey.h"
+
 #include <QObject>
 #include <qqmlregistration.h>
 
@@ -16,4 +19,7 @@ public:
     Q_INVOKABLE static QString keys(const QString &hotkey);
     /// What the shortcut does, in a few words, translated.
     Q_INVOKABLE static QString name(const QString &hotkey);
+
+    /// What a shortcut has done to a window, which is given as it is now, for those who do not see it; translated.
+    static QString report(Hotkey hotkey, const DemoWin &win);
 };

@@ -19,6 +19,9 @@ Pressable {
     Accessible.name: qsTr("%1 look").arg(text)
     Accessible.selectable: true
     Accessible.selected: isChosen
+    Accessible.checkable: true
+    Accessible.checked: isChosen
+    EBAccessible.role: Accessible.RadioButton
 
     contentItem: Column {
         spacing: 6

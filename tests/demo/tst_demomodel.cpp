@@ -43,6 +43,10 @@ private slots:
     void aModelThatIsGoneIsNotCalled();
     void nothingWaitsWhileNothingIsLit();
 
+    void everyShortcutIsReportedBeforeWhatItLeadsTo_data();
+    void everyShortcutIsReportedBeforeWhatItLeadsTo();
+    void aShortcutInVainIsReportedToo();
+
     void pressingWithoutAHoverOnlyLightsAndCounts();
     void pressingOverAWindowActsOnIt();
     void pressingOverAWindowThatIsGoneBringsNothingBack_data();
@@ -312,6 +316,46 @@ void TestDemoModel::nothingWaitsWhileNothingIsLit()
     QCOMPARE(m_platform->queue.waiting(), 1);
     m_platform->queue.advance(0.45);
     QCOMPARE(m_platform->queue.waiting(), 0);
+}
+
+void TestDemoModel::everyShortcutIsReportedBeforeWhatItLeadsTo_data()
+{
+    QTest::addColumn<QList<Hotkey>>("hotkeys");
+    QTest::addColumn<QString>("report");
+    const auto row = [](const QList<Hotkey> &hotkeys, const char *report) {
+        QTest::newRow(report) << hotkeys << QString(report);
+    };
+    row({Hotkey::close}, "Start page closed");
+    row({Hotkey::closeAll}, "All windows of Browser closed");
+    row({Hotkey::minimize}, "Start page minimized");
+    row({Hotkey::maximize}, "Start page full screen");
+    row({Hotkey::maximize, Hotkey::maximize}, "Start page no longer full screen");
+    row({Hotkey::hide}, "Browser hidden");
+    row({Hotkey::hideOthers}, "All but Browser hidden");
+    row({Hotkey::kill}, "Browser quit");
+}
+
+void TestDemoModel::everyShortcutIsReportedBeforeWhatItLeadsTo()
+{
+    QFETCH(const QList<Hotkey>, hotkeys);
+    QStringList heard;
+    connect(m_model.get(), &DemoModel::reported, this, [&](const QString &report) { heard.append(report); });
+    connect(m_model.get(), &DemoModel::doneChanged, this, [&] { heard.append("done"); });
+    for (const Hotkey hotkey : hotkeys) {
+        heard.clear();
+        m_model->apply(hotkey, 0);
+    }
+    QTEST(heard.constFirst(), "report");
+    QCOMPARE(heard.count("done") + 1, heard.size());
+}
+
+void TestDemoModel::aShortcutInVainIsReportedToo()
+{
+    const QSignalSpy reports(m_model.get(), &DemoModel::reported);
+    m_model->press(Hotkey::close);
+    QCOMPARE(reports, QList<QVariantList>{{"Point at a window first."}});
+    m_model->apply(Hotkey::close, 6);
+    QCOMPARE(reports.size(), 1);
 }
 
 void TestDemoModel::pressingWithoutAHoverOnlyLightsAndCounts()

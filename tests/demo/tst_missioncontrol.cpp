@@ -45,6 +45,7 @@ class TestMissionControl : public QObject {
 
 private slots:
     void initTestCase();
+    void whatAShortcutDidIsReadOut();
     void theGridIsTwoRowsOfThreeInTheMiddle();
     void everyPlaceShowsTheWindowOfItsId();
     void aWindowShowsItsTextsAndItsGlyph();
@@ -181,6 +182,16 @@ void TestMissionControl::initTestCase()
     FakePlatform::install();
     installKitAccessibility();
     QAccessible::setActive(true);
+}
+
+void TestMissionControl::whatAShortcutDidIsReadOut()
+{
+    const std::unique_ptr<DemoView> view(make());
+    view->model().enter(1);
+    QVERIFY(view->press(keyW));
+    QVERIFY(view->item("Sketches closed", QAccessible::Notification));
+    QVERIFY(view->press(keyM));
+    QVERIFY(view->item("Point at a window first.", QAccessible::Notification));
 }
 
 void TestMissionControl::theGridIsTwoRowsOfThreeInTheMiddle()

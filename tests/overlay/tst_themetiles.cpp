@@ -48,12 +48,12 @@ private slots:
     void tabStopsOnceAtTheMarkedTile();
     void withoutAMarkedTileTabStopsAtTheFirst();
     void theFocusOfTheKeyboardShowsAsARing();
-    void everyTileIsOneButtonThatCanBeSelected();
+    void everyTileIsOneRadioButton();
     void theDefaultActionChooses();
 
 private:
     void show(const QVariantMap &properties = {}, qreal width = 354);
-    QQuickItem *tile(int place) { return m_view->item(titles.at(place) + " look", QAccessible::Button); }
+    QQuickItem *tile(int place) { return m_view->item(titles.at(place) + " look", QAccessible::RadioButton); }
     bool isChosen(int place) { return tile(place)->property("isChosen").toBool(); }
     /// The strip behind the buttons of a tile.
     ContinuousRectangle *strip(int place) { return shapes("strip").at(place); }
@@ -299,11 +299,13 @@ void ThemeTilesTest::theFocusOfTheKeyboardShowsAsARing()
     QVERIFY(isNear(m_view->pixel(strip(1), above), EBKit::paper().current()));
 }
 
-void ThemeTilesTest::everyTileIsOneButtonThatCanBeSelected()
+void ThemeTilesTest::everyTileIsOneRadioButton()
 {
     show({{"themeRaw", "graphite"}});
     for (int place = 0; place < 5; ++place) {
         const auto *element = QAccessible::queryAccessibleInterface(tile(place));
+        QVERIFY(element->state().checkable);
+        QCOMPARE(bool(element->state().checked), place == 2);
         QVERIFY(element->state().selectable);
         QCOMPARE(bool(element->state().selected), place == 2);
         QCOMPARE(element->childCount(), 0);

@@ -10,6 +10,7 @@ class TestScreenTree : public QObject {
 private slots:
     void everyScreenIsReadInItsOrder_data();
     void everyScreenIsReadInItsOrder();
+    void theMainButtonOfALoudScreenSaysItsText();
 };
 
 namespace {
@@ -88,6 +89,20 @@ void TestScreenTree::everyScreenIsReadInItsOrder()
     ScreenView view(qml, {560, 388});
     view.show();
     QCOMPARE(outline(QAccessible::queryAccessibleInterface(&view.window())).join(u'\n'), tree.join(u'\n'));
+}
+
+void TestScreenTree::theMainButtonOfALoudScreenSaysItsText()
+{
+    ScreenView view("EBLoudScreen { app: 'corvane'; appeared: true; copy: 'Copy'; button: 'Begin'; secondary: 'No' }",
+                    {560, 388});
+    view.show();
+    const QAccessibleInterface *window = QAccessible::queryAccessibleInterface(&view.window());
+    QStringList descriptions;
+    for (int place = 0; place < window->childCount(); ++place) {
+        if (window->child(place)->role() == QAccessible::Button)
+            descriptions.append(window->child(place)->text(QAccessible::Description));
+    }
+    QCOMPARE(descriptions, QStringList({"Copy", ""}));
 }
 
 CORVANE_TEST(TestScreenTree, runInGui)

@@ -44,7 +44,7 @@ private:
     bool isShown(const QString &text) { return m_pane->isShown(text); }
     bool isOn(const QString &name) { return m_pane->isChecked(name); }
     bool isSegmentOn(const QString &name) { return m_pane->isChecked(name, QAccessible::RadioButton); }
-    bool isTileChosen(const QString &title) { return m_pane->state(title + " look", QAccessible::Button).selected; }
+    bool isTileChosen(const QString &title) { return m_pane->state(title + " look", QAccessible::RadioButton).checked; }
     void press(QQuickItem *item) { m_pane->click(item); }
     /// The buttons of the preview.
     FoundItems<DemoButton> previewed()
@@ -179,7 +179,7 @@ void TestButtonsPane::choosingAThemeStoresItAndTellsTheAgent()
     QFETCH(const QString, title);
     QFETCH(const QString, stored);
     QFETCH(const QString, description);
-    press(control(title + " look", QAccessible::Button));
+    press(control(title + " look", QAccessible::RadioButton));
     QCOMPARE(m_store->value("buttonTheme"), QVariant(stored));
     QCOMPARE(commands(), onceApplySettings);
     QVERIFY(isTileChosen(title));
@@ -253,7 +253,7 @@ void TestButtonsPane::everyChoiceIsToldOnceAndAfterItIsStored()
         stored = {m_store->value("buttonTheme"), m_store->value("buttonSizeOption"),
                   m_store->value("showMinimizeButton"), m_store->value("showMaximizeButton")};
     });
-    press(control("Soft look", QAccessible::Button));
+    press(control("Soft look", QAccessible::RadioButton));
     QCOMPARE(stored.at(0), QVariant("soft"));
     press(control("Large", QAccessible::RadioButton));
     QCOMPARE(stored.at(1), QVariant("large"));
@@ -266,7 +266,7 @@ void TestButtonsPane::everyChoiceIsToldOnceAndAfterItIsStored()
 
 void TestButtonsPane::choosingWhatIsChosenAlreadyStoresItAndTellsNobody()
 {
-    press(control("Classic look", QAccessible::Button));
+    press(control("Classic look", QAccessible::RadioButton));
     press(control("Medium", QAccessible::RadioButton));
     press(control("Own Space", QAccessible::RadioButton));
     const QVariantMap stored = {
@@ -277,7 +277,7 @@ void TestButtonsPane::choosingWhatIsChosenAlreadyStoresItAndTellsNobody()
 
 void TestButtonsPane::theArrowKeysChooseToo()
 {
-    control("Classic look", QAccessible::Button)->forceActiveFocus(Qt::TabFocusReason);
+    control("Classic look", QAccessible::RadioButton)->forceActiveFocus(Qt::TabFocusReason);
     m_pane->pressKey(Qt::Key_Right);
     m_pane->pressKey(Qt::Key_Right);
     QCOMPARE(m_store->value("buttonTheme"), QVariant("graphite"));
@@ -315,7 +315,7 @@ void TestButtonsPane::anUnknownThemeShowsClassicAndIsKeptUntilATileIsPicked()
     QCOMPARE(m_store->value("buttonTheme"), QVariant("neon"));
     press(control("Large", QAccessible::RadioButton));
     QCOMPARE(m_store->value("buttonTheme"), QVariant("neon"));
-    press(control("Classic look", QAccessible::Button));
+    press(control("Classic look", QAccessible::RadioButton));
     QCOMPARE(m_store->value("buttonTheme"), QVariant("classic"));
     QCOMPARE(commands(), onceApplySettings + onceApplySettings + onceApplySettings);
 }
@@ -347,7 +347,7 @@ void TestButtonsPane::valuesOfAnotherTypeShowTheirDefaultsAndStay()
     QVERIFY(!isOn("Minimize button"));
     QCOMPARE(m_store->value("buttonTheme"), QVariant(true));
     QCOMPARE(m_store->value("showMinimizeButton"), QVariant("yes"));
-    press(control("Classic look", QAccessible::Button));
+    press(control("Classic look", QAccessible::RadioButton));
     QCOMPARE(m_store->value("buttonTheme"), QVariant("classic"));
 }
 

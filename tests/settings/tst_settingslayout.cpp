@@ -18,6 +18,7 @@ private slots:
     void theHeadingIsSetInTheDisplayFace();
     void aSearchThatHidesTheShownPageLeavesItAsItIs();
     void aSearchWithoutResultLeavesThePageAsItIs();
+    void aPageChosenFromTheSearchFieldIsReadOut();
 
     void aPageIsMadeAnewEachTimeItIsShown();
     void theWindowsOwnButtonsHaveTheRingOfTheProduct();
@@ -120,6 +121,21 @@ void TestSettingsLayout::aSearchWithoutResultLeavesThePageAsItIs()
     QVERIFY(settings.label("Settings · 04"));
     QVERIFY(settings.heading("Layouts"));
     QCOMPARE(settings.window().size(), window);
+}
+
+void TestSettingsLayout::aPageChosenFromTheSearchFieldIsReadOut()
+{
+    SettingsWindow settings;
+    settings.search("min");
+    settings.pressKey(Qt::Key_Down);
+    QVERIFY(settings.item("Buttons", QAccessible::Notification));
+    settings.pressKey(Qt::Key_Down);
+    QVERIFY(settings.item("Shortcuts", QAccessible::Notification));
+    // In the list the focus goes along, and what has it is read by itself.
+    settings.entry("Shortcuts")->forceActiveFocus();
+    settings.pressKey(Qt::Key_Up);
+    QVERIFY(settings.heading("Buttons"));
+    QVERIFY(settings.item("Shortcuts", QAccessible::Notification));
 }
 
 void TestSettingsLayout::aPageIsMadeAnewEachTimeItIsShown()

@@ -152,6 +152,8 @@ FocusScope {
             anchors.left: parent.left
             variant: "onLoud"
             focus: true
+            // The focus begins here, and what has it is all that is read out by itself.
+            Accessible.description: paragraph.text
             onClicked: screen.action()
 
             // The kit's own ring has the accent colour, which is lost on the loud one.

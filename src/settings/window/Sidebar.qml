@@ -24,6 +24,11 @@ Item {
     function move(step: int) {
         picked(pages.neighbour(selection, step));
     }
+    /// The focus stays in the search field, so that nothing tells by itself which page has come up.
+    function moveFromSearch(step: int) {
+        move(step);
+        announcement.say(pages.title(selection));
+    }
 
     implicitWidth: 178
     implicitHeight: list.y + list.implicitHeight + 8 + footer.height + 12
@@ -45,8 +50,11 @@ Item {
         }
         placeholder: qsTr("Search")
         onTextChanged: sidebar.pages.search = text
-        onMovedUp: sidebar.move(-1)
-        onMovedDown: sidebar.move(1)
+        onMovedUp: sidebar.moveFromSearch(-1)
+        onMovedDown: sidebar.moveFromSearch(1)
+    }
+    Announcement {
+        id: announcement
     }
     FocusScope {
         id: list

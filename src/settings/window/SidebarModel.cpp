@@ -49,6 +49,15 @@ QHash<int, QByteArray> SidebarModel::roleNames() const
     return {{IdRole, "pageId"}, {TitleRole, "title"}, {GlyphRole, "glyph"}};
 }
 
+QString SidebarModel::title(const QString &id) const
+{
+    for (const EBSettingsPage &page : m_pages) {
+        if (page.id == id)
+            return page.title;
+    }
+    return {};
+}
+
 QString SidebarModel::neighbour(const QString &id, int step) const
 {
     if (m_shown.isEmpty())

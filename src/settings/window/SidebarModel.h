@@ -24,6 +24,9 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+    /// The title of the page with that id; empty when there is none.
+    Q_INVOKABLE QString title(const QString &id) const;
+
     /// The id of the listed page `step` places below the page `id`, stopping at both ends. A page that is not
     /// listed counts as standing above the first; in an empty list the id itself.
     Q_INVOKABLE QString neighbour(const QString &id, int step) const;
