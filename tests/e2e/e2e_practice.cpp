@@ -189,7 +189,7 @@ void TestPractice::shortcutsArePlacesOfTheKeyboardInEveryLayout()
 void TestPractice::aShortcutOverNoWindowShakesTheChipsAndChangesNothing()
 {
     QVERIFY(openPractice());
-    FIND(chips, ATSPI_ROLE_LABEL, "Command W, Close, Command M, Minimize, Command F, Full screen");
+    FIND(chips, ATSPI_ROLE_LABEL, "Ctrl+W, Close, Ctrl+M, Minimize, Ctrl+F, Full screen");
     // The end of the row, whose chip is not the one that lights up.
     const QRect row = chips.extents();
     const QRect end(row.right() - 40, row.top(), 50, row.height());

@@ -86,7 +86,7 @@ void TestButtonsPane::anEmptyStoreShowsTheDefaults()
     QVERIFY(!isOn("Full screen button"));
     QVERIFY(isSegmentOn("Own Space"));
     QVERIFY(isShown("Next to Close, which is always there."));
-    QVERIFY(isShown("For the full-screen button and ⌘F."));
+    QVERIFY(isShown("For the full-screen button and Ctrl+F."));
     QCOMPARE(previewed().size(), 1);
     QCOMPARE(previewed().constFirst()->property("kind").toString(), "close");
     QVERIFY(m_store->values.isEmpty());

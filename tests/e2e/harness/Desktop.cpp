@@ -43,7 +43,9 @@ Desktop::Desktop() : m_x(m_display.name())
     for (const char *name : foreign)
         qunsetenv(name);
     qputenv("DISPLAY", m_display.name());
-    const bool hasBus = m_session.start({QStringLiteral("ca.desrt.dconf"), QStringLiteral("org.a11y.Bus")});
+    // The last one keeps the settings of the window manager.
+    const bool hasBus = m_session.start(
+        {QStringLiteral("ca.desrt.dconf"), QStringLiteral("org.a11y.Bus"), QStringLiteral("org.xfce.Xfconf")});
     m_isValid = m_x.isValid() && hasBus;
 }
 
