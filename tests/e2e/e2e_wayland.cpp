@@ -142,7 +142,7 @@ void TestWayland::theWholeJourneyByPointer()
     const QPoint button = middle - first.extents().center() + first.extents().topLeft() - QPoint(3, 9);
     QVERIFY(screen().waitForPixel(button, QColor("#EC4640")));
     pointer().click(button);
-    QVERIFY(shows(u"Now hover another window and press ⌘M to minimize it."_s));
+    QVERIFY(shows(u"Now hover another window and press Ctrl+M to minimize it."_s));
     QVERIFY(clickButton(u"Continue"_s));
 
     QVERIFY(clickButton(u"Open System Settings"_s));
