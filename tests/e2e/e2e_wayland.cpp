@@ -159,7 +159,8 @@ void TestWayland::theWholeJourneyByPointer()
     QVERIFY(store().waitFor(u"agent.accessibilityTrusted"_s, true));
 
     QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
-    QVERIFY(clickButton(u"Soft look"_s));
+    FIND(soft, ATSPI_ROLE_RADIO_BUTTON, "Soft look");
+    pointer().click(place(soft));
     QVERIFY(store().waitFor(u"buttonTheme"_s, u"soft"_s));
     QVERIFY(clickButton(u"Looks Good"_s));
     QVERIFY(clickButton(u"Open Mission Control"_s));
