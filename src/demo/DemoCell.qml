@@ -37,6 +37,19 @@ Item {
         if (focused?.model.hovered === -1)
             focused.model.enter(focused.win.id);
     }
+    /// The focus has gone elsewhere: what is under the pointer counts, this window or another.
+    function hoverThePointed() {
+        if (isPointerHere)
+            return;
+        model?.leave(win.id);
+        // When the window itself went, nothing is hovered.
+        const cells = isVisible && model?.hovered === -1 ? parent?.children ?? [] : [];
+        for (let i = 0; i < cells.length; ++i) {
+            const other = cells[i] as DemoCell;
+            if (other?.isPointerHere && other.isVisible)
+                model.enter(other.win.id);
+        }
+    }
 
     implicitWidth: 128
     implicitHeight: 74
@@ -194,7 +207,7 @@ Item {
                                        qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
         Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
         EBAccessible.role: Accessible.Grouping
-        onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.model?.leave(cell.win.id)
+        onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.hoverThePointed()
         onVisibleChanged: if (!visible && activeFocus)
             cell.forceActiveFocus(Qt.OtherFocusReason)
 

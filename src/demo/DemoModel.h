@@ -22,7 +22,7 @@ class DemoModel : public QObject {
     QML_ELEMENT
     /// The windows in the order in which they are shown: a list of `demoWin`.
     Q_PROPERTY(QVariantList wins READ winList NOTIFY winsChanged)
-    /// The id of the window under the pointer, also of one that is not visible any more; -1 for none.
+    /// The id of the window under the pointer, -1 for none. The empty place of a window that is gone is none.
     Q_PROPERTY(int hovered READ hoveredId NOTIFY hoveredChanged)
     /// What has been practised at least once, in the order of the tasks. It only grows.
     Q_PROPERTY(QStringList done READ doneNames NOTIFY doneChanged)

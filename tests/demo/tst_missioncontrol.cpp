@@ -113,6 +113,7 @@ private slots:
 
     void theKeyboardFocusHovers();
     void thePointerThatLeavesGivesTheHoverBackToTheFocus();
+    void theFocusThatLeavesGivesTheHoverBackToThePointer();
     void aViewThatGoesGivesNothingBackToTheFocus();
     void aShortcutOverTheWindowThatWasClosedNudgesInSpiteOfAFocus();
     void theFocusShowsARing();
@@ -147,6 +148,16 @@ private:
         QStringList kinds;
         for (const DemoButton *button : buttons(view, id))
             kinds.append(button->property("kind").toString());
+        return kinds;
+    }
+    /// The buttons whose pixels are blended, as they must be at any size but their own.
+    static QStringList blended(DemoView &view, int id)
+    {
+        QStringList kinds;
+        for (const DemoButton *button : buttons(view, id)) {
+            if (button->property("isScaled").toBool())
+                kinds.append(button->property("kind").toString());
+        }
         return kinds;
     }
     static QPointF middle(QQuickItem *item) { return {item->width() / 2, item->height() / 2}; }
@@ -492,9 +503,11 @@ void TestMissionControl::theButtonsGrowFromTheirLeadingEdge()
         const QRectF shown = view->rectOf(cluster, cell(*view, 4));
         QVERIFY(std::abs(shown.left() + 13) < 1e-6);
         QVERIFY(std::abs(shown.center().y() + 2) < 1e-6);
+        QCOMPARE(blended(*view, 4), QStringList({"close", "minimize", "maximize"}));
     }
     clock.advance(2000);
     QCOMPARE(buttons(*view, 4).constFirst()->parentItem()->scale(), 1.0);
+    QCOMPARE(blended(*view, 4), QStringList());
 }
 
 void TestMissionControl::theButtonsShrinkAndFadeAgain()
@@ -1034,6 +1047,32 @@ void TestMissionControl::thePointerThatLeavesGivesTheHoverBackToTheFocus()
     hover(*view, 4);
     view->pointAway();
     QVERIFY(!view->model().hovered());
+}
+
+void TestMissionControl::theFocusThatLeavesGivesTheHoverBackToThePointer()
+{
+    const std::unique_ptr<DemoView> view(make());
+    const auto takeTheFocusAway = [&] { view->root().forceActiveFocus(); };
+    QTest::keyClick(&view->window(), Qt::Key_Tab);
+    hover(*view, 0);
+    takeTheFocusAway();
+    QCOMPARE(view->model().hovered(), std::optional(0));
+    QTest::keyClick(&view->window(), Qt::Key_Tab);
+    QTest::keyClick(&view->window(), Qt::Key_Tab);
+    QCOMPARE(view->model().hovered(), std::optional(1));
+    takeTheFocusAway();
+    QCOMPARE(view->model().hovered(), std::optional(0));
+    view->pointAway();
+    QVERIFY(!view->model().hovered());
+    // Not when the window with the focus goes: the next shortcut must not meet another one.
+    hover(*view, 4);
+    QTest::keyClick(&view->window(), Qt::Key_Tab);
+    QCOMPARE(view->model().hovered(), std::optional(0));
+    view->press(keyM);
+    QVERIFY(!view->model().hovered());
+    view->press(keyM);
+    QCOMPARE(view->model().nudge(), 1);
+    QCOMPARE(state(*view, 4), State::normal);
 }
 
 void TestMissionControl::aViewThatGoesGivesNothingBackToTheFocus()
