@@ -69,6 +69,7 @@ void unreadableValues()
     QTest::newRow("huge number") << QVariant(QStringLiteral(R"([{"created":1e999,"windows":[]}])"));
     QTest::newRow("half a surrogate pair") << QVariant(QStringLiteral(R"([{"name":"\ud800","windows":[]}])"));
     QTest::newRow("nesting bomb") << QVariant(QString(100'000, u'['));
+    QTest::newRow("no text") << QVariant(1.0);
 }
 
 }
@@ -103,6 +104,8 @@ private slots:
     void restoringBringsBackAllThatOneRemovalTook();
     void restoringKeepsWhatWasStoredMeanwhile();
     void restoringIntoAShorterListPutsTheLayoutAtItsEnd();
+    void restoringIntoAnUnreadableListLeavesItAsItIs_data() { unreadableValues(); }
+    void restoringIntoAnUnreadableListLeavesItAsItIs();
     void restoringWhatIsStoredWritesNothing();
     void restoringNothingWritesNothing();
     void renamingChangesOnlyTheFirstLayoutOfThatId();
@@ -333,6 +336,19 @@ void LayoutStoreTest::restoringIntoAShorterListPutsTheLayoutAtItsEnd()
     store.values.remove(key);
     QCOMPARE(LayoutStore::restore(removed, store), QList{b});
     QCOMPARE(store.saved(), textOf({b}));
+}
+
+void LayoutStoreTest::restoringIntoAnUnreadableListLeavesItAsItIs()
+{
+    QFETCH(QVariant, stored);
+    WatchedStore store(textOf({a, b}));
+    const auto removed = LayoutStore::find(Sample::otherId, store);
+    store.values.insert(key, stored);
+    QVERIFY(!LayoutStore::restore(removed, store));
+    QCOMPARE(store.writes, 0);
+    QCOMPARE(store.values.value(key), stored);
+    store.values.insert(key, textOf({a}));
+    QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b}));
 }
 
 void LayoutStoreTest::restoringWhatIsStoredWritesNothing()

@@ -48,6 +48,7 @@ private slots:
     void aDeletionCanBeTakenBack();
     void everyDeletionCanBeTakenBack();
     void aLayoutComesBackToItsPlaceInTheListAsItIsStored();
+    void nothingComesBackIntoAnUnreadableList();
     void aLayoutWithoutANameIsCalledByItsPlace();
     void afterTheLastWayBackTheFocusGoesToTheLayout();
     void theDeletionIsANotification();
@@ -413,6 +414,21 @@ void TestLayoutsPane::aLayoutComesBackToItsPlaceInTheListAsItIsStored()
     const QStringList all = {"Work", "Play", "New"};
     QCOMPARE(names(), all);
     QCOMPARE(stored(), QString(twoLayouts).chopped(1) + ',' + added + ']');
+}
+
+void TestLayoutsPane::nothingComesBackIntoAnUnreadableList()
+{
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->click(button("Delete Work"));
+    const QString left = stored();
+    m_pane->store.setValue("layouts.saved", "[{");
+    m_pane->click(button("Undo"));
+    QCOMPARE(stored(), "[{");
+    QCOMPARE(names(), QStringList{"Play"});
+    // Once the agent has mended it the layout can still be brought back.
+    m_pane->store.setValue("layouts.saved", left);
+    m_pane->click(button("Undo"));
+    QCOMPARE(stored(), twoLayouts);
 }
 
 void TestLayoutsPane::aLayoutWithoutANameIsCalledByItsPlace()

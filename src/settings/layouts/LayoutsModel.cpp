@@ -63,8 +63,11 @@ int LayoutsModel::undoRemoval()
 {
     if (m_removals.isEmpty())
         return -1;
+    const auto layouts = LayoutStore::restore(m_removals.constLast().places, Shared::store());
+    if (!layouts)
+        return -1;
     const Removal removal = m_removals.takeLast();
-    show(LayoutStore::restore(removal.places, Shared::store()));
+    show(*layouts);
     emit removedChanged();
     const auto restored = std::ranges::find(m_layouts, removal.places.constFirst().layout.id, &SavedLayout::id);
     return restored == m_layouts.end() ? -1 : int(restored - m_layouts.begin());

@@ -32,7 +32,8 @@ public:
     Q_INVOKABLE void removeLayout(int row);
 
     /// Takes the last removal back that was not taken back yet. The layout returns to its place in the list as it is
-    /// stored by now; the row where it is shown, -1 when there was nothing to take back.
+    /// stored by now; the row where it is shown, -1 when there was nothing to take back. Where the stored list is
+    /// unreadable by now nothing happens, and it can be tried again.
     Q_INVOKABLE int undoRemoval();
 
 signals:

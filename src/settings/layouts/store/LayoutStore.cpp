@@ -8,6 +8,24 @@
 
 namespace {
 
+/// The stored layouts, and none at all where something else is stored, which stays byte for byte.
+std::optional<QList<SavedLayout>> read(UserDefaults &store)
+{
+    const QVariant stored = store.value(Shared::Key::layoutsSaved);
+    if (!stored.isValid())
+        return QList<SavedLayout>();
+    if (stored.typeId() != QMetaType::QString)
+        return std::nullopt;
+    const QString text = stored.toString();
+    const auto layouts = LayoutCoder::decode(text);
+    if (!layouts)
+        return std::nullopt;
+    const auto normalForm = LayoutStore::encode(*layouts);
+    if (normalForm && *normalForm != text)
+        store.setValue(Shared::Key::layoutsSaved, *normalForm);
+    return layouts;
+}
+
 void replace(const QList<SavedLayout> &layouts, UserDefaults &store)
 {
     if (const auto text = LayoutStore::encode(layouts))
@@ -18,17 +36,7 @@ void replace(const QList<SavedLayout> &layouts, UserDefaults &store)
 
 QList<SavedLayout> LayoutStore::load(UserDefaults &store)
 {
-    const QVariant stored = store.value(Shared::Key::layoutsSaved);
-    if (stored.typeId() != QMetaType::QString)
-        return {};
-    const QString text = stored.toString();
-    const auto layouts = LayoutCoder::decode(text);
-    if (!layouts)
-        return {};
-    const auto normalForm = encode(*layouts);
-    if (normalForm && *normalForm != text)
-        store.setValue(Shared::Key::layoutsSaved, *normalForm);
-    return *layouts;
+    return read(store).value_or(QList<SavedLayout>());
 }
 
 std::optional<QString> LayoutStore::encode(const QList<SavedLayout> &layouts)
@@ -55,17 +63,19 @@ QList<LayoutStore::Place> LayoutStore::find(const QUuid &id, UserDefaults &store
     return places;
 }
 
-QList<SavedLayout> LayoutStore::restore(const QList<Place> &removed, UserDefaults &store)
+std::optional<QList<SavedLayout>> LayoutStore::restore(const QList<Place> &removed, UserDefaults &store)
 {
-    QList<SavedLayout> layouts = load(store);
+    auto layouts = read(store);
+    if (!layouts)
+        return std::nullopt;
     const auto isStored = [&](const Place &place) {
-        return std::ranges::find(layouts, place.layout.id, &SavedLayout::id) != layouts.end();
+        return std::ranges::find(*layouts, place.layout.id, &SavedLayout::id) != layouts->end();
     };
     if (removed.isEmpty() || std::ranges::any_of(removed, isStored))
         return layouts;
     for (const Place &place : removed)
-        layouts.insert(std::min(place.index, layouts.size()), place.layout);
-    replace(layouts, store);
+        layouts->insert(std::min(place.index, layouts->size()), place.layout);
+    replace(*layouts, store);
     return layouts;
 }
 

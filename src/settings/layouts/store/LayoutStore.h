@@ -34,8 +34,9 @@ struct Place {
 QList<Place> find(const QUuid &id, UserDefaults &store);
 
 /// Puts layouts that were found and then removed back to their places, in a list that has become shorter to its end,
-/// and returns the new list. A layout whose id is stored, or none at all, writes nothing.
-QList<SavedLayout> restore(const QList<Place> &removed, UserDefaults &store);
+/// and returns the new list. A layout whose id is stored, or none at all, writes nothing. Nor does a list that is
+/// unreadable by now: the agent may mend it, and none is returned.
+std::optional<QList<SavedLayout>> restore(const QList<Place> &removed, UserDefaults &store);
 
 /// Names the first layout of that id exactly `name` and returns the new list. Without such a layout nothing is written.
 QList<SavedLayout> rename(const QUuid &id, const QString &name, UserDefaults &store);
