@@ -52,6 +52,9 @@ QImage ScenePicture::draw(const SceneEntry &entry)
     QCoreApplication::processEvents();
     m_animations.finishAnimations();
     QCoreApplication::processEvents();
+    // The pose may have changed the size.
+    window.resize(extentOf(*scene));
+    QCoreApplication::processEvents();
     // A pixel that the window covers only in part belongs to what lies behind it.
     const QSizeF pixels = QSizeF(window.size()) * window.devicePixelRatio();
     const QImage picture = window.grabWindow();

@@ -65,6 +65,7 @@ constexpr Row rows[] = {
     {SceneKind::screen, "settings-shortcuts", "SettingsShortcutsScene", "cmd"},
     {SceneKind::screen, "settings-layouts", "SettingsLayoutsScene", "apps"},
     {SceneKind::screen, "settings-layouts-saved", "SettingsLayoutsSavedScene", "apps"},
+    {SceneKind::screen, "settings-layouts-edited", "SettingsLayoutsEditedScene", "apps"},
     {SceneKind::screen, "drag-tile", "DragTileScene", "arrow"},
     {SceneKind::screen, "settings-search", "SettingsSearchScene", "search"},
 };

@@ -3,9 +3,9 @@ import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 
-/// A layout's name to type over. While the text is not the stored name a button at its end shows that Return stores it,
-/// and does the same. Escape and leaving the field bring the stored name back. A name that is too long is elided until
-/// the field has the focus.
+/// A layout's name to type over. Return stores it, and so does a button at its end, which is there while the text is not
+/// the stored name. Escape and leaving the field bring the stored name back. A name that is too long is elided until the
+/// field has the focus.
 FocusScope {
     id: scope
 
@@ -88,7 +88,7 @@ FocusScope {
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }
-    Pressable {
+    EBIconButton {
         id: save
 
         anchors {
@@ -96,33 +96,13 @@ FocusScope {
             rightMargin: 2
             verticalCenter: parent.verticalCenter
         }
-        width: 20
-        height: 20
         visible: scope.isEdited
-        hoverEnabled: true
-        text: qsTr("Save name")
+        glyph: "check"
+        size: 20
+        label: qsTr("Save name")
         onClicked: {
             scope.focusField();
             scope.committed(field.text);
-        }
-
-        background: ContinuousRectangle {
-            radius: 5
-            color: save.hovered ? EB.chip : "transparent"
-
-            FocusRing {
-                control: save
-                radius: 9
-            }
-        }
-        contentItem: EBText {
-            text: "↩"
-            role: "small"
-            weight: Font.DemiBold
-            color: save.hovered ? EB.ink : EB.inkMuted
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: true
         }
     }
 }
