@@ -66,6 +66,8 @@ private slots:
     void settlingAgainWaitsForNothing();
     void aChangedSettingIsFollowed();
     void aChangeThatChangesNothingIsNotAnnounced();
+    void nobodyButThePortalIsListenedTo();
+    void manyChangesAtOnceAreOne();
     void aPortalThatAppearsLaterIsAsked();
     void aPortalThatReturnsIsAskedAgain();
     void aPortalThatIsNotRunningIsStartedAndAskedOnlyWhenWoken();
@@ -228,6 +230,43 @@ void PortalAppearanceTest::aChangeThatChangesNothingIsNotAnnounced()
     portal.change(shared, reducedMotion, 1U);
     QTRY_VERIFY(appearance.shouldReduceMotion());
     QCOMPARE(spy.size(), 1);
+}
+
+void PortalAppearanceTest::nobodyButThePortalIsListenedTo()
+{
+    SettingsPortal portal(groups({}));
+    PortalAppearance appearance;
+    appearance.settle();
+    QSignalSpy spy(&appearance, &Appearance::changed);
+    // Somebody else claims to be the portal, and then the bus.
+    QDBusMessage change =
+        QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                                   QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+    change << shared << colorScheme << QVariant::fromValue(QDBusVariant(1U));
+    QDBusMessage owner =
+        QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+                                   QStringLiteral("NameOwnerChanged"));
+    const QDBusConnection other = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
+    const auto disconnected = qScopeGuard([] { QDBusConnection::disconnectFromBus(QStringLiteral("other")); });
+    owner << QStringLiteral("org.freedesktop.portal.Desktop") << QString() << other.baseService();
+    QVERIFY(other.send(change) && other.send(owner) && other.send(change));
+    // By then the bus has passed them on.
+    other.interface()->registeredServiceNames();
+    portal.change(shared, contrast, 1U);
+    QTRY_COMPARE(appearance.bestMatch(), contrastAqua);
+    QCOMPARE(spy.size(), 1);
+}
+
+void PortalAppearanceTest::manyChangesAtOnceAreOne()
+{
+    SettingsPortal portal(groups({}));
+    PortalAppearance appearance;
+    appearance.settle();
+    QSignalSpy spy(&appearance, &Appearance::changed);
+    for (uint i = 0; i < 401; ++i)
+        portal.change(shared, colorScheme, 1 + i % 2);
+    QTRY_COMPARE(appearance.bestMatch(), darkAqua);
+    QVERIFY2(spy.size() < 40, qPrintable(QString::number(spy.size())));
 }
 
 void PortalAppearanceTest::aPortalThatAppearsLaterIsAsked()

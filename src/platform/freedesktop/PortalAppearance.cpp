@@ -8,12 +8,15 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QSet>
 
 namespace {
 
 constexpr int firstAnswerLimit = 50; // milliseconds
 constexpr int laterAnswerLimit = 25000;
+constexpr int frame = 16; // milliseconds
 
+const QString busService = QStringLiteral("org.freedesktop.DBus");
 const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings");
@@ -27,12 +30,24 @@ QString id(const QString &group, const QString &key)
     return group + u' ' + key;
 }
 
-// Some portals wrap a value more than once.
-QVariant unwrapped(QVariant value)
+const QString colorScheme = QStringLiteral("color-scheme");
+const QString contrast = QStringLiteral("contrast");
+const QString reducedMotion = QStringLiteral("reduced-motion");
+const QString highContrast = QStringLiteral("high-contrast");
+const QString enableAnimations = QStringLiteral("enable-animations");
+
+/// All that is kept of what comes in.
+const QSet<QString> usedSettings = {id(appearanceGroup, colorScheme), id(appearanceGroup, contrast),
+                                    id(appearanceGroup, reducedMotion), id(gnomeAccessibilityGroup, highContrast),
+                                    id(gnomeGroup, enableAnimations)};
+
+// Some portals wrap a value more than once. A value of a type that no setting has counts as none.
+QVariant plain(QVariant value)
 {
     while (value.metaType() == QMetaType::fromType<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
-    return value;
+    const bool isKnown = value.typeId() == QMetaType::UInt || value.typeId() == QMetaType::Bool;
+    return isKnown ? value : QVariant();
 }
 
 // Portals with several backends may name a group, and a key in it, more than once; the first one counts.
@@ -47,9 +62,9 @@ QHash<QString, QVariant> settingsIn(const QDBusArgument &groups)
         groups >> group >> values;
         groups.endMapEntry();
         for (auto value = values.cbegin(); value != values.cend(); ++value) {
-            QVariant &setting = settings[id(group, value.key())];
-            if (!setting.isValid())
-                setting = unwrapped(*value);
+            const QString name = id(group, value.key());
+            if (usedSettings.contains(name) && !settings.value(name).isValid())
+                settings.insert(name, plain(*value));
         }
     }
     groups.endMap();
@@ -101,9 +116,8 @@ void PortalAppearance::wake()
     const auto bus = SessionBus::connection();
     if (!bus)
         return;
-    QDBusMessage start =
-        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("StartServiceByName"));
+    QDBusMessage start = QDBusMessage::createMethodCall(busService, QStringLiteral("/org/freedesktop/DBus"), busService,
+                                                        QStringLiteral("StartServiceByName"));
     start << portal << 0U;
     bus->send(start);
 }
@@ -115,7 +129,8 @@ bool PortalAppearance::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-// Both name no sender: Qt would first ask the bus who that is, and wait for the answer.
+// Both name no sender: Qt would first ask the bus who that is, and wait for the answer. Who sent a message is looked at
+// when it arrives.
 void PortalAppearance::listen()
 {
     auto bus = SessionBus::connection();
@@ -124,10 +139,9 @@ void PortalAppearance::listen()
     // Qt refuses a slot with a type that is not registered.
     qRegisterMetaType<QDBusVariant>();
     bus->connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
-                 SLOT(settingChanged(QString, QString, QDBusVariant)));
-    bus->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-                 QStringLiteral("NameOwnerChanged"), {portal}, QString(), this,
-                 SLOT(portalOwnerChanged(QString, QString, QString)));
+                 SLOT(settingChanged(QString, QString, QDBusVariant, QDBusMessage)));
+    bus->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), busService, QStringLiteral("NameOwnerChanged"),
+                 {portal}, QString(), this, SLOT(portalOwnerChanged(QString, QString, QString, QDBusMessage)));
 }
 
 // One call for all settings: every version of the portal answers it alike, while the calls for a single value differ.
@@ -148,6 +162,8 @@ void PortalAppearance::takeAnswer()
 {
     const QDBusMessage answer = m_question->reply();
     m_question.release()->deleteLater();
+    if (answer.service().startsWith(u':'))
+        m_owner = answer.service();
     const bool isLate = m_isFirstQuestion && QDBusError(answer).type() == QDBusError::NoReply;
     m_isFirstQuestion = false;
     if (isLate)
@@ -158,14 +174,30 @@ void PortalAppearance::takeAnswer()
     update();
 }
 
-void PortalAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value)
+// Before the portal has answered, what has changed will be in its answer.
+void PortalAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value,
+                                      const QDBusMessage &message)
 {
-    m_settings.insert(id(group, key), unwrapped(value.variant()));
+    const QString name = id(group, key);
+    if (message.service() != m_owner || !usedSettings.contains(name))
+        return;
+    m_settings.insert(name, plain(value.variant()));
+    if (!m_updates.isActive())
+        m_updates.start(frame, this);
+}
+
+void PortalAppearance::timerEvent(QTimerEvent *)
+{
+    m_updates.stop();
     update();
 }
 
-void PortalAppearance::portalOwnerChanged(const QString &, const QString &, const QString &newOwner)
+void PortalAppearance::portalOwnerChanged(const QString &, const QString &, const QString &newOwner,
+                                          const QDBusMessage &message)
 {
+    if (message.service() != busService)
+        return;
+    m_owner = newOwner;
     if (newOwner.isEmpty())
         return;
     m_isFirstQuestion = false;
@@ -183,13 +215,12 @@ PortalAppearance::Look PortalAppearance::look() const
         const QVariant older = setting(olderGroup, olderKey);
         return older.typeId() == QMetaType::Bool && older.toBool() == olderOn;
     };
-    const auto scheme = number(setting(appearanceGroup, QStringLiteral("color-scheme")));
+    const auto scheme = number(setting(appearanceGroup, colorScheme));
     const bool hasScheme = scheme == 1U || scheme == 2U;
     return {
         .isDark = hasScheme ? scheme == 1U : isDarkPalette(),
-        .isHighContrast =
-            isOn(QStringLiteral("contrast"), gnomeAccessibilityGroup, QStringLiteral("high-contrast"), true),
-        .reduceMotion = isOn(QStringLiteral("reduced-motion"), gnomeGroup, QStringLiteral("enable-animations"), false),
+        .isHighContrast = isOn(contrast, gnomeAccessibilityGroup, highContrast, true),
+        .reduceMotion = isOn(reducedMotion, gnomeGroup, enableAnimations, false),
     };
 }
 

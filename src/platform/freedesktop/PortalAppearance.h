@@ -2,6 +2,8 @@
 
 #include "Appearance.h"
 
+#include <QBasicTimer>
+#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QHash>
 #include <QVariant>
@@ -15,7 +17,8 @@ class QDBusPendingCallWatcher;
 ///
 /// The portal is asked as soon as this object is made, and only if one is running; nothing waits for its
 /// answer but `settle`. One that appears later, be it because `wake` started it, is asked then, and what changes later
-/// is followed.
+/// is followed, at most once a frame. Nobody but the portal is listened to, and of what it says only the settings that
+/// are used are kept.
 class PortalAppearance : public Appearance {
     Q_OBJECT
 public:
@@ -32,9 +35,14 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
 private slots:
-    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-    void portalOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
+    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value,
+                        const QDBusMessage &message);
+    void portalOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner,
+                            const QDBusMessage &message);
 
 private:
     struct Look {
@@ -51,6 +59,10 @@ private:
     void update();
 
     QHash<QString, QVariant> m_settings;
+    /// The portal's own name on the bus, to whose signals alone is listened; empty while there is none, or it has not
+    /// answered.
+    QString m_owner;
+    QBasicTimer m_updates;
     std::unique_ptr<QDBusPendingCallWatcher> m_question;
     bool m_isFirstQuestion = true;
     Look m_look;
