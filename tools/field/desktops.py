@@ -1,0 +1,150 @@
+"""The desktops there are, and what differs between them for whoever looks at a window."""
+
+import os
+import pathlib
+import re
+import shutil
+
+from session import GROUND, SIZE, NotSeen, until
+
+NOBODY = 65534
+
+
+class X11:
+    """A window manager on the display, with a compositing manager beside it where one is named."""
+
+    is_wayland = False
+    # Whether a window stands where it asks to.
+    places_windows = True
+
+    def __init__(self, package, *commands):
+        self.package = package
+        self.commands = commands
+
+    def start(self, session):
+        self.session = session
+        for command in self.commands:
+            manager = session.start(*command, log="desktop")
+            until(lambda: "window id" in session.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+                  or manager.poll() is not None, f"{command[0]} does not start", 20)
+            if manager.poll() is not None:
+                raise NotSeen(f"{command[0]} ends with {manager.returncode}")
+
+    def variables(self):
+        return {"QT_QPA_PLATFORM": "xcb"}
+
+    def windows(self, process):
+        found = self.session.run("xdotool", "search", "--onlyvisible", "--pid", str(process.pid)).split()
+        return {window: self.session.run("xprop", "-id", window) for window in found}
+
+    def property(self, process, pattern):
+        """The first such property of a window of that process."""
+        for text in self.windows(process).values():
+            if match := re.search(pattern, text):
+                return match
+        return None
+
+    def identity(self, process):
+        match = self.property(process, r'WM_CLASS\(STRING\) = "[^"]*", "([^"]*)"')
+        return match and match[1]
+
+    def has_icon(self, process):
+        return bool(self.property(process, r"_NET_WM_ICON\(CARDINAL\) =\s*Icon"))
+
+    def is_decorated(self, process, *_):
+        extents = self.property(process, r"_NET_FRAME_EXTENTS\(CARDINAL\) = (.*)")
+        return bool(extents) and extents[1] != "0, 0, 0, 0"
+
+
+class Wayland:
+    """A compositor whose screen is a window on the display."""
+
+    is_wayland = True
+    socket = "wayland-1"
+
+    def __init__(self, package, *command, places_windows=True, **variables):
+        self.package = package
+        self.command = command
+        self.places_windows = places_windows
+        self.own = variables
+
+    def start(self, session):
+        self.session = session
+        # One of the compositors counts positions from where the pointer was when it started.
+        session.run("xdotool", "mousemove", "0", "0")
+        compositor = self.start_compositor()
+        until(lambda: self.display().exists() or compositor.poll() is not None, "no Wayland display", 20)
+        if compositor.poll() is not None:
+            raise NotSeen(f"{self.command[0]} ends with {compositor.returncode}")
+
+    def start_compositor(self):
+        return self.session.start(*self.command, log="desktop", **self.own)
+
+    def display(self):
+        return self.session.folder / "runtime" / self.socket
+
+    def variables(self):
+        return {"DISPLAY": None, "WAYLAND_DISPLAY": self.display(), "QT_QPA_PLATFORM": "wayland",
+                "WAYLAND_DEBUG": "client"}
+
+    def identity(self, process):
+        match = re.search(r'set_app_id\("([^"]*)"\)', (self.session.folder / "application").read_text(errors="replace"))
+        return match and match[1]
+
+    def has_icon(self, process):
+        """A compositor takes the icon from the desktop entry that is named like the application."""
+        root = pathlib.Path(__file__).parents[2]
+        entry = root / "resources" / "desktop" / f"{self.identity(process)}.desktop.in"
+        return entry.exists() and bool(re.search("^Icon=.", entry.read_text(), re.MULTILINE))
+
+    def is_decorated(self, process, picture, frame):
+        above = picture.pixel(frame.x + frame.width // 2, frame.y - 12)
+        return above != picture.pixel(frame.x + frame.width // 2, frame.y - 60)
+
+
+class Sway(Wayland):
+    """Refuses the root user, and is started as nobody for it."""
+
+    def display(self):
+        return self.session.folder / "sway" / self.socket
+
+    def start_compositor(self):
+        folder = self.display().parent
+        folder.mkdir(mode=0o700)
+        config = self.session.folder / "sway.conf"
+        config.write_text(f"output X11-1 resolution {SIZE[0]}x{SIZE[1]} position 0 0\n"
+                          f"output X11-1 background {GROUND} solid_color\n")
+        command = [*self.command, "--config", str(config)]
+        if os.geteuid() == 0:
+            shutil.chown(folder, NOBODY, NOBODY)
+            command = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups", *command]
+        return self.session.start(*command, log="desktop", HOME=folder, XDG_RUNTIME_DIR=folder, WLR_BACKENDS="x11",
+                                  WLR_RENDERER="pixman", DBUS_SESSION_BUS_ADDRESS=None)
+
+
+class KWin(Wayland):
+    """Its program has a capability that a container may be unable to grant; a copy has none."""
+
+    def start_compositor(self):
+        copy = shutil.copyfile(shutil.which(self.command[0]), self.session.folder / self.command[0])
+        os.chmod(copy, 0o755)
+        return self.session.start(str(copy), *self.command[1:], "--x11-display", self.session.environment["DISPLAY"],
+                                  log="desktop", **self.own)
+
+
+WIDTH, HEIGHT = map(str, SIZE)
+DESKTOPS = {
+    "openbox": X11("openbox", ["openbox"]),
+    "openbox-picom": X11("picom", ["openbox"], ["picom", "--backend", "xrender", "--shadow"]),
+    "xfwm4": X11("xfwm4", ["xfwm4", "--compositor=on"]),
+    "mutter-x11": X11("mutter", ["mutter", "--x11"]),
+    "kwin_x11": X11("kwin-x11", ["kwin_x11"]),
+    "sway": Sway("sway", "sway"),
+    "weston": Wayland("weston", "weston", "--backend=x11-backend.so", "--use-pixman", f"--width={WIDTH}",
+                      f"--height={HEIGHT}", "--socket=wayland-1", "--idle-time=0", places_windows=False),
+    "kwin_wayland": KWin("kwin-wayland", "kwin_wayland", "--width", WIDTH, "--height", HEIGHT, "--socket", "wayland-1",
+                         "--no-lockscreen", KWIN_COMPOSE="Q"),
+    "mutter-wayland": Wayland("mutter", "mutter", "--wayland", "--nested", "--no-x11", "--wayland-display", "wayland-1",
+                              places_windows=False, MUTTER_DEBUG_DUMMY_MODE_SPECS=f"{WIDTH}x{HEIGHT}",
+                              MUTTER_DEBUG_DUMMY_MONITOR_SCALES="1"),
+}

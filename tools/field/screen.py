@@ -1,0 +1,114 @@
+"""The virtual display as a person has it: a picture to look at, a pointer and a keyboard."""
+
+import collections
+import subprocess
+
+from session import SIZE, until
+
+Frame = collections.namedtuple("Frame", "x y width height")
+
+WIDTH, HEIGHT = SIZE
+# The hairline inside a window's edge, over its paper and over the loud panel of the guide.
+LIGHT = bytes.fromhex("c5c4c1")
+DARK = bytes.fromhex("474748")
+PANEL = bytes.fromhex("4a4cc1")
+
+
+def plain(width, edge=LIGHT):
+    """The upper and the lower edge of a window that is all paper."""
+    return edge * width
+
+
+GENERAL = plain(620)
+GENERAL_DARK = plain(620, DARK)
+ABOUT = plain(460)
+SYSTEM_SETTINGS = plain(480)
+GUIDE = PANEL * 206 + LIGHT * 354
+
+
+class Picture:
+    def __init__(self, pixels):
+        self.pixels = pixels
+
+    def pixel(self, x, y):
+        place = (y * WIDTH + x) * 3
+        return self.pixels[place:place + 3]
+
+    def lines(self, edge):
+        """Where such an edge is, from above."""
+        place = self.pixels.find(edge)
+        while place >= 0:
+            x, y = place // 3 % WIDTH, place // 3 // WIDTH
+            if place % 3 == 0 and x + len(edge) // 3 <= WIDTH:
+                yield x, y
+            place = self.pixels.find(edge, place + 1)
+
+    def frame(self, edge):
+        """The window with that edge. Its height is 0 where the lower edge is not on the screen; None where nothing is."""
+        lines = list(self.lines(edge))
+        if not lines:
+            return None
+        x, top = lines[0]
+        bottom = [y for other, y in lines[1:] if other == x and y > top]
+        return Frame(x, top, len(edge) // 3, bottom[0] - top + 1 if bottom else 0)
+
+
+class Screen:
+    def __init__(self, session):
+        self.session = session
+
+    def picture(self):
+        taken = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], env=self.session.environment,
+                               stdout=subprocess.PIPE, check=True)
+        return Picture(taken.stdout)
+
+    def save(self, file):
+        self.session.run("import", "-window", "root", str(file))
+
+    def frame(self, edge, height=None, what="window"):
+        """Waits for a window, of that height where one is named, that stands still."""
+        before = None
+
+        def stands():
+            nonlocal before
+            now = self.picture().frame(edge)
+            still, before = now and now == before, now
+            return now if still and height in (None, now.height) else None
+
+        wanted = f"{len(edge) // 3}x{height}" if height else f"{len(edge) // 3} wide"
+        try:
+            return until(stands, "")
+        except Exception as error:
+            raise type(error)(f"no {what} {wanted}, but {before}" if before else f"no {what} {wanted}") from None
+
+    def gone(self, edge, what="window"):
+        until(lambda: not self.picture().frame(edge), f"{what} stays")
+
+    def pointer(self, *arguments):
+        self.session.run("xdotool", *map(str, arguments))
+
+    def rest(self):
+        """Takes the pointer to where it covers nothing."""
+        self.move(4, HEIGHT - 4)
+
+    def move(self, x, y):
+        # Compositors on a virtual display may overlook a single jump.
+        for dx, dy in ((-2, -1), (-1, 0), (0, 0)):
+            self.pointer("mousemove", x + dx, y + dy, "sleep", 0.05)
+
+    def click(self, frame, place):
+        self.move(frame.x + place[0], frame.y + place[1])
+        self.pointer("sleep", 0.2, "click", 1, "sleep", 0.1)
+        self.rest()
+
+    def drag(self, start, end):
+        (x, y), (to_x, to_y) = start, end
+        self.move(x, y)
+        self.pointer("sleep", 0.1, "mousedown", 1, "sleep", 0.1)
+        for step in range(1, 21):
+            self.pointer("mousemove", x + (to_x - x) * step // 20, y + (to_y - y) * step // 20, "sleep", 0.03)
+        self.pointer("sleep", 0.3, "mouseup", 1, "sleep", 0.1)
+        self.rest()
+
+    def key(self, name):
+        self.pointer("key", name)
