@@ -5,6 +5,7 @@ import pathlib
 import re
 import shutil
 
+from screen import Frame
 from session import GROUND, SIZE, NotSeen, until
 
 NOBODY = 65534
@@ -14,8 +15,9 @@ class X11:
     """A window manager on the display, with a compositing manager beside it where one is named."""
 
     is_wayland = False
-    # Whether a window stands where it asks to.
+    # Whether a window stands where it asks to, and whether it can be minimised.
     places_windows = True
+    can_minimize = True
 
     def __init__(self, package, *commands):
         self.package = package
@@ -37,6 +39,12 @@ class X11:
         found = self.session.run("xdotool", "search", "--onlyvisible", "--pid", str(process.pid)).split()
         return {window: self.session.run("xprop", "-id", window) for window in found}
 
+    def frames(self, process):
+        """Where the windows of that process are."""
+        places = (self.session.run("xdotool", "getwindowgeometry", "--shell", window) for window in self.windows(process))
+        return [Frame(*(int(re.search(rf"{name}=(-?\d+)", place)[1]) for name in ("X", "Y", "WIDTH", "HEIGHT")))
+                for place in places if place]
+
     def property(self, process, pattern):
         """The first such property of a window of that process."""
         for text in self.windows(process).values():
@@ -51,6 +59,10 @@ class X11:
     def has_icon(self, process):
         return bool(self.property(process, r"_NET_WM_ICON\(CARDINAL\) =\s*Icon"))
 
+    def has_asked(self, process):
+        """Whether the desktop was told that the window wants to be seen."""
+        return bool(self.property(process, "_NET_WM_STATE_DEMANDS_ATTENTION"))
+
     def is_decorated(self, process, *_):
         extents = self.property(process, r"_NET_FRAME_EXTENTS\(CARDINAL\) = (.*)")
         return bool(extents) and extents[1] != "0, 0, 0, 0"
@@ -60,6 +72,7 @@ class Wayland:
     """A compositor whose screen is a window on the display."""
 
     is_wayland = True
+    can_minimize = True
     socket = "wayland-1"
 
     def __init__(self, package, *command, places_windows=True, **variables):
@@ -87,9 +100,16 @@ class Wayland:
         return {"DISPLAY": None, "WAYLAND_DISPLAY": self.display(), "QT_QPA_PLATFORM": "wayland",
                 "WAYLAND_DEBUG": "client"}
 
+    def said(self, pattern):
+        """The first such request of the application to the compositor."""
+        return re.search(pattern, (self.session.folder / "application").read_text(errors="replace"))
+
     def identity(self, process):
-        match = re.search(r'set_app_id\("([^"]*)"\)', (self.session.folder / "application").read_text(errors="replace"))
+        match = self.said(r'set_app_id\("([^"]*)"\)')
         return match and match[1]
+
+    def has_asked(self, process):
+        return bool(self.said(r"xdg_activation_v1@\d+\.activate\("))
 
     def has_icon(self, process):
         """A compositor takes the icon from the desktop entry that is named like the application."""
@@ -104,6 +124,8 @@ class Wayland:
 
 class Sway(Wayland):
     """Refuses the root user, and is started as nobody for it."""
+
+    can_minimize = False
 
     def display(self):
         return self.session.folder / "sway" / self.socket
