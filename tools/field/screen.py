@@ -35,11 +35,12 @@ class Picture:
         return self.pixels[place:place + 3]
 
     def lines(self, edge):
-        """Where such an edge is, from above."""
+        """Where such an edge is, no longer and no shorter, from above."""
         place = self.pixels.find(edge)
         while place >= 0:
             x, y = place // 3 % WIDTH, place // 3 // WIDTH
-            if place % 3 == 0 and x + len(edge) // 3 <= WIDTH:
+            ends = self.pixels[place - 3:place] == edge[:3], self.pixels[place + len(edge):place + len(edge) + 3] == edge[-3:]
+            if place % 3 == 0 and x + len(edge) // 3 <= WIDTH and not any(ends):
                 yield x, y
             place = self.pixels.find(edge, place + 1)
 
