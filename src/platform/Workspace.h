@@ -43,7 +43,7 @@ public:
     virtual void setShadow(QWindow &window, const QMargins &shadow) = 0;
 
     /// Whether a window knows where on the screen it is, and goes where it is put. Where it does not, the desktop keeps
-    /// the places of windows to itself.
+    /// the places of windows to itself, and whether one is minimised.
     virtual bool placesWindows() = 0;
 
     /// Gives a window that was shown before the place in front of the others and the keyboard focus, also where the

@@ -21,6 +21,7 @@ private slots:
     void theEdgeTakesNoClicksAndIsNoElement();
     void afterAShrinkItHasTheHeightItWasGiven();
     void whenItComesBackItIsBroughtToTheFront();
+    void aMinimizedWindowThatTheDesktopKeepsIsShownAnew();
 
 private:
     QImage picture() { return m_window->grabWindow(); }
@@ -107,6 +108,20 @@ void EBWindowTest::whenItComesBackItIsBroughtToTheFront()
     m_window->makeKeyAndOrderFront();
     QVERIFY(!(m_window->windowStates() & Qt::WindowMinimized));
     QCOMPARE(m_platform->space.broughtToFront.size(), 2);
+}
+
+void EBWindowTest::aMinimizedWindowThatTheDesktopKeepsIsShownAnew()
+{
+    m_platform->space.places = false;
+    m_window->showMinimized();
+    // The desktop says nothing of it.
+    m_window->setWindowState(Qt::WindowNoState);
+    const QSignalSpy shown(m_window.get(), &QWindow::visibleChanged);
+    m_window->makeKeyAndOrderFront();
+    QCOMPARE(shown.size(), 2);
+    QVERIFY(m_window->isVisible());
+    m_window->makeKeyAndOrderFront();
+    QCOMPARE(shown.size(), 2);
 }
 
 // Once for each scale, which holds for a whole process.

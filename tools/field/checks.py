@@ -65,6 +65,7 @@ class Checks:
 
     def all(self):
         for row, check in ROWS:
+            self.screen.rest()
             self.check(row, check, self)
             # The next check starts afresh, whatever this one left.
             self.end(*[process for process in self.session.processes
@@ -145,6 +146,8 @@ def minimizes(checks):
     if not checks.desktop.can_minimize:
         return "the desktop cannot"
     checks.screen.gone(GENERAL)
+    checks.ends(checks.application(), "second start")
+    checks.screen.frame(GENERAL, 311, "settings window")
 
 
 def closes(checks):
@@ -180,7 +183,7 @@ def comes_to_the_front(checks):
     process, frame = checks.open()
     checks.application("--about")
     over = checks.screen.frame(ABOUT, 380, "About")
-    checks.moved(ABOUT, over, (200, 60), (frame.x + 80 - over.x, frame.y - 30 - over.y))
+    checks.moved(ABOUT, over, (200, 60), (frame.x + 80 - over.x, frame.y + 20 - over.y))
     checks.ends(checks.application(), "second start")
     try:
         checks.screen.frame(GENERAL, 311)
@@ -266,7 +269,7 @@ ROWS = [
     ("no second decoration", has_one_decoration),
     ("moved by its strip", moves_by_its_strip),
     ("low window, General to Layouts: all on the screen", stays_on_the_screen),
-    ("minimised by its button", minimizes),
+    ("minimised by its button, back with a second start", minimizes),
     ("closed by its button", closes),
     ("About: 460x380, moved by its background, closed by Escape", about),
     ("an edge over a window of the same colour", has_an_edge),

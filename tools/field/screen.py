@@ -89,8 +89,9 @@ class Screen:
         self.session.run("xdotool", *map(str, arguments))
 
     def rest(self):
-        """Takes the pointer to where it covers nothing."""
-        self.move(4, HEIGHT - 4)
+        """Takes the pointer to where it covers nothing, along all edges: a compositor that lost count of it is right again."""
+        for x, y in ((WIDTH - 1, 0), (0, HEIGHT - 1)):
+            self.pointer("mousemove", x, y, "sleep", 0.05)
 
     def move(self, x, y):
         # Compositors on a virtual display may overlook a single jump.

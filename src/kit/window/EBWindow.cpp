@@ -41,6 +41,10 @@ EBWindow::EBWindow(EBApp app, QSize contentSize, Style style) : m_app(app), m_st
     connect(&m_resize, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &frame) { setGeometry(frame.toRect()); });
     connect(&m_resize, &QVariantAnimation::finished, this, [this] { fixSize(m_resize.endValue().toRect().size()); });
+    // Some desktops minimise a window without its state telling so afterwards.
+    connect(this, &QWindow::windowStateChanged, this,
+            [this](Qt::WindowState state) { m_minimized = m_minimized || state == Qt::WindowMinimized; });
+    connect(this, &QWindow::activeChanged, this, [this] { m_minimized = m_minimized && !isActive(); });
     const auto paint = [this] { setColor(EBKit::paper().current()); };
     connect(&Platform::current().appearance(), &Appearance::changed, this, paint);
     paint();
@@ -135,6 +139,10 @@ void EBWindow::makeKeyAndOrderFront()
 {
     // A new window comes up in front; one that was hidden comes back where it was among the others.
     const bool isNew = !handle();
+    // Where the desktop keeps a minimised window to itself, only one that is shown anew comes back.
+    if (m_minimized && !isActive() && !Platform::current().workspace().placesWindows())
+        hide();
+    m_minimized = false;
     show();
     requestActivate();
     if (isNew)

@@ -69,6 +69,8 @@ private:
     const EBApp m_app;
     const Style m_style;
     bool m_shortcutsEnabled = true;
+    /// It was minimised, and was not the active window since.
+    bool m_minimized = false;
     bool m_loudGround = false;
     QVariantAnimation m_resize;
 };
