@@ -1,10 +1,9 @@
-"""What is looked at on each desktop. A row of the page is one check; its answer is "yes" or a word, "NO: why" for a fault."""
+"""What is looked at on each desktop. A check is a row of the page; its answer is "yes", a few words, or "NO: why"."""
 
 import pathlib
 import subprocess
 
-import screen as looks
-from screen import ABOUT, GENERAL, GENERAL_DARK, GUIDE, HEIGHT, SYSTEM_SETTINGS, WIDTH
+from screen import ABOUT, GENERAL, GENERAL_DARK, GUIDE, HEIGHT, SYSTEM_SETTINGS, WIDTH, Frame, Screen
 from session import NotSeen, until
 
 BUNDLE = pathlib.Path(__file__).parents[2] / "build" / "release" / "Corvane.app" / "Contents"
@@ -13,11 +12,12 @@ AGENT = BUNDLE / "MacOS" / "corvane-agent"
 IDENTITY = "com.vexmoor.corvane.settings"
 TRUSTED = "/com/vexmoor/corvane/agent.accessibilityTrusted"
 
+# The heights of the pages.
+PAGES = {"general": 311, "buttons": 584, "shortcuts": 423, "layouts": 654}
 # Where the controls are in their windows, which have no other size.
 CLOSE, MINIMIZE = (29, 23), (51, 23)
 STRIP = (300, 10)
-PAGES = {"Buttons": ((100, 137), 584), "Shortcuts": ((100, 169), 423), "Layouts": ((100, 201), 654),
-         "General": ((100, 105), 311)}
+LAYOUTS = (100, 201)
 OPEN_SYSTEM_SETTINGS = (286, 314)
 LIST = (240, 118)
 # The middle of the floating tile, below the lower edge of System Settings.
@@ -32,7 +32,7 @@ class Checks:
     def __init__(self, session, desktop, pictures, say):
         self.session = session
         self.desktop = desktop
-        self.screen = looks.Screen(session)
+        self.screen = Screen(session)
         self.pictures = pictures
         self.say = say
 
@@ -55,10 +55,10 @@ class Checks:
         if code:
             raise NotSeen(f"{what} ends with {code}")
 
-    def check(self, row, function, *arguments):
+    def check(self, row, function):
         """Says what the function answers: nothing or True is "yes"."""
         try:
-            answer = function(*arguments)
+            answer = function(self)
             self.say(row, "yes" if answer in (None, True) else answer or "NO")
         except NotSeen as fault:
             self.say(row, f"NO: {fault}")
@@ -66,7 +66,8 @@ class Checks:
     def all(self):
         for row, check in ROWS:
             self.screen.rest()
-            self.check(row, check, self)
+            (self.session.folder / "application").write_bytes(b"")
+            self.check(row, check)
             # The next check starts afresh, whatever this one left.
             self.end(*[process for process in self.session.processes
                        if process.args[0] in (str(SETTINGS), str(AGENT)) and process.poll() is None])
@@ -74,7 +75,7 @@ class Checks:
 
     def open(self):
         process = self.application()
-        return process, self.screen.frame(GENERAL, 311, "settings window")
+        return process, self.screen.frame(GENERAL, PAGES["general"], "settings window")
 
     def moved(self, edge, frame, place, by):
         """Drags a window and says where it came to stand."""
@@ -90,9 +91,9 @@ class Checks:
 
 
 def opens_with_its_size(checks):
-    for page, (_, height) in PAGES.items():
-        process = checks.application(CV_TAB=page.lower())
-        checks.screen.frame(GENERAL, height, f"page {page}")
+    for page, height in PAGES.items():
+        process = checks.application(CV_TAB=page)
+        checks.screen.frame(GENERAL, height, page)
         checks.end(process)
 
 
@@ -129,8 +130,8 @@ def moves_by_its_strip(checks):
 def stays_on_the_screen(checks):
     _, frame = checks.open()
     low = checks.moved(GENERAL, frame, STRIP, (60, HEIGHT - 340 - frame.y))
-    place, height = PAGES["Layouts"]
-    checks.screen.click(low, place)
+    height = PAGES["layouts"]
+    checks.screen.click(low, LAYOUTS)
     try:
         now = checks.screen.frame(GENERAL, height)
     except NotSeen:
@@ -147,7 +148,7 @@ def minimizes(checks):
         return "the desktop cannot"
     checks.screen.gone(GENERAL)
     checks.ends(checks.application(), "second start")
-    checks.screen.frame(GENERAL, 311, "settings window")
+    checks.screen.frame(GENERAL, PAGES["general"], "settings window")
 
 
 def closes(checks):
@@ -170,7 +171,8 @@ def has_an_edge(checks):
     checks.application("--about")
     frame = checks.screen.frame(ABOUT, 380, "About")
     frame = checks.moved(ABOUT, frame, (200, 60), (below.x + 120 - frame.x, below.y - 20 - frame.y))
-    checks.screen.save(checks.pictures / "edge.png")
+    corner = Frame(frame.x - 100, below.y + below.height - 90, 240, 150)
+    checks.screen.save(checks.pictures / "edge.png", corner)
     picture = checks.screen.picture()
     y = below.y + below.height - 10
     for edge, inside, outside in ((frame.x, 1, -1), (frame.x + frame.width - 1, -1, 1)):
@@ -186,7 +188,7 @@ def comes_to_the_front(checks):
     checks.moved(ABOUT, over, (200, 60), (frame.x + 80 - over.x, frame.y + 20 - over.y))
     checks.ends(checks.application(), "second start")
     try:
-        checks.screen.frame(GENERAL, 311)
+        checks.screen.frame(GENERAL, PAGES["general"])
     except NotSeen:
         if not checks.desktop.can_ask():
             return "the desktop cannot"
@@ -197,7 +199,7 @@ def turns_dark(checks):
     """The desktop is dark, but nobody has asked its portal yet."""
     checks.session.run("dconf", "write", "/org/gnome/desktop/interface/color-scheme", "'prefer-dark'")
     checks.application()
-    checks.screen.frame(GENERAL_DARK, 311, "dark window")
+    checks.screen.frame(GENERAL_DARK, PAGES["general"], "dark window")
 
 
 def open_permission(checks):

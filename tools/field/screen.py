@@ -3,7 +3,7 @@
 import collections
 import subprocess
 
-from session import SIZE, until
+from session import SIZE, NotSeen, until
 
 Frame = collections.namedtuple("Frame", "x y width height")
 
@@ -45,7 +45,7 @@ class Picture:
             place = self.pixels.find(edge, place + 1)
 
     def frame(self, edge):
-        """The window with that edge. Its height is 0 where the lower edge is not on the screen; None where nothing is."""
+        """The window with that edge, or None. Its height is 0 where the lower edge is not on the screen."""
         lines = list(self.lines(edge))
         if not lines:
             return None
@@ -63,8 +63,9 @@ class Screen:
                                stdout=subprocess.PIPE, check=True)
         return Picture(taken.stdout)
 
-    def save(self, file):
-        self.session.run("import", "-window", "root", str(file))
+    def save(self, file, area=Frame(0, 0, WIDTH, HEIGHT)):
+        crop = f"{area.width}x{area.height}+{area.x}+{area.y}"
+        self.session.run("import", "-window", "root", "-crop", crop, "+repage", str(file))
 
     def frame(self, edge, height=None, what="window"):
         """Waits for a window, of that height where one is named, that stands still."""
@@ -76,11 +77,11 @@ class Screen:
             still, before = now and now == before, now
             return now if still and height in (None, now.height) else None
 
-        wanted = f"{len(edge) // 3}x{height}" if height else f"{len(edge) // 3} wide"
         try:
             return until(stands, "")
-        except Exception as error:
-            raise type(error)(f"no {what} {wanted}, but {before}" if before else f"no {what} {wanted}") from None
+        except NotSeen:
+            seen = f", but {before}" if before else ""
+            raise NotSeen(f"no {what} {len(edge) // 3}x{height or '…'}{seen}") from None
 
     def gone(self, edge, what="window"):
         until(lambda: not self.picture().frame(edge), f"{what} stays")
@@ -89,7 +90,7 @@ class Screen:
         self.session.run("xdotool", *map(str, arguments))
 
     def rest(self):
-        """Takes the pointer to where it covers nothing, along all edges: a compositor that lost count of it is right again."""
+        """Takes the pointer to where it covers nothing, along all edges: a compositor that lost count has it right again."""
         for x, y in ((WIDTH - 1, 0), (0, HEIGHT - 1)):
             self.pointer("mousemove", x, y, "sleep", 0.05)
 

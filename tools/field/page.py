@@ -1,0 +1,77 @@
+"""Makes docs/field.md, and the pictures on it, from what the last run on each desktop has seen."""
+
+import json
+import subprocess
+
+from checks import ROWS
+from desktops import DESKTOPS
+from session import SIZE
+
+PICTURES = {"edge": "A corner of About, over a corner of the settings window, which has the same colour",
+            "permission": "The permission step of the guide"}
+
+PAGE = """# On other desktops
+
+What `scripts/field` saw of the release build on {count} desktops, each on a display of {width}x{height} with a session bus
+and a home of its own. It makes this page; nothing here is written by hand. A fault begins with "NO".
+
+{table}
+
+{pictures}
+Where the answer is neither yes nor no:
+
+- **Places on Wayland.** No window is told where it stands, and none can move itself. Weston and Mutter place a new window
+  where they like. One that stands low hangs off the screen when a higher page is chosen, unless the compositor moves it up,
+  which Mutter does but for a few pixels. The height is bounded by the screen's, so that the end of a page can be reached when
+  the window is moved up.
+- **Minimising on Sway.** Sway has no minimised windows.
+- **The front on Wayland.** Who comes to the front is the compositor's decision. A second start from a launcher carries the
+  launcher's token, which lets it; one from a terminal has none: the window asks, and the desktop marks it. Weston knows no
+  such request.
+- **Scale.** Everything was seen at scale 1. What Qt does at others stands in the [README](../README.md#what-works-today).
+- **picom** runs with the rule of its example settings that spares windows with a shadow of their own
+  (`_GTK_FRAME_EXTENTS@:c`); without it, it draws a second, square shadow around the tile.
+
+Not seen: the shells of GNOME and Plasma around Mutter and KWin, real System Settings, graphics cards, touch, and several
+monitors.
+"""
+
+
+def version(package):
+    text = subprocess.run(["dpkg-query", "-W", "-f", "${Version}", package], stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL, text=True, check=False).stdout
+    return text.split(":")[-1].split("-")[0].split("+")[0]
+
+
+def table(seen):
+    """A row a check, a column a desktop."""
+    def line(cells):
+        return "| " + " | ".join(cells) + " |"
+
+    heads = [f"{name} {version(DESKTOPS[name].package)}" for name in seen]
+    rows = [row for row, _ in ROWS]
+    return "\n".join([line(["", *heads]), line(["---"] * (len(seen) + 1)),
+                      *(line([row, *(answers.get(row, answers.get("starts", "")) for answers in seen.values())])
+                        for row in rows)])
+
+
+def montage(root, names, picture):
+    """One small picture of all desktops."""
+    files = [root / "build" / "field" / name / f"{picture}.png" for name in names]
+    shown = [(name, file) for name, file in zip(names, files) if file.exists()]
+    labelled = [part for name, file in shown for part in ("-label", name, str(file))]
+    target = root / "docs" / "pictures" / f"field-{picture}.png"
+    subprocess.run(["montage", *labelled, "-geometry", "400x250>+4+4", "-tile", "3x", "-colors", "64", "-strip",
+                    "-define", "png:exclude-chunks=date,time", str(target)], check=True)
+    return f"{PICTURES[picture]}:\n\n![{PICTURES[picture]}](pictures/{target.name})\n"
+
+
+def write(root):
+    seen = {}
+    for name in DESKTOPS:
+        file = root / "build" / "field" / name / "seen.json"
+        if file.exists():
+            seen[name] = json.loads(file.read_text())
+    pictures = "\n".join(montage(root, list(seen), picture) for picture in PICTURES)
+    (root / "docs" / "field.md").write_text(PAGE.format(
+        count=len(seen), width=SIZE[0], height=SIZE[1], table=table(seen), pictures=pictures))
