@@ -59,13 +59,6 @@ class X11:
     def has_icon(self, process):
         return bool(self.property(process, r"_NET_WM_ICON\(CARDINAL\) =\s*Icon"))
 
-    def can_ask(self):
-        return True
-
-    def has_asked(self, process):
-        """Whether the desktop was told that the window wants to be seen."""
-        return bool(self.property(process, "_NET_WM_STATE_DEMANDS_ATTENTION"))
-
     def is_decorated(self, process, *_):
         extents = self.property(process, r"_NET_FRAME_EXTENTS\(CARDINAL\) = (.*)")
         return bool(extents) and extents[1] != "0, 0, 0, 0"
@@ -115,8 +108,9 @@ class Wayland:
         """Whether the compositor lets a window ask to come to the front."""
         return bool(self.said(r'"xdg_activation_v1"'))
 
-    def has_asked(self, process):
-        return bool(self.said(r"xdg_activation_v1@\d+\.activate\("))
+    def has_asked(self, token):
+        """Whether it has asked for that with this token."""
+        return bool(self.said(rf'xdg_activation_v1@\d+\.activate\("{token}"'))
 
     def has_icon(self, process):
         """A compositor takes the icon from the desktop entry that is named like the application."""

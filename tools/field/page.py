@@ -12,8 +12,8 @@ PICTURES = {"edge": "A corner of About, over a corner of the settings window, wh
 
 PAGE = """# On other desktops
 
-What `scripts/field` saw of the release build on {count} desktops, each on a display of {width}x{height} with a session bus
-and a home of its own. It makes this page; nothing here is written by hand. A fault begins with "NO".
+What `scripts/field` saw of the release build on {count} desktops, each on a display of {width}x{height} with a session bus and a
+home of its own. It makes this page: change it in `tools/field/page.py`. A fault begins with "NO".
 
 {table}
 
@@ -25,9 +25,8 @@ Where the answer is neither yes nor no:
   which Mutter does but for a few pixels. The height is bounded by the screen's, so that the end of a page can be reached when
   the window is moved up.
 - **Minimising on Sway.** Sway has no minimised windows.
-- **The front on Wayland.** Who comes to the front is the compositor's decision. A second start from a launcher carries the
-  launcher's token, which lets it; one from a terminal has none: the window asks, and the desktop marks it. Weston knows no
-  such request.
+- **The front on Wayland.** Who comes to the front is the compositor's decision, by the token that a launcher gives to what
+  it starts. A second start hands it over to the running window. From a terminal there is none. Weston knows no tokens.
 - **Scale.** Everything was seen at scale 1. What Qt does at others stands in the [README](../README.md#what-works-today).
 - **picom** runs with the rule of its example settings that spares windows with a shadow of their own
   (`_GTK_FRAME_EXTENTS@:c`); without it, it draws a second, square shadow around the tile.
@@ -61,8 +60,9 @@ def montage(root, names, picture):
     shown = [(name, file) for name, file in zip(names, files) if file.exists()]
     labelled = [part for name, file in shown for part in ("-label", name, str(file))]
     target = root / "docs" / "pictures" / f"field-{picture}.png"
-    subprocess.run(["montage", *labelled, "-geometry", "400x250>+4+4", "-tile", "3x", "-colors", "64", "-strip",
-                    "-define", "png:exclude-chunks=date,time", str(target)], check=True)
+    whole = subprocess.run(["montage", *labelled, "-geometry", "400x250>+4+4", "-tile", "3x", "miff:-"],
+                           stdout=subprocess.PIPE, check=True).stdout
+    subprocess.run(["convert", "-", "+dither", "-colors", "128", "-strip", f"PNG8:{target}"], input=whole, check=True)
     return f"{PICTURES[picture]}:\n\n![{PICTURES[picture]}](pictures/{target.name})\n"
 
 

@@ -23,7 +23,9 @@ GENERAL = plain(620)
 GENERAL_DARK = plain(620, DARK)
 ABOUT = plain(460)
 SYSTEM_SETTINGS = plain(480)
+# The permission step of the guide, and the one after it.
 GUIDE = PANEL * 206 + LIGHT * 354
+NEXT_STEP = plain(560)
 
 
 class Picture:
@@ -114,4 +116,4 @@ class Screen:
         self.rest()
 
     def key(self, name):
-        self.pointer("key", name)
+        self.pointer("sleep", 0.3, "key", name)
