@@ -22,7 +22,7 @@ Where the answer is neither yes nor no:
 
 - **Places on Wayland.** No window is told where it stands, and none can move itself. Weston and Mutter place a new window
   where they like. One that stands low hangs off the screen when a higher page is chosen, unless the compositor moves it up,
-  which Mutter does but for a few pixels. The height is bounded by the screen's, so that the end of a page can be reached when
+  which Mutter does in part. The height is bounded by the screen's, so that the end of a page can be reached when
   the window is moved up.
 - **Minimising on Sway.** Sway has no minimised windows.
 - **The front on Wayland.** Who comes to the front is the compositor's decision, by the token that a launcher gives to what
@@ -60,7 +60,7 @@ def montage(root, names, picture):
     shown = [(name, file) for name, file in zip(names, files) if file.exists()]
     labelled = [part for name, file in shown for part in ("-label", name, str(file))]
     target = root / "docs" / "pictures" / f"field-{picture}.png"
-    whole = subprocess.run(["montage", *labelled, "-geometry", "400x250>+4+4", "-tile", "3x", "miff:-"],
+    whole = subprocess.run(["montage", *labelled, "-resize", "400x250>", "-geometry", "+4+4", "-tile", "3x", "miff:-"],
                            stdout=subprocess.PIPE, check=True).stdout
     subprocess.run(["convert", "-", "+dither", "-colors", "128", "-strip", f"PNG8:{target}"], input=whole, check=True)
     return f"{PICTURES[picture]}:\n\n![{PICTURES[picture]}](pictures/{target.name})\n"
