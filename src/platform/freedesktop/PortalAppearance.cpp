@@ -142,6 +142,10 @@ void PortalAppearance::listen()
                  SLOT(settingChanged(QString, QString, QDBusVariant, QDBusMessage)));
     bus->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), busService, QStringLiteral("NameOwnerChanged"),
                  {portal}, QString(), this, SLOT(portalOwnerChanged(QString, QString, QString, QDBusMessage)));
+    QDBusMessage question = QDBusMessage::createMethodCall(busService, QStringLiteral("/org/freedesktop/DBus"),
+                                                           busService, QStringLiteral("GetNameOwner"));
+    question << portal;
+    bus->callWithCallback(question, this, SLOT(takeOwner(QString)));
 }
 
 // One call for all settings: every version of the portal answers it alike, while the calls for a single value differ.
@@ -162,8 +166,6 @@ void PortalAppearance::takeAnswer()
 {
     const QDBusMessage answer = m_question->reply();
     m_question.release()->deleteLater();
-    if (answer.service().startsWith(u':'))
-        m_owner = answer.service();
     const bool isLate = m_isFirstQuestion && QDBusError(answer).type() == QDBusError::NoReply;
     m_isFirstQuestion = false;
     if (isLate)
@@ -174,7 +176,11 @@ void PortalAppearance::takeAnswer()
     update();
 }
 
-// Before the portal has answered, what has changed will be in its answer.
+void PortalAppearance::takeOwner(const QString &owner)
+{
+    m_owner = owner;
+}
+
 void PortalAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value,
                                       const QDBusMessage &message)
 {

@@ -39,6 +39,7 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private slots:
+    void takeOwner(const QString &owner);
     void settingChanged(const QString &group, const QString &key, const QDBusVariant &value,
                         const QDBusMessage &message);
     void portalOwnerChanged(const QString &name, const QString &oldOwner, const QString &newOwner,
@@ -59,8 +60,7 @@ private:
     void update();
 
     QHash<QString, QVariant> m_settings;
-    /// The portal's own name on the bus, to whose signals alone is listened; empty while there is none, or it has not
-    /// answered.
+    /// The portal's own name on the bus, to whose signals alone is listened; empty while there is none.
     QString m_owner;
     QBasicTimer m_updates;
     std::unique_ptr<QDBusPendingCallWatcher> m_question;
