@@ -14,6 +14,9 @@ if(CORVANE_CCACHE)
         CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} ${CORVANE_CCACHE})
 endif()
 
+# No object names the folder of its checkout, so every checkout gets from ccache what another one compiled.
+add_compile_options(-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+
 add_compile_options(-Wall -Wextra -Wpedantic -fpch-preprocess -pthread)
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_USE_QSTRINGBUILDER)
 
