@@ -2,6 +2,8 @@
 #include "NativePlatform.h"
 #include "RunningInstance.h"
 #include "SettingsAppDelegate.h"
+#include "Shared.h"
+#include "UserDefaults.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -14,6 +16,15 @@ void chooseRenderer()
 {
     if (!qEnvironmentVariableIsSet("QSG_RHI_BACKEND") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+/// Gives what is not stored yet a last chance, without a window that looks as if it could still be used.
+void finishWrites()
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *window : windows)
+        window->hide();
+    Shared::store().finishWrites(std::chrono::seconds(2));
 }
 
 }
@@ -40,5 +51,7 @@ int main(int argc, char *argv[])
     // Qt has read it by then, and programs that are started later are not to inherit it.
     QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment] { environment.reset(); });
     delegate.applicationDidFinishLaunching();
-    return QGuiApplication::exec();
+    const int result = QGuiApplication::exec();
+    finishWrites();
+    return result;
 }

@@ -3,6 +3,8 @@
 #include "Hotkey.h"
 #include "Shared.h"
 
+#include <algorithm>
+
 const QList<Contract::StoreKey> &Contract::storeKeys()
 {
     static const QList<StoreKey> keys = [] {
@@ -24,12 +26,18 @@ const QList<Contract::StoreKey> &Contract::storeKeys()
 const QList<Contract::CommandEntry> &Contract::commands()
 {
     static const QList<CommandEntry> list = {
-#define COMMAND(identifier, name, carriesValue, meaning)                                                               \
-    CommandEntry{QStringLiteral(name), carriesValue, QStringLiteral(meaning)},
+#define COMMAND(identifier, name, carriesValue, announcesSettings, meaning)                                            \
+    CommandEntry{QStringLiteral(name), carriesValue, announcesSettings, QStringLiteral(meaning)},
         CORVANE_COMMANDS(COMMAND)
 #undef COMMAND
     };
     return list;
+}
+
+bool Contract::announcesSettings(const QString &command)
+{
+    return std::any_of(commands().cbegin(), commands().cend(),
+                       [&](const CommandEntry &entry) { return entry.name == command && entry.announcesSettings; });
 }
 
 QVariant Contract::defaultValue(const QString &key)

@@ -41,13 +41,15 @@
         "The saved layouts, as JSON text; absent: none. The agent adds layouts, the application renames "              \
         "and deletes them and writes them in normal form when it reads them, and each write replaces the whole list.")
 
-/// COMMAND(identifier, name, carries a value, asks the agent to).
+/// COMMAND(identifier, name, carries a value, announces settings, asks the agent to). One that announces settings is
+/// posted once those are stored, the others at once.
 #define CORVANE_COMMANDS(COMMAND)                                                                                      \
-    COMMAND(applySettings, "applySettings", false, "Read the settings in the store again and apply them now.")         \
-    COMMAND(setLaunchAtLogin, "setLaunchAtLogin", true,                                                                \
+    COMMAND(applySettings, "applySettings", false, true, "Read the settings in the store again and apply them now.")   \
+    COMMAND(setLaunchAtLogin, "setLaunchAtLogin", true, true,                                                          \
             "Register (true) or unregister (false) itself as a login item.")                                           \
-    COMMAND(requestAccessibility, "requestAccessibility", false, "Ask the system for the Accessibility permission.")   \
-    COMMAND(checkForUpdates, "checkForUpdates", false, "Run its update check.")
+    COMMAND(requestAccessibility, "requestAccessibility", false, false,                                                \
+            "Ask the system for the Accessibility permission.")                                                        \
+    COMMAND(checkForUpdates, "checkForUpdates", false, false, "Run its update check.")
 
 namespace Contract {
 
@@ -64,6 +66,7 @@ struct StoreKey {
 struct CommandEntry {
     QString name;
     bool carriesValue;
+    bool announcesSettings;
     QString meaning;
 };
 
@@ -71,6 +74,9 @@ struct CommandEntry {
 const QList<StoreKey> &storeKeys();
 
 const QList<CommandEntry> &commands();
+
+/// Whether that is a command of the table that announces settings.
+bool announcesSettings(const QString &command);
 
 /// The default of a key of the table; invalid for any other key.
 QVariant defaultValue(const QString &key);

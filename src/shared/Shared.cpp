@@ -69,5 +69,9 @@ void Shared::send(const QString &command, std::optional<bool> value, const QMap<
         userInfo.insert(QStringLiteral("value"), *value);
     for (auto entry = extra.cbegin(); entry != extra.cend(); ++entry)
         userInfo.insert(entry.key(), entry.value());
-    Platform::current().distributedNotificationCenter().post(Command::name, userInfo);
+    const auto post = [userInfo] { Platform::current().distributedNotificationCenter().post(Command::name, userInfo); };
+    if (Contract::announcesSettings(command))
+        store().afterWrites(command, post);
+    else
+        post();
 }

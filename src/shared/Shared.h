@@ -21,7 +21,8 @@ namespace Command {
 /// The name of the notification that carries every command.
 inline const QString name = QStringLiteral("com.vexmoor.corvane.command");
 
-#define COMMAND(identifier, text, carriesValue, meaning) inline const QString identifier = QStringLiteral(text);
+#define COMMAND(identifier, text, carriesValue, announcesSettings, meaning)                                            \
+    inline const QString identifier = QStringLiteral(text);
 CORVANE_COMMANDS(COMMAND)
 #undef COMMAND
 
@@ -51,9 +52,10 @@ QVariant value(const QString &key, const QVariant &fallback);
 /// The same with the default of the table.
 QVariant value(const QString &key);
 
-/// Posts one command. `value` present means one entry "value", absent means no entry at all. An entry of
-/// `extra` under "command" or "value" replaces what stood there. Nothing is answered: the agent's reaction
-/// shows as changed "agent." keys, and without an agent the command is lost.
+/// Posts one command: one that announces settings as soon as what was set before it is stored, any other at once.
+/// `value` present means one entry "value", absent means no entry at all. An entry of `extra` under "command" or
+/// "value" replaces what stood there. Nothing is answered: the agent's reaction shows as changed "agent." keys, and
+/// without an agent the command is lost.
 void send(const QString &command, std::optional<bool> value = std::nullopt, const QMap<QString, QString> &extra = {});
 
 }

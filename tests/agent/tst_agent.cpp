@@ -109,6 +109,7 @@ void AgentTest::init()
 {
     for (const QString &key : {enabledKey, waitingKey, trustedKey})
         m_store.setValue(key, QVariant());
+    QVERIFY(m_store.finishWrites(std::chrono::seconds(5)));
     QDir(m_autostart).removeRecursively();
 }
 

@@ -261,10 +261,12 @@ void TestLaunch::outlivesItsSessionBus()
     QFETCH(QStringList, services);
     const QRect track = findSwitch();
     QVERIFY(!track.isEmpty());
-    auto bus = std::make_unique<BusDaemon>(services);
+    const QTemporaryDir sockets;
+    auto bus = std::make_unique<BusDaemon>(sockets.filePath(u"bus"_s), services);
     QVERIFY(!bus->address().isEmpty());
     QVERIFY(launch({.environment = onBus(bus->address())}));
-    QVERIFY(flips(track));
+    // Without the service a flip is taken back, and without a bus it lasts as long as the program.
+    QVERIFY(services.isEmpty() || flips(track));
     bus.reset();
     QVERIFY(flips(track));
     QVERIFY(flips(track));

@@ -48,6 +48,7 @@ void LayoutsInDconfTest::whatOneProcessStoresAnotherLoads()
     writer.setValue(key, LayoutStore::encode(layouts).value());
     layouts.last().name = name;
     QCOMPARE(LayoutStore::rename(Sample::otherId, name, writer), layouts);
+    QVERIFY(writer.finishWrites(std::chrono::seconds(5)));
     auto reader = suite();
     QCOMPARE(LayoutStore::load(reader), layouts);
 }
@@ -72,12 +73,14 @@ void LayoutsInDconfTest::anAgentThatAddsMeanwhileNeverLeavesAnInvalidList()
     while (agent.state() != QProcess::NotRunning) {
         const auto layouts = LayoutStore::rename(Sample::id, QString::number(++renames), store);
         QVERIFY(layouts.size() == 1 || layouts.size() == 2);
+        store.finishWrites(std::chrono::seconds(1));
         agent.waitForFinished(1);
     }
     QCOMPARE(agent.exitCode(), 0);
 
     const auto last = LayoutStore::rename(Sample::id, QStringLiteral("last"), store);
     QVERIFY(!last.isEmpty());
+    QVERIFY(store.finishWrites(std::chrono::seconds(5)));
     auto reader = suite();
     QCOMPARE(LayoutStore::load(reader), last);
     QCOMPARE(reader.value(key).toString(), LayoutStore::encode(last).value());

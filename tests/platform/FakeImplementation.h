@@ -10,10 +10,24 @@ public:
 
     void store(const QString &key, const QVariant &value) override
     {
-        FakeUserDefaults &suite = m_platform.suite(suiteName());
-        suite.values.insert(key, value);
-        emit suite.changed(key);
+        suite().values.insert(key, value);
+        suite().storedChanged(key);
     }
+
+    QVariant stored(const QString &key) override { return suite().values.value(key); }
+
+    void setHasRoom(bool hasRoom) override
+    {
+        suite().obstacle = hasRoom ? UserDefaults::Trouble::none : UserDefaults::Trouble::noRoom;
+    }
+
+    void setHangs(bool hangs) override
+    {
+        suite().isHanging = hangs;
+        suite().answer();
+    }
+
+    void lock(const QString &key) override { suite().locked.insert(key); }
 
     void choose(const Look &look) override
     {
@@ -65,6 +79,8 @@ public:
     }
 
 private:
+    FakeUserDefaults &suite() { return m_platform.suite(suiteName()); }
+
     QList<Instances::Request> m_asked;
     FakePlatform &m_platform = FakePlatform::install();
 };

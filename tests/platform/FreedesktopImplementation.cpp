@@ -1,5 +1,6 @@
 #include "FreedesktopImplementation.h"
 
+#include "DconfService.h"
 #include "Desktop.h"
 #include "FreedesktopPlatform.h"
 #include "Tool.h"
@@ -70,6 +71,7 @@ FreedesktopImplementation::~FreedesktopImplementation()
     // No question may be left unanswered: the bus library keeps what belongs to it.
     Platform::current().appearance().settle();
     Platform::install(nullptr);
+    qunsetenv("DCONF_PROFILE");
     dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/")});
 }
 
@@ -79,6 +81,31 @@ void FreedesktopImplementation::store(const QString &key, const QVariant &value)
         dconf({QStringLiteral("write"), dconfPath(key), dconfText(value)});
     else
         dconf({QStringLiteral("reset"), dconfPath(key)});
+}
+
+QVariant FreedesktopImplementation::stored(const QString &key)
+{
+    const QString text = dconf({QStringLiteral("read"), dconfPath(key)});
+    if (text == QStringLiteral("true") || text == QStringLiteral("false"))
+        return text == QStringLiteral("true");
+    if (text.startsWith(u'\'') || text.startsWith(u'"'))
+        return text.mid(1).chopped(1);
+    return text.isEmpty() ? QVariant() : QVariant(text.toDouble());
+}
+
+void FreedesktopImplementation::setHasRoom(bool hasRoom)
+{
+    DconfService::setHasRoom(hasRoom);
+}
+
+void FreedesktopImplementation::setHangs(bool hangs)
+{
+    DconfService::setHangs(hangs);
+}
+
+void FreedesktopImplementation::lock(const QString &key)
+{
+    qputenv("DCONF_PROFILE", QFile::encodeName(DconfService::makeLock(dconfPath(key), m_profile.path())));
 }
 
 void FreedesktopImplementation::choose(const Look &look)

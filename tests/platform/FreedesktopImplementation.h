@@ -17,6 +17,10 @@ public:
     ~FreedesktopImplementation() override;
 
     void store(const QString &key, const QVariant &value) override;
+    QVariant stored(const QString &key) override;
+    void setHasRoom(bool hasRoom) override;
+    void setHangs(bool hangs) override;
+    void lock(const QString &key) override;
     void choose(const Look &look) override;
     bool press(const KeyDown &key) override;
     void show(const QList<OnScreenWindow> &windows) override;
@@ -44,6 +48,7 @@ private:
     Window m_window;
     std::vector<std::unique_ptr<X11TestWindow>> m_shown;
     std::optional<OtherInstance> m_other;
+    QTemporaryDir m_profile;
     QTemporaryDir m_bundles;
     int m_bundleCount = 0;
 };

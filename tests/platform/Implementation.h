@@ -16,6 +16,18 @@ public:
     /// Another process stores a value; an invalid one removes the key.
     virtual void store(const QString &key, const QVariant &value) = 0;
 
+    /// What another process finds stored; invalid where there is nothing.
+    virtual QVariant stored(const QString &key) = 0;
+
+    /// False: there is no room for anything, until it is true again.
+    virtual void setHasRoom(bool hasRoom) = 0;
+
+    /// True: whoever stores the settings does nothing any more, until it is false again.
+    virtual void setHangs(bool hangs) = 0;
+
+    /// The administrator locks the key, before its suite is opened.
+    virtual void lock(const QString &key) = 0;
+
     struct Look {
         bool isDark = false;
         bool isHighContrast = false;

@@ -32,6 +32,7 @@ void DamagedStoreTest::aDatabaseOfGarbageReadsAsEmptyAndTakesValues()
     DconfUserDefaults defaults(QStringLiteral("com.vexmoor.corvane"));
     QVERIFY(!defaults.value(QStringLiteral("buttonTheme")).isValid());
     defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    QVERIFY(defaults.finishWrites(std::chrono::seconds(5)));
     QCOMPARE(defaults.value(QStringLiteral("buttonTheme")), QVariant(QStringLiteral("a")));
     QCOMPARE(dconf({QStringLiteral("read"), QStringLiteral("/com/vexmoor/corvane/buttonTheme")}),
              QStringLiteral("'a'"));

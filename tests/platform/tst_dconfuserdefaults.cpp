@@ -5,6 +5,8 @@
 
 #include <QSignalSpy>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 const QString suiteName = QStringLiteral("com.vexmoor.corvane");
@@ -24,6 +26,12 @@ void writeFromOutside(const QString &key, const QString &value)
 QString readFromOutside(const QString &key)
 {
     return dconf({QStringLiteral("read"), pathOf(key)});
+}
+
+void set(UserDefaults &defaults, const QString &key, const QVariant &value)
+{
+    defaults.setValue(key, value);
+    REQUIRE(defaults.finishWrites(5s));
 }
 
 /// Everything that was announced before another process makes a change now.
@@ -62,6 +70,7 @@ void writeManyKeys(const QString &prefix)
     DconfUserDefaults defaults(suiteName);
     for (int i = 0; i < keysOfOneProcess; ++i)
         defaults.setValue(prefix + QString::number(i), static_cast<double>(i));
+    REQUIRE(defaults.finishWrites(20s));
 }
 
 }
@@ -74,8 +83,8 @@ public:
 private slots:
     void cleanup() { dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/")}); }
 
-    void aValueIsStoredWithItsTypeBeforeTheCallReturns_data();
-    void aValueIsStoredWithItsTypeBeforeTheCallReturns();
+    void aValueIsStoredWithItsType_data();
+    void aValueIsStoredWithItsType();
     void aKeyIsReadUnderItsNameWithItsDots();
     void aNumberOfAnyTypeIsReadAsADouble_data();
     void aNumberOfAnyTypeIsReadAsADouble();
@@ -99,7 +108,7 @@ private slots:
     void processesThatWriteAtTheSameTimeLoseNothing();
 };
 
-void DconfUserDefaultsTest::aValueIsStoredWithItsTypeBeforeTheCallReturns_data()
+void DconfUserDefaultsTest::aValueIsStoredWithItsType_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QString>("stored");
@@ -112,12 +121,12 @@ void DconfUserDefaultsTest::aValueIsStoredWithItsTypeBeforeTheCallReturns_data()
     QTest::newRow("number") << QVariant(-12.5) << QStringLiteral("-12.5");
 }
 
-void DconfUserDefaultsTest::aValueIsStoredWithItsTypeBeforeTheCallReturns()
+void DconfUserDefaultsTest::aValueIsStoredWithItsType()
 {
     QFETCH(QVariant, value);
     QFETCH(QString, stored);
     DconfUserDefaults defaults(suiteName);
-    defaults.setValue(QStringLiteral("key"), value);
+    set(defaults, QStringLiteral("key"), value);
     QCOMPARE(readFromOutside(QStringLiteral("key")), stored);
     const QVariant readBack = DconfUserDefaults(suiteName).value(QStringLiteral("key"));
     QCOMPARE(readBack.typeId(), value.typeId());
@@ -167,15 +176,16 @@ void DconfUserDefaultsTest::aValueOfAnotherTypeReadsAsInvalid()
 
 void DconfUserDefaultsTest::aWholeNumberIsStoredAsADouble()
 {
-    DconfUserDefaults(suiteName).setValue(QStringLiteral("layouts.gap"), 12);
+    DconfUserDefaults defaults(suiteName);
+    set(defaults, QStringLiteral("layouts.gap"), 12);
     QCOMPARE(readFromOutside(QStringLiteral("layouts.gap")), QStringLiteral("12.0"));
 }
 
 void DconfUserDefaultsTest::aValueNoSuiteHoldsIsIgnored()
 {
     DconfUserDefaults defaults(suiteName);
-    defaults.setValue(QStringLiteral("key"), true);
-    defaults.setValue(QStringLiteral("key"), QStringList{QStringLiteral("a")});
+    set(defaults, QStringLiteral("key"), true);
+    set(defaults, QStringLiteral("key"), QStringList{QStringLiteral("a")});
     QCOMPARE(defaults.value(QStringLiteral("key")), QVariant(true));
     QCOMPARE(readFromOutside(QStringLiteral("key")), QStringLiteral("true"));
 }
@@ -183,8 +193,8 @@ void DconfUserDefaultsTest::aValueNoSuiteHoldsIsIgnored()
 void DconfUserDefaultsTest::anInvalidValueRemovesTheKey()
 {
     DconfUserDefaults defaults(suiteName);
-    defaults.setValue(QStringLiteral("layouts.saved"), QStringLiteral("[]"));
-    defaults.setValue(QStringLiteral("layouts.saved"), QVariant());
+    set(defaults, QStringLiteral("layouts.saved"), QStringLiteral("[]"));
+    set(defaults, QStringLiteral("layouts.saved"), QVariant());
     QVERIFY(!defaults.value(QStringLiteral("layouts.saved")).isValid());
     QCOMPARE(readFromOutside(QStringLiteral("layouts.saved")), QString());
 }
@@ -214,7 +224,7 @@ void DconfUserDefaultsTest::removingAFolderAroundTheSuiteAnnouncesThatEverything
 {
     Followed followed;
     auto &[defaults, spy] = followed;
-    defaults.setValue(QStringLiteral("key"), true);
+    set(defaults, QStringLiteral("key"), true);
     announced(spy);
     dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/com/vexmoor/")});
     QTRY_COMPARE(spy.size(), 1);
@@ -227,7 +237,7 @@ void DconfUserDefaultsTest::aChangeInANeighbouringSuiteIsNotAnnounced()
     Followed followed;
     auto &[defaults, spy] = followed;
     DconfUserDefaults neighbour(QStringLiteral("com.vexmoor.corvane2"));
-    neighbour.setValue(QStringLiteral("key"), true);
+    set(neighbour, QStringLiteral("key"), true);
     dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/com/vexmoor/corvane2/")});
     QCOMPARE(announced(spy), QStringList());
 }
@@ -236,7 +246,7 @@ void DconfUserDefaultsTest::anOwnWriteIsAnnouncedOnceAndAtOnce()
 {
     Followed followed;
     auto &[defaults, spy] = followed;
-    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    set(defaults, QStringLiteral("buttonTheme"), QStringLiteral("a"));
     QCOMPARE(spy.size(), 1);
     QCOMPARE(announced(spy), QStringList(QStringLiteral("buttonTheme")));
 }
@@ -245,9 +255,9 @@ void DconfUserDefaultsTest::writingWhatIsStoredAlreadyAnnouncesNothing()
 {
     Followed followed;
     auto &[defaults, spy] = followed;
-    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    set(defaults, QStringLiteral("buttonTheme"), QStringLiteral("a"));
     announced(spy);
-    defaults.setValue(QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    set(defaults, QStringLiteral("buttonTheme"), QStringLiteral("a"));
     QCOMPARE(announced(spy), QStringList());
 }
 
@@ -256,7 +266,7 @@ void DconfUserDefaultsTest::aChangeByAnotherProcessAfterAnOwnWriteIsAnnounced()
     const QString key = QStringLiteral("agent.launchAtLogin");
     Followed followed;
     auto &[defaults, spy] = followed;
-    defaults.setValue(key, true);
+    set(defaults, key, true);
     announced(spy);
     writeFromOutside(key, QStringLiteral("false"));
     QTRY_COMPARE(spy.size(), 1);
@@ -268,7 +278,7 @@ void DconfUserDefaultsTest::twoSuitesOfOneNameFollowEachOther()
     DconfUserDefaults one(suiteName);
     Followed followed;
     auto &[other, spy] = followed;
-    one.setValue(QStringLiteral("key"), 3.0);
+    set(one, QStringLiteral("key"), 3.0);
     QCOMPARE(other.value(QStringLiteral("key")), QVariant(3.0));
     QCOMPARE(announced(spy), QStringList(QStringLiteral("key")));
 }
@@ -325,7 +335,11 @@ void DconfUserDefaultsTest::processesThatWriteAtTheSameTimeLoseNothing()
     second.write("go\n");
     third.write("go\n");
     writeManyKeys(QStringLiteral("first"));
-    QVERIFY(second.waitForFinished() && third.waitForFinished());
+    for (QProcess *process : {&second, &third}) {
+        QTRY_COMPARE(process->state(), QProcess::NotRunning);
+        QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process->exitCode(), 0);
+    }
     const DconfUserDefaults defaults(suiteName);
     for (int i = 0; i < keysOfOneProcess; ++i) {
         for (const char *prefix : {"first", "second", "third"})

@@ -40,7 +40,9 @@ void FreedesktopPlatformTest::aSuiteThatCannotBeOpenedIsNull()
 
 void FreedesktopPlatformTest::aProgramOutsideABundleHasStandardDefaultsUnderItsName()
 {
-    Platform::current().standardUserDefaults().setValue(QStringLiteral("key"), true);
+    UserDefaults &standard = Platform::current().standardUserDefaults();
+    standard.setValue(QStringLiteral("key"), true);
+    QVERIFY(standard.finishWrites(std::chrono::seconds(5)));
     QCOMPARE(dconf({QStringLiteral("read"), QStringLiteral("/platform_tests/key")}), QStringLiteral("true"));
 }
 

@@ -105,9 +105,11 @@ void TestContract::thePageListsTheCommandsOfTheCodeAndNoOthers()
     QList<Row> expected;
     for (const Contract::CommandEntry &command : Contract::commands()) {
         const QString value = command.carriesValue ? QStringLiteral("Boolean") : QStringLiteral("absent");
-        expected.append({code(command.name), value, QStringLiteral("none"), command.meaning});
+        const QString posted =
+            command.announcesSettings ? QStringLiteral("once the settings are stored") : QStringLiteral("at once");
+        expected.append({code(command.name), value, QStringLiteral("none"), posted, command.meaning});
     }
-    QCOMPARE(table({"Command", "\"value\"", "Extra entries", "Asks the agent to"}), expected);
+    QCOMPARE(table({"Command", "\"value\"", "Extra entries", "Posted", "Asks the agent to"}), expected);
 }
 
 void TestContract::thePageListsTheShortcutsOfTheCodeAndNoOthers()

@@ -23,6 +23,7 @@ private slots:
     void anExtraNamedCommandOrValueReplacesTheEntry();
     void everyCommandGoesOutUnderTheOneName();
     void aStoredValueIsThereWhenTheCommandArrives();
+    void onlyACommandThatAnnouncesSettingsWaitsForThem();
 
 private:
     QVariantMap onlyUserInfo() const
@@ -156,6 +157,24 @@ void TestShared::aStoredValueIsThereWhenTheCommandArrives()
     Shared::store().setValue(Shared::Key::buttonTheme, QStringLiteral("soft"));
     Shared::send(Shared::Command::applySettings);
     QCOMPARE(seen, QVariant(QStringLiteral("soft")));
+}
+
+void TestShared::onlyACommandThatAnnouncesSettingsWaitsForThem()
+{
+    const auto names = [this] {
+        QStringList sent;
+        for (const auto &post : std::as_const(m_platform->notifications.posts))
+            sent.append(post.userInfo.value("command").toString());
+        return sent;
+    };
+    FakeUserDefaults &suite = m_platform->suite(::suite);
+    suite.isHanging = true;
+    suite.setValue(Shared::Key::buttonTheme, "soft");
+    for (const Contract::CommandEntry &command : Contract::commands())
+        Shared::send(command.name);
+    QCOMPARE(names(), QStringList({"requestAccessibility", "checkForUpdates"}));
+    suite.answer();
+    QCOMPARE(names(), QStringList({"requestAccessibility", "checkForUpdates", "applySettings", "setLaunchAtLogin"}));
 }
 
 CORVANE_TEST(TestShared, runInCore)

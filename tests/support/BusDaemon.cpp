@@ -14,7 +14,7 @@ constexpr const char *configuration =
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
-  <listen>unix:dir=%1</listen>
+  <listen>unix:path=%3</listen>
   <auth>EXTERNAL</auth>
   <servicedir>%1/services</servicedir>
   <servicedir>%2</servicedir>
@@ -28,15 +28,16 @@ constexpr const char *configuration =
 
 }
 
-BusDaemon::BusDaemon(const QStringList &services)
+BusDaemon::BusDaemon(const QString &socket, const QStringList &services)
 {
     ChildProcess::endWithThisProcess(m_daemon);
-    if (!writeConfiguration(services))
+    if (!writeConfiguration(socket, services))
         return;
     const QString file = QStringLiteral("--config-file=") + m_folder.filePath(QStringLiteral("bus.conf"));
     m_daemon.start(QStringLiteral("dbus-daemon"),
                    {file, QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
-    m_address = ChildProcess::firstLine(m_daemon);
+    // The rest is the mark of this daemon, which would keep others from taking its place.
+    m_address = ChildProcess::firstLine(m_daemon).split(',').first();
 }
 
 BusDaemon::~BusDaemon()
@@ -51,7 +52,7 @@ bool BusDaemon::install(const QString &serviceFile) const
     return QFile::link(serviceFile, link);
 }
 
-bool BusDaemon::writeConfiguration(const QStringList &services) const
+bool BusDaemon::writeConfiguration(const QString &socket, const QStringList &services) const
 {
     const QString folder = servicesFolder();
     bool complete = QDir().mkpath(folder);
@@ -65,5 +66,5 @@ bool BusDaemon::writeConfiguration(const QStringList &services) const
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/dbus-1/services");
     QFile file(m_folder.filePath(QStringLiteral("bus.conf")));
     return complete && file.open(QIODevice::WriteOnly)
-        && file.write(QString::fromLatin1(configuration).arg(m_folder.path(), own).toUtf8()) > 0;
+        && file.write(QString::fromLatin1(configuration).arg(m_folder.path(), own, socket).toUtf8()) > 0;
 }

@@ -11,7 +11,8 @@ public:
     /// The bus may start the installed session services named in `services`, such as "ca.desrt.dconf", and those in the
     /// folder for data that the environment names, but no others: what else is installed on the machine cannot answer
     /// in a test. They get the environment this process has now.
-    explicit BusDaemon(const QStringList &services);
+    /// It listens at the file `socket`.
+    BusDaemon(const QString &socket, const QStringList &services);
     ~BusDaemon();
 
     /// Empty when no bus could be started.
@@ -22,7 +23,7 @@ public:
 
 private:
     QString servicesFolder() const { return m_folder.filePath(QStringLiteral("services")); }
-    bool writeConfiguration(const QStringList &services) const;
+    bool writeConfiguration(const QString &socket, const QStringList &services) const;
 
     QTemporaryDir m_folder;
     QProcess m_daemon;

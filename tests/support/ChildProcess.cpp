@@ -8,7 +8,11 @@
 
 void ChildProcess::endWithThisProcess(QProcess &process)
 {
-    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    process.setChildProcessModifier([] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        // A program that may write no further is told so, and not ended.
+        std::signal(SIGXFSZ, SIG_IGN);
+    });
 }
 
 QByteArray ChildProcess::firstLine(QProcess &process)

@@ -29,7 +29,7 @@ PrivateSession::~PrivateSession() = default;
 
 bool PrivateSession::start(const QStringList &services)
 {
-    m_bus = std::make_unique<BusDaemon>(services);
+    m_bus = std::make_unique<BusDaemon>(busSocket(), services);
     qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus->address());
     return !m_bus->address().isEmpty();
 }

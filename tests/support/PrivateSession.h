@@ -25,8 +25,12 @@ public:
     /// The bus may also start the service that the file describes, as soon as it has read its configuration again.
     bool installService(const QString &file) const;
 
-    /// Ends the bus. Its address stays in the environment, as it does in a real session.
+    /// Ends the bus. Its address stays in the environment, as it does in a real session, and another one that is
+    /// started has the same.
     void stop();
+
+    /// The file through which the bus is spoken to.
+    QString busSocket() const { return runtimeFolder() + QStringLiteral("/private-bus"); }
 
     QString configFolder() const { return m_folder.filePath(QStringLiteral("config")); }
     QString dataFolder() const { return m_folder.filePath(QStringLiteral("data")); }

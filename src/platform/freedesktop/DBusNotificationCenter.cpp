@@ -44,10 +44,7 @@ std::optional<Signal> signalNamed(const QString &name)
 // the message, and this process may end without losing it.
 void flush(const QDBusConnection &bus)
 {
-    bus.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-                                            QStringLiteral("/org/freedesktop/DBus"),
-                                            QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")),
-             QDBus::Block, flushLimit);
+    bus.call(SessionBus::question(), QDBus::Block, flushLimit);
 }
 
 }

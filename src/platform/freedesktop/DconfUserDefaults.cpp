@@ -2,15 +2,24 @@
 
 #include "SessionBus.h"
 
+#include <QDBusError>
+#include <QDBusMessage>
+
 // GIO has members named like the Qt keyword.
 #pragma push_macro("signals")
 #undef signals
 #include <dconf.h>
 #pragma pop_macro("signals")
 
-#include <thread>
+#include <utility>
 
 namespace {
+
+/// How long the service may take to store a value, in milliseconds. It usually takes one or two.
+constexpr int answerLimit = 2000;
+
+const QString service = QStringLiteral("ca.desrt.dconf");
+const QString writerInterface = QStringLiteral("ca.desrt.dconf.Writer");
 
 QByteArray folderOf(const QString &suiteName)
 {
@@ -18,65 +27,21 @@ QByteArray folderOf(const QString &suiteName)
     return dconf_is_dir(folder.constData(), nullptr) && !folder.contains('\0') ? folder : QByteArray();
 }
 
-// A database that cannot be read reads as empty; the library's warnings about it help nobody.
-void silenceLibrary()
+UserDefaults::Trouble troubleIn(const QDBusError &error)
 {
-    [[maybe_unused]] static const guint handler = g_log_set_handler(
-        "dconf", static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK | G_LOG_FLAG_FATAL | G_LOG_FLAG_RECURSION),
-        [](const gchar *, GLogLevelFlags, const gchar *, gpointer) {}, nullptr);
-}
-
-// The library uses GLib's shared bus connection, which by default ends the process when the bus goes away. A thread
-// waits for the connection, so that a start does not, and then ends. The reference is kept, so that the library never
-// gets another connection.
-void outliveBus()
-{
-    std::thread([] {
-        static GDBusConnection *const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
-        if (bus)
-            g_dbus_connection_set_exit_on_close(bus, FALSE);
-    }).detach();
-}
-
-QVariant fromGVariant(GVariant *value)
-{
-    switch (g_variant_classify(value)) {
-    case G_VARIANT_CLASS_BOOLEAN:
-        return g_variant_get_boolean(value) != FALSE;
-    case G_VARIANT_CLASS_STRING:
-        return QString::fromUtf8(g_variant_get_string(value, nullptr));
-    case G_VARIANT_CLASS_DOUBLE:
-        return g_variant_get_double(value);
-    case G_VARIANT_CLASS_BYTE:
-        return static_cast<double>(g_variant_get_byte(value));
-    case G_VARIANT_CLASS_INT16:
-        return static_cast<double>(g_variant_get_int16(value));
-    case G_VARIANT_CLASS_UINT16:
-        return static_cast<double>(g_variant_get_uint16(value));
-    case G_VARIANT_CLASS_INT32:
-        return static_cast<double>(g_variant_get_int32(value));
-    case G_VARIANT_CLASS_UINT32:
-        return static_cast<double>(g_variant_get_uint32(value));
-    case G_VARIANT_CLASS_INT64:
-        return static_cast<double>(g_variant_get_int64(value));
-    case G_VARIANT_CLASS_UINT64:
-        return static_cast<double>(g_variant_get_uint64(value));
+    using Trouble = UserDefaults::Trouble;
+    switch (error.type()) {
+    case QDBusError::Disconnected:
+    case QDBusError::NoServer:
+        return Trouble::noStore;
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+    case QDBusError::ServiceUnknown:
+        return Trouble::noAnswer;
     default:
-        return {};
-    }
-}
-
-GVariant *toGVariant(const QVariant &value)
-{
-    switch (value.typeId()) {
-    case QMetaType::Bool:
-        return g_variant_new_boolean(value.toBool());
-    case QMetaType::QString:
-        return g_variant_new_string(value.toString().toUtf8().constData());
-    case QMetaType::Double:
-        return g_variant_new_double(value.toDouble());
-    default:
-        return nullptr;
+        // How a file that could not be written is told on the bus.
+        return error.name().contains(QStringLiteral("g_2dfile_2derror")) ? Trouble::noRoom : Trouble::unknown;
     }
 }
 
@@ -86,19 +51,8 @@ DconfUserDefaults::DconfUserDefaults(const QString &suiteName) : m_folder(folder
 {
     if (m_folder.isEmpty())
         return;
-    silenceLibrary();
-    m_client = dconf_client_new();
-    m_hasBus = SessionBus::isPresent();
-    if (m_hasBus)
-        watch();
-}
-
-DconfUserDefaults::~DconfUserDefaults()
-{
-    if (!m_client)
-        return;
-    g_signal_handlers_disconnect_by_data(m_client, this);
-    g_object_unref(m_client);
+    connect(&SessionBus::instance(), &SessionBus::connected, this, &DconfUserDefaults::follow);
+    follow();
 }
 
 bool DconfUserDefaults::canOpen(const QString &suiteName)
@@ -106,11 +60,43 @@ bool DconfUserDefaults::canOpen(const QString &suiteName)
     return !folderOf(suiteName).isEmpty();
 }
 
-void DconfUserDefaults::watch()
+// No signal is bound to its sender: Qt would first ask the bus who that is, and wait for the answer.
+void DconfUserDefaults::follow()
 {
-    g_signal_connect(m_client, "changed", G_CALLBACK(&DconfUserDefaults::heard), this);
-    dconf_client_watch_fast(m_client, m_folder.constData());
-    outliveBus();
+    auto bus = SessionBus::connectionNow();
+    if (!bus || bus->name() == m_followed || m_database.writer().isEmpty())
+        return;
+    m_followed = bus->name();
+    bus->connect(QString(), m_database.writer(), writerInterface, QStringLiteral("Notify"), this,
+                 SLOT(heard(QString, QStringList, QString)));
+    bus->connect(QString(), SessionBus::busPath, SessionBus::busName, QStringLiteral("NameOwnerChanged"), {service},
+                 QString(), this, SLOT(serviceChanged(QString, QString, QString)));
+    bus->callWithCallback(SessionBus::question(), this, SLOT(isFollowing()), nullptr);
+    retry();
+}
+
+// What was changed before the bus knew that this process listens was not heard of.
+void DconfUserDefaults::isFollowing()
+{
+    emit changed(QString());
+}
+
+void DconfUserDefaults::serviceChanged(const QString &, const QString &, const QString &newOwner)
+{
+    if (!newOwner.isEmpty()) {
+        retry();
+        return;
+    }
+    m_hasServiceEnded = true;
+    tryAgain();
+}
+
+// A service that has ended is started by the next call. Once, or one that always ends would be started for ever.
+void DconfUserDefaults::tryAgain()
+{
+    if (!m_hasServiceEnded || m_isWriting || std::exchange(m_hasTriedAgain, true))
+        return;
+    retry();
 }
 
 std::optional<QByteArray> DconfUserDefaults::path(const QString &key) const
@@ -121,73 +107,67 @@ std::optional<QByteArray> DconfUserDefaults::path(const QString &key) const
     return path;
 }
 
-QVariant DconfUserDefaults::value(const QString &key) const
+QVariant DconfUserDefaults::storedValue(const QString &key) const
 {
-    const auto unstored = m_unstored.constFind(key);
-    if (unstored != m_unstored.cend())
-        return *unstored;
     const auto path = this->path(key);
-    GVariant *stored = path ? dconf_client_read(m_client, path->constData()) : nullptr;
-    if (!stored)
-        return {};
-    QVariant value = fromGVariant(stored);
-    g_variant_unref(stored);
-    return value;
+    return path ? m_database.value(*path) : QVariant();
 }
 
-void DconfUserDefaults::setValue(const QString &key, const QVariant &value)
+// A profile without a database that can be written is no lock.
+bool DconfUserDefaults::isWritable(const QString &key) const
 {
-    const auto typed = storable(value);
-    if (!typed)
-        return;
-    const bool isNew = !isSame(this->value(key), *typed);
-    if (!isNew && !m_unstored.contains(key))
-        return;
     const auto path = this->path(key);
-    if (path && store(*path, *typed))
-        m_unstored.remove(key);
-    else
-        m_unstored.insert(key, *typed);
-    if (isNew)
-        emit changed(key);
+    return !path || m_database.writer().isEmpty() || m_database.isWritable(*path);
 }
 
-bool DconfUserDefaults::store(const QByteArray &path, const QVariant &value)
+void DconfUserDefaults::store(const QString &key, const QVariant &value)
 {
-    if (!m_hasBus)
-        return false;
-    gchar *mark = nullptr;
-    const gboolean isStored =
-        dconf_client_write_sync(m_client, path.constData(), toGVariant(value), &mark, nullptr, nullptr);
-    if (isStored && mark && *mark)
-        m_ownWrites.insert(mark);
-    g_free(mark);
-    return isStored;
+    const auto path = this->path(key);
+    const auto bus = SessionBus::connection();
+    if (!isWritable(key)) {
+        storeFinished(Trouble::locked);
+    } else if (!path || !bus || m_database.writer().isEmpty()) {
+        storeFinished(Trouble::noStore);
+    } else {
+        m_path = *path;
+        m_value = value;
+        m_isWriting = true;
+        m_hasServiceEnded = false;
+        QDBusMessage call =
+            QDBusMessage::createMethodCall(service, m_database.writer(), writerInterface, QStringLiteral("Change"));
+        call << DconfDatabase::change(m_path, m_value);
+        bus->callWithCallback(call, this, SLOT(written(QString)), SLOT(refused(QDBusError, QDBusMessage)), answerLimit);
+    }
 }
 
-void DconfUserDefaults::heard(DConfClient *, const char *prefix, char **changes, const char *tag, void *self)
+void DconfUserDefaults::written(const QString &tag)
 {
-    auto *defaults = static_cast<DconfUserDefaults *>(self);
-    if (tag && defaults->m_ownWrites.remove(tag))
+    m_ownWrite = tag;
+    m_isWriting = false;
+    m_hasTriedAgain = false;
+    storeFinished(m_database.holds(m_path, m_value) ? Trouble::none : Trouble::unknown);
+}
+
+void DconfUserDefaults::refused(const QDBusError &error, const QDBusMessage &)
+{
+    m_isWriting = false;
+    storeFinished(troubleIn(error));
+    tryAgain();
+}
+
+void DconfUserDefaults::heard(const QString &prefix, const QStringList &changes, const QString &tag)
+{
+    if (tag == m_ownWrite)
         return;
-    for (char **change = changes; *change; ++change)
-        defaults->pathChanged(QByteArray(prefix) + *change);
+    for (const QString &change : changes)
+        pathChanged((prefix + change).toUtf8());
 }
 
 void DconfUserDefaults::pathChanged(const QByteArray &path)
 {
     const bool isFolder = path.endsWith('/');
-    if (isFolder && (m_folder.startsWith(path) || path.startsWith(m_folder))) {
-        everythingChanged();
-    } else if (!isFolder && path.startsWith(m_folder)) {
-        const QString key = QString::fromUtf8(path.mid(m_folder.size()));
-        m_unstored.remove(key);
-        emit changed(key);
-    }
-}
-
-void DconfUserDefaults::everythingChanged()
-{
-    m_unstored.removeIf([this](const auto &entry) { return path(entry.key()).has_value(); });
-    emit changed(QString());
+    if (isFolder && (m_folder.startsWith(path) || path.startsWith(m_folder)))
+        storedChanged(QString());
+    else if (!isFolder && path.startsWith(m_folder))
+        storedChanged(QString::fromUtf8(path.mid(m_folder.size())));
 }

@@ -1,48 +1,57 @@
 #pragma once
 
+#include "DconfDatabase.h"
 #include "UserDefaults.h"
 
-#include <QHash>
-#include <QSet>
-
-#include <optional>
-
-using DConfClient = struct _DConfClient; // NOLINT(bugprone-reserved-identifier): the library's own name
+class QDBusError;
+class QDBusMessage;
 
 /// A suite in the dconf database: the suite's name with slashes for its dots is the folder, the key the name
 /// in it.
 ///
-/// A Boolean is stored as b, a string as s, a number as d; a number of any other type is read too.
-/// What cannot be stored, for want of a bus, of the service or of a writable folder, is kept in memory until
-/// somebody else changes the same key or storing it works again.
+/// It is read with dconf's library and written by calls to dconf's service. The library can write too, but waits for
+/// the service up to 25 seconds, and the bus it has found first, or not found, is the only one it ever uses. A value
+/// counts as stored once it is read back: a service of another session may store in another folder.
 class DconfUserDefaults : public UserDefaults {
+    Q_OBJECT
 public:
     /// A name that is no folder of dconf, the empty one for instance, gives a suite that lives in memory
     /// alone.
     explicit DconfUserDefaults(const QString &suiteName);
-    ~DconfUserDefaults() override;
 
     static bool canOpen(const QString &suiteName);
 
-    QVariant value(const QString &key) const override;
-    void setValue(const QString &key, const QVariant &value) override;
+    bool isWritable(const QString &key) const override;
+
+protected:
+    QVariant storedValue(const QString &key) const override;
+    void store(const QString &key, const QVariant &value) override;
+
+private slots:
+    void written(const QString &tag);
+    void refused(const QDBusError &error, const QDBusMessage &call);
+    void heard(const QString &prefix, const QStringList &changes, const QString &tag);
+    void serviceChanged(const QString &name, const QString &oldOwner, const QString &newOwner);
+    void isFollowing();
 
 private:
-    static void heard(DConfClient *client, const char *prefix, char **changes, const char *tag, void *self);
-
-    void watch();
-    std::optional<QByteArray> path(const QString &key) const;
-    bool store(const QByteArray &path, const QVariant &value);
+    void follow();
+    void tryAgain();
     void pathChanged(const QByteArray &path);
-    void everythingChanged();
+    std::optional<QByteArray> path(const QString &key) const;
 
     QByteArray m_folder;
-    DConfClient *m_client = nullptr;
-    bool m_hasBus = false;
-
-    /// Values that could not be stored. An invalid one hides a stored one that could not be removed.
-    QHash<QString, QVariant> m_unstored;
-
-    /// The tags of our own writes whose change signals are still to come and must not be announced again.
-    QSet<QByteArray> m_ownWrites;
+    DconfDatabase m_database;
+    /// The connection on which changes are heard.
+    QString m_followed;
+    /// What is being written.
+    QByteArray m_path;
+    QVariant m_value;
+    bool m_isWriting = false;
+    /// Since the last write began.
+    bool m_hasServiceEnded = false;
+    /// Since the last write that was stored.
+    bool m_hasTriedAgain = false;
+    /// The tag of the own write whose change signal is still to come and must not be announced again.
+    QString m_ownWrite;
 };

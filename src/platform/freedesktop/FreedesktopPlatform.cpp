@@ -7,6 +7,7 @@
 #include "KeyDownFilter.h"
 #include "PlistBundle.h"
 #include "PortalAppearance.h"
+#include "SessionBus.h"
 #include "X11WindowList.h"
 
 #include <QCoreApplication>
@@ -86,8 +87,11 @@ Workspace &FreedesktopPlatform::workspace()
 
 Appearance &FreedesktopPlatform::appearance()
 {
-    if (!m_appearance)
+    if (!m_appearance) {
+        // Every view takes its colours from here, so this comes before the first one.
+        SessionBus::guardToolkit();
         m_appearance.emplace();
+    }
     return *m_appearance;
 }
 

@@ -2,6 +2,7 @@
 
 #include "AutostartLoginItem.h"
 #include "FreedesktopPlatform.h"
+#include "SessionBus.h"
 #include "StandardStreams.h"
 #include "StartEnvironment.h"
 #include "WarmUp.h"
@@ -18,6 +19,7 @@ std::unique_ptr<Platform> NativePlatform::make()
 
 std::future<void> NativePlatform::warmUp()
 {
+    SessionBus::instance().begin();
     return WarmUp::begin();
 }
 

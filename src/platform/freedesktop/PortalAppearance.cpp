@@ -16,7 +16,6 @@ constexpr int firstAnswerLimit = 50; // milliseconds
 constexpr int laterAnswerLimit = 25000;
 constexpr int frame = 16; // milliseconds
 
-const QString busService = QStringLiteral("org.freedesktop.DBus");
 const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings");
@@ -84,12 +83,12 @@ bool isDarkPalette()
 
 }
 
-PortalAppearance::PortalAppearance()
+PortalAppearance::PortalAppearance() : m_settled(firstAnswerLimit)
 {
     if (QCoreApplication *application = QCoreApplication::instance())
         application->installEventFilter(this);
-    listen();
-    ask(firstAnswerLimit);
+    connect(&SessionBus::instance(), &SessionBus::connected, this, &PortalAppearance::follow);
+    follow();
     m_look = look();
 }
 
@@ -106,6 +105,8 @@ std::optional<AppearanceName> PortalAppearance::bestMatch() const
 
 void PortalAppearance::settle()
 {
+    if (!m_question && m_isFirstQuestion)
+        SessionBus::connectionWithin(std::chrono::milliseconds(m_settled.remainingTime()));
     if (m_question && m_isFirstQuestion)
         m_question->waitForFinished();
 }
@@ -116,7 +117,7 @@ void PortalAppearance::wake()
     const auto bus = SessionBus::connection();
     if (!bus)
         return;
-    QDBusMessage start = QDBusMessage::createMethodCall(busService, QStringLiteral("/org/freedesktop/DBus"), busService,
+    QDBusMessage start = QDBusMessage::createMethodCall(SessionBus::busName, SessionBus::busPath, SessionBus::busName,
                                                         QStringLiteral("StartServiceByName"));
     start << portal << 0U;
     bus->send(start);
@@ -129,29 +130,37 @@ bool PortalAppearance::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
+// Each connection is followed once.
+void PortalAppearance::follow()
+{
+    auto bus = SessionBus::connectionNow();
+    if (!bus || bus->name() == m_followed)
+        return;
+    m_followed = bus->name();
+    listen(*bus);
+    ask(m_isFirstQuestion ? int(m_settled.remainingTime()) : laterAnswerLimit);
+}
+
 // Both name no sender: Qt would first ask the bus who that is, and wait for the answer. Who sent a message is looked at
 // when it arrives.
-void PortalAppearance::listen()
+void PortalAppearance::listen(QDBusConnection &bus)
 {
-    auto bus = SessionBus::connection();
-    if (!bus)
-        return;
     // Qt refuses a slot with a type that is not registered.
     qRegisterMetaType<QDBusVariant>();
-    bus->connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
-                 SLOT(settingChanged(QString, QString, QDBusVariant, QDBusMessage)));
-    bus->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), busService, QStringLiteral("NameOwnerChanged"),
-                 {portal}, QString(), this, SLOT(portalOwnerChanged(QString, QString, QString, QDBusMessage)));
-    QDBusMessage question = QDBusMessage::createMethodCall(busService, QStringLiteral("/org/freedesktop/DBus"),
-                                                           busService, QStringLiteral("GetNameOwner"));
+    bus.connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
+                SLOT(settingChanged(QString, QString, QDBusVariant, QDBusMessage)));
+    bus.connect(QString(), SessionBus::busPath, SessionBus::busName, QStringLiteral("NameOwnerChanged"), {portal},
+                QString(), this, SLOT(portalOwnerChanged(QString, QString, QString, QDBusMessage)));
+    QDBusMessage question = QDBusMessage::createMethodCall(SessionBus::busName, SessionBus::busPath,
+                                                           SessionBus::busName, QStringLiteral("GetNameOwner"));
     question << portal;
-    bus->callWithCallback(question, this, SLOT(takeOwner(QString)));
+    bus.callWithCallback(question, this, SLOT(takeOwner(QString)));
 }
 
 // One call for all settings: every version of the portal answers it alike, while the calls for a single value differ.
 void PortalAppearance::ask(int limit)
 {
-    const auto bus = SessionBus::connection();
+    const auto bus = SessionBus::connectionNow();
     if (!bus)
         return;
     QDBusMessage question =
@@ -201,7 +210,7 @@ void PortalAppearance::timerEvent(QTimerEvent *)
 void PortalAppearance::portalOwnerChanged(const QString &, const QString &, const QString &newOwner,
                                           const QDBusMessage &message)
 {
-    if (message.service() != busService)
+    if (message.service() != SessionBus::busName)
         return;
     m_owner = newOwner;
     if (newOwner.isEmpty())

@@ -5,20 +5,22 @@
 #include <QBasicTimer>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QVariant>
 
 #include <memory>
 
+class QDBusConnection;
 class QDBusPendingCallWatcher;
 
 /// The appearance that the desktop's settings portal tells, and where it says nothing, the lightness of the
 /// palette.
 ///
-/// The portal is asked as soon as this object is made, and only if one is running; nothing waits for its
-/// answer but `settle`. One that appears later, be it because `wake` started it, is asked then, and what changes later
-/// is followed, at most once a frame. Nobody but the portal is listened to, and of what it says only the settings that
-/// are used are kept.
+/// The portal is asked as soon as this object is made and there is a bus, and only if one is running; nothing waits for
+/// its answer but `settle`. One that appears later, be it because `wake` started it, is asked then, and what changes
+/// later is followed, at most once a frame. Nobody but the portal is listened to, and of what it says only the settings
+/// that are used are kept.
 class PortalAppearance : public Appearance {
     Q_OBJECT
 public:
@@ -53,7 +55,8 @@ private:
         bool operator==(const Look &) const = default;
     };
 
-    void listen();
+    void follow();
+    void listen(QDBusConnection &bus);
     void ask(int limit);
     void takeAnswer();
     Look look() const;
@@ -65,5 +68,9 @@ private:
     QBasicTimer m_updates;
     std::unique_ptr<QDBusPendingCallWatcher> m_question;
     bool m_isFirstQuestion = true;
+    /// The connection on which changes are heard.
+    QString m_followed;
+    /// Until then the first answer is waited for.
+    QDeadlineTimer m_settled;
     Look m_look;
 };

@@ -1,16 +1,80 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QFileSystemWatcher>
+#include <QObject>
 
+#include <chrono>
+#include <future>
+#include <memory>
 #include <optional>
 
 /// The message bus of the person's session, used only where one is already there.
-namespace SessionBus {
+///
+/// A bus may accept connections and then say nothing, and Qt would wait for it for ever. So a thread of its own, which
+/// ends with the attempt, first finds out whether it answers. A bus that comes late, or comes back, is found when its
+/// socket appears or the connection is asked for again.
+class SessionBus : public QObject {
+    Q_OBJECT
+public:
+    inline static const QString busName = QStringLiteral("org.freedesktop.DBus");
+    inline static const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
-/// Whether the environment names a bus. If not, no library may be asked for one: it would launch one.
-bool isPresent();
+    static SessionBus &instance();
 
-/// The connection, made on first use; none while there is no bus that answers.
-std::optional<QDBusConnection> connection();
+    /// Begins to find out whether the bus answers; an application object need not exist yet.
+    void begin();
 
-}
+    /// Whether the bus answers, which is waited for until half a second after the first attempt began. An application
+    /// object need not exist yet.
+    static bool hasAnswered();
+
+    /// To be called before the first view is made: Qt then asks for the bus on behalf of assistive technologies. Where
+    /// the bus has not answered half a second after the first attempt began, Qt is given none, for good, and assistive
+    /// technologies do not hear of this process.
+    static void guardToolkit();
+
+    /// Whether the environment names a bus. If not, no library may be asked for one: it would launch one.
+    static bool isPresent();
+
+    /// The connection; none while there is no bus that answers. Waits for the first one of the process, at most until
+    /// half a second after it was begun.
+    static std::optional<QDBusConnection> connection();
+
+    /// The connection; none while there is no bus that answers, and where it is still being made.
+    static std::optional<QDBusConnection> connectionNow();
+
+    /// Waits for the connection as long as that and no longer.
+    static std::optional<QDBusConnection> connectionWithin(std::chrono::milliseconds limit);
+
+    /// A call that any bus answers, after it has taken everything sent before.
+    static QDBusMessage question();
+
+signals:
+    /// There is a connection, after there was none.
+    void connected();
+
+private slots:
+    void disconnected();
+    void look();
+
+private:
+    SessionBus() = default;
+
+    std::chrono::milliseconds left() const;
+    void take();
+    void watchSocket();
+    std::optional<QDBusConnection> current() const;
+
+    /// When the first attempt began.
+    std::optional<std::chrono::steady_clock::time_point> m_begun;
+    QByteArray m_address;
+    /// Whether the bus there answers.
+    std::shared_future<bool> m_attempt;
+    std::optional<QDBusConnection> m_bus;
+    /// Exists while there is no connection.
+    std::unique_ptr<QFileSystemWatcher> m_socketFolder;
+    /// Something has happened in the socket's folder since the attempt began.
+    bool m_hasNews = false;
+};

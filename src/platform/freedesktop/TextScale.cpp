@@ -19,7 +19,7 @@ constexpr double largest = 3;
 
 using Variant = std::unique_ptr<GVariant, decltype(&g_variant_unref)>;
 
-/// Qt's own connection wants an application object. With this one dconf goes on.
+/// Qt's own connection wants an application object.
 Variant askPortal()
 {
     static GDBusConnection *const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
@@ -45,7 +45,7 @@ Variant unwrapped(Variant value)
 
 double TextScale::read()
 {
-    if (!SessionBus::isPresent())
+    if (!SessionBus::hasAnswered())
         return 1;
     const Variant answer = unwrapped(askPortal());
     if (!answer || !g_variant_is_of_type(answer.get(), G_VARIANT_TYPE_DOUBLE))

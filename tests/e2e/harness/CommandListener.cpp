@@ -25,6 +25,15 @@ bool CommandListener::waitForCount(qsizetype count, int milliseconds)
     return QTest::qWaitFor([this, count] { return m_heard.size() >= count; }, milliseconds);
 }
 
+void CommandListener::settleStore()
+{
+    QDBusMessage ping =
+        QDBusMessage::createMethodCall(QStringLiteral("ca.desrt.dconf"), QStringLiteral("/"),
+                                       QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+    constexpr int patience = 1000; // milliseconds
+    m_bus.call(ping, QDBus::Block, patience);
+}
+
 void CommandListener::settle(qint64 processId)
 {
     // The bus delivers in order, so an answer from a connection comes after all it has sent before.

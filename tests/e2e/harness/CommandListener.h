@@ -34,6 +34,9 @@ public:
 
     bool waitForCount(qsizetype count, int milliseconds = 5000);
 
+    /// Waits until the service that stores the settings has answered everything it was sent so far.
+    void settleStore();
+
     /// Waits until everything that process has sent to the session bus so far has arrived here.
     void settle(qint64 processId);
 

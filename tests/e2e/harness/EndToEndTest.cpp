@@ -153,7 +153,13 @@ bool EndToEndTest::becomes(const Accessible &element, AtspiStateType state, bool
 
 void EndToEndTest::settle() const
 {
-    // An answer from the tree comes from the program's main thread, after all that stood in its queue.
+    // An answer from the tree comes from the program's main thread, after all that stood in its queue. The program
+    // stores one value after the other, each once the one before is answered.
+    constexpr int mostValuesAtOnce = 8;
+    for (int value = 0; value < mostValuesAtOnce; ++value) {
+        application().name();
+        commands().settleStore();
+    }
     application().name();
     commands().settle(m_program->processId());
 }

@@ -1,0 +1,71 @@
+#include "DconfService.h"
+#include "DconfUserDefaults.h"
+#include "PrivateSession.h"
+#include "TestProgram.h"
+#include "Tool.h"
+
+using namespace std::chrono_literals;
+using Trouble = UserDefaults::Trouble;
+
+namespace {
+
+const QString suiteName = QStringLiteral("com.vexmoor.corvane");
+const QString path = QStringLiteral("/com/vexmoor/corvane/key");
+
+QByteArray variable()
+{
+    return qgetenv("CORVANE_OTHER_FOLDER");
+}
+
+}
+
+/// A process, started by hand or from another session, with other folders than the service has that stores its
+/// settings.
+class OtherFoldersTest : public QObject {
+    Q_OBJECT
+private slots:
+    void whatIsStoredWhereItIsReadCountsAndNothingElseDoes();
+    void aChangeByAnotherProcessIsRead();
+};
+
+void OtherFoldersTest::whatIsStoredWhereItIsReadCountsAndNothingElseDoes()
+{
+    const bool isSameDatabase = variable() == "XDG_RUNTIME_DIR";
+    bool isAnnounced = false;
+    DconfUserDefaults defaults(suiteName);
+    QVERIFY(!defaults.value(QStringLiteral("key")).isValid());
+    defaults.setValue(QStringLiteral("key"), true);
+    defaults.afterWrites(QStringLiteral("command"), [&] { isAnnounced = true; });
+    QCOMPARE(defaults.finishWrites(5s), isSameDatabase);
+    QCOMPARE(defaults.value(QStringLiteral("key")), isSameDatabase ? QVariant(true) : QVariant());
+    QCOMPARE(defaults.trouble(), isSameDatabase ? Trouble::none : Trouble::unknown);
+    QCOMPARE(isAnnounced, isSameDatabase);
+}
+
+void OtherFoldersTest::aChangeByAnotherProcessIsRead()
+{
+    if (variable() != "XDG_RUNTIME_DIR")
+        QSKIP("it is stored elsewhere");
+    DconfUserDefaults defaults(suiteName);
+    defaults.setValue(QStringLiteral("key"), true);
+    QVERIFY(defaults.finishWrites(5s));
+    dconf({QStringLiteral("write"), path, QStringLiteral("false")});
+    QTRY_COMPARE(defaults.value(QStringLiteral("key")), QVariant(false));
+}
+
+static int run(int argc, char **argv)
+{
+    PrivateSession session;
+    if (!session.start())
+        return 1;
+    // The service starts with the folders of the session, and this process changes one of its own.
+    dconf({QStringLiteral("write"), QStringLiteral("/com/vexmoor/other"), QStringLiteral("true")});
+    const QTemporaryDir other;
+    qputenv(variable().constData(), other.path().toLocal8Bit());
+    const QGuiApplication application(argc, argv);
+    return runTest<OtherFoldersTest>(argc, argv);
+}
+
+CORVANE_TEST_MAIN(run)
+
+#include "tst_otherfolders.moc"
