@@ -13,6 +13,8 @@
 #include "SettingsModel.h"
 #include "SettingsPages.h"
 #include "Shared.h"
+#include "StoreTrouble.h"
+#include "UserDefaults.h"
 #include "WindowIcon.h"
 
 #include <QFontMetricsF>
@@ -192,6 +194,8 @@ void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
     platform.appearance();
     const QString version = platform.mainBundle().string(QStringLiteral("CFBundleShortVersionString"));
     m_settings = std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, pages, initial);
+    connect(&Shared::store(), &UserDefaults::troubleChanged, m_settings->model(),
+            [model = m_settings->model()] { model->setNotice(StoreTrouble::text()); });
     platform.appearance().settle();
     present(*m_settings->window());
 }

@@ -17,8 +17,13 @@ EBStageScreen {
     app: "corvane"
     kicker: flow.kicker("customize")
     title: qsTr("Make it yours")
-    text: qsTr("Optional. Pick a look and a size; you can change them any time in Settings.")
+    // Before the text, so that what comes up is read out.
+    isLive: trouble.text !== ""
+    text: trouble.text || qsTr("Optional. Pick a look and a size; you can change them any time in Settings.")
 
+    StoreTrouble {
+        id: trouble
+    }
     OverlayLook {
         id: look
     }
@@ -49,6 +54,7 @@ EBStageScreen {
                 ThemeTiles {
                     id: tiles
 
+                    enabled: Key.isWritable(Key.buttonTheme)
                     x: 12
                     y: 12
                     width: parent.width - 2 * 12
@@ -58,6 +64,7 @@ EBStageScreen {
                 }
             }
             EBRow {
+                enabled: Key.isWritable(Key.buttonSizeOption)
                 title: qsTr("Size")
 
                 EBSegmented {
@@ -68,11 +75,13 @@ EBStageScreen {
                 }
             }
             EBSwitchRow {
+                enabled: Key.isWritable(Key.showMinimizeButton)
                 title: qsTr("Minimize button")
                 isOn: look.showMinimize
                 onFlipped: value => look.showMinimize = value
             }
             EBSwitchRow {
+                enabled: Key.isWritable(Key.showMaximizeButton)
                 title: qsTr("Full screen button")
                 isOn: look.showMaximize
                 onFlipped: value => look.showMaximize = value

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Shared.h"
+#include "UserDefaults.h"
 
 #include <QObject>
 #include <qqmlregistration.h>
@@ -21,4 +22,10 @@ public:
     }
     CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY
+
+    /// False where the administrator has locked that key: a control that changes it is disabled.
+    Q_INVOKABLE static bool isWritable(const QString &key)
+    {
+        return Shared::store().isWritable(key);
+    }
 };

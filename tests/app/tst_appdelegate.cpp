@@ -20,6 +20,7 @@ private slots:
     void theTabVariableNamesTheFirstPage_data();
     void theTabVariableNamesTheFirstPage();
     void theWindowShowsTheShortVersionAlone();
+    void theWindowTellsWhyChangesAreNotSaved();
     void closingTheLastWindowEndsTheProcess();
     void theGuideIsThisApplicationStartedAgain();
     void aRequestGoesToThePageItNames_data();
@@ -116,6 +117,30 @@ void TestAppDelegate::theWindowShowsTheShortVersionAlone()
     delegate.applicationDidFinishLaunching();
     QVERIFY(window());
     QVERIFY(NamedItems::first(window()->contentItem(), "Corvane\nVersion 1.4", QAccessible::StaticText));
+}
+
+void TestAppDelegate::theWindowTellsWhyChangesAreNotSaved()
+{
+    using Trouble = UserDefaults::Trouble;
+    const QHash<Trouble, QString> texts = {
+        {Trouble::noStore, "Changes last only until you close this window: there is nothing to save them in."},
+        {Trouble::noAnswer, "Changes can't be saved: the settings service doesn't answer."},
+        {Trouble::noRoom, "Changes can't be saved: the disk is full or read-only."},
+        {Trouble::locked, "This can't be changed: your administrator has locked it."},
+        {Trouble::unknown, "Changes can't be saved: the settings service stores them elsewhere."},
+    };
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    FakeUserDefaults &store = m_platform->suite("com.vexmoor.corvane");
+    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+        store.obstacle = text.key();
+        store.setValue("showMinimizeButton", true);
+        QTRY_VERIFY(!NamedItems::all(window()->contentItem(), *text).isEmpty());
+        store.obstacle = Trouble::none;
+        store.setValue("layouts.gap", store.value("layouts.gap").toDouble() + 1);
+        QTRY_VERIFY(NamedItems::all(window()->contentItem(), *text).isEmpty());
+        store.setValue("showMinimizeButton", QVariant());
+    }
 }
 
 void TestAppDelegate::closingTheLastWindowEndsTheProcess()

@@ -329,6 +329,10 @@ void TestOnboardingView::aNewHintIsReadOut()
     m_flow->go(OnboardingStep::customize);
     QVERIFY(control("Optional. Pick a look and a size; you can change them any time in Settings.",
                     QAccessible::StaticText));
+    // But for what the person must know.
+    m_store->obstacle = UserDefaults::Trouble::noRoom;
+    m_store->setValue("showMinimizeButton", true);
+    QVERIFY(control("Changes can't be saved: the disk is full or read-only.", QAccessible::Notification));
 }
 
 void TestOnboardingView::theAccessStepExplainsThePermission()

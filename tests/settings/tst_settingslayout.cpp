@@ -10,6 +10,7 @@ class TestSettingsLayout : public QObject {
 
 private slots:
     void theProductsMarkStandsBesideItsNameInItsColour();
+    void aNoticeStandsInTheFootsPlaceAndMovesNothing();
     void theSelectedEntryIsSetApart_data();
     void theSelectedEntryIsSetApart();
 
@@ -32,6 +33,23 @@ void TestSettingsLayout::theProductsMarkStandsBesideItsNameInItsColour()
     QCOMPARE(mark->property("app").toString(), "corvane");
     const QQuickItem *text = settings.textItem("CORVANE\nVERSION 1.4", settings.label("Corvane\nVersion 1.4"));
     QCOMPARE(SettingsWindow::color(text), SettingsWindow::color(EBKit::inkMuted()));
+}
+
+void TestSettingsLayout::aNoticeStandsInTheFootsPlaceAndMovesNothing()
+{
+    const QString notice = "Changes can't be saved: the settings service stores them elsewhere.";
+    SettingsWindow settings;
+    const QSize size = settings.window().size();
+    settings.controller.model()->setNotice(notice);
+    settings.waitForFrame();
+    const QRectF frame = SettingsWindow::frame(settings.item(notice, QAccessible::Notification));
+    QCOMPARE(settings.window().size(), size);
+    QVERIFY(frame.top() >= SettingsWindow::frame(settings.entry("Layouts")).bottom());
+    QVERIFY(frame.bottom() <= size.height() - 8);
+    QVERIFY(NamedItems::all(settings.window().contentItem(), "Corvane\nVersion 1.4").isEmpty());
+    settings.controller.model()->setNotice(QString());
+    settings.waitForFrame();
+    QVERIFY(settings.label("Corvane\nVersion 1.4"));
 }
 
 void TestSettingsLayout::theSelectedEntryIsSetApart_data()

@@ -39,6 +39,7 @@ PaneStack {
             spacing: 10
 
             ThemeTiles {
+                enabled: Key.isWritable(Key.buttonTheme)
                 width: parent.width - 2 * 16
                 themeRaw: pane.theme
                 onChosen: themeRaw => pane.look.theme = themeRaw
@@ -53,6 +54,7 @@ PaneStack {
             }
         }
         EBRow {
+            enabled: Key.isWritable(Key.buttonSizeOption)
             title: qsTr("Size")
 
             EBSegmented {
@@ -65,17 +67,20 @@ PaneStack {
     }
     EBGroup {
         EBSwitchRow {
+            enabled: Key.isWritable(Key.showMinimizeButton)
             title: qsTr("Minimize button")
             detail: qsTr("Next to Close, which is always there.")
             isOn: pane.look.showMinimize
             onFlipped: value => pane.look.showMinimize = value
         }
         EBSwitchRow {
+            enabled: Key.isWritable(Key.showMaximizeButton)
             title: qsTr("Full screen button")
             isOn: pane.look.showMaximize
             onFlipped: value => pane.look.showMaximize = value
         }
         EBRow {
+            enabled: Key.isWritable(Key.maximizeMode)
             title: qsTr("Full screen")
             detail: qsTr("For the full-screen button and ⌘F.")
 

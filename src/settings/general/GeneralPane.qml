@@ -29,6 +29,7 @@ PaneStack {
         width: parent.width
 
         EBSwitchRow {
+            enabled: Key.isWritable(Key.agentLaunchAtLogin)
             title: qsTr("Start at login")
             detail: loginNeedsApproval.value ? qsTr("Waiting for your OK in System Settings › General › Login Items.") : qsTr("So the buttons are there whenever you open Mission Control.")
             isOn: launchAtLogin.value || loginNeedsApproval.value
@@ -47,6 +48,7 @@ PaneStack {
             }
         }
         EBSwitchRow {
+            enabled: Key.isWritable(Key.menuBarIconHidden)
             title: qsTr("Show in the menu bar")
             detail: qsTr("Open Corvane from Applications to come back here.")
             isOn: !iconHidden.value

@@ -41,20 +41,21 @@ PaneStack {
 
     EBGroup {
         EBSwitchRow {
+            enabled: Key.isWritable(Key.layoutsEnabled)
             title: qsTr("Snap and arrange windows")
             detail: qsTr("In Mission Control: snap the window under the pointer, compose layouts and put them back.")
             isOn: storedEnabled.value
             onFlipped: isOn => storedEnabled.value = isOn
         }
         EBSwitchRow {
-            enabled: storedEnabled.value
+            enabled: storedEnabled.value && Key.isWritable(Key.layoutsShelf)
             title: qsTr("Layouts shelf")
             detail: qsTr("A Layouts handle at the bottom of Mission Control. Point at it to open your layouts and templates.")
             isOn: storedShelf.value
             onFlipped: isOn => storedShelf.value = isOn
         }
         EBRow {
-            enabled: storedEnabled.value
+            enabled: storedEnabled.value && Key.isWritable(Key.layoutsGap)
             title: qsTr("Gaps")
             detail: qsTr("Space between arranged windows.")
 
@@ -66,7 +67,7 @@ PaneStack {
             }
         }
         EBSwitchRow {
-            enabled: storedEnabled.value
+            enabled: storedEnabled.value && Key.isWritable(Key.layoutsLaunchApps)
             title: qsTr("Open apps that aren't running")
             detail: qsTr("When a saved layout is put back.")
             isOn: storedLaunchApps.value
@@ -76,7 +77,9 @@ PaneStack {
     GroupLabel {
         text: qsTr("Saved layouts")
     }
-    SavedLayouts { }
+    SavedLayouts {
+        enabled: Key.isWritable(Key.layoutsSaved)
+    }
     GroupLabel {
         text: qsTr("In Mission Control")
     }

@@ -51,6 +51,8 @@ QVariant ShortcutsModel::data(const QModelIndex &index, int role) const
         return Hotkeys::shownAs(hotkeyAt(index.row()));
     case OnRole:
         return isOn(hotkeyAt(index.row()));
+    case WritableRole:
+        return Shared::store().isWritable(Shared::Key::hotkeyDisabled(hotkeyAt(index.row())));
     default:
         return {};
     }
@@ -58,7 +60,7 @@ QVariant ShortcutsModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> ShortcutsModel::roleNames() const
 {
-    return {{LabelRole, "label"}, {KeysRole, "keys"}, {OnRole, "on"}};
+    return {{LabelRole, "label"}, {KeysRole, "keys"}, {OnRole, "on"}, {WritableRole, "writable"}};
 }
 
 void ShortcutsModel::setOn(int row, bool on)

@@ -5,13 +5,14 @@
 #include <QAbstractListModel>
 #include <qqmlregistration.h>
 
-/// The agent's shortcuts in their order, each with its label, its keys and whether it is on. It follows the store,
-/// whoever writes there. Switching one is stored and nothing more: the agent follows the store too.
+/// The agent's shortcuts in their order, each with its label, its keys, whether it is on and whether that can be
+/// changed. It follows the store, whoever writes there. Switching one is stored and nothing more: the agent follows the
+/// store too.
 class ShortcutsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
 public:
-    enum Role { LabelRole = Qt::UserRole, KeysRole, OnRole };
+    enum Role { LabelRole = Qt::UserRole, KeysRole, OnRole, WritableRole };
 
     explicit ShortcutsModel(QObject *parent = nullptr);
 

@@ -19,7 +19,9 @@ PaneStack {
                 required property string label
                 required property string keys
                 required property bool on
+                required property bool writable
 
+                enabled: writable
                 title: label
 
                 KeyCap {

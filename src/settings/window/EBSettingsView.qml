@@ -31,6 +31,7 @@ FocusScope {
         version: view.version
         pages: view.pages
         selection: view.model.selection
+        notice: view.model.notice
         onPicked: id => view.model.selection = id
     }
     PageArea {

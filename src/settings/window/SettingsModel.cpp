@@ -16,6 +16,14 @@ void EBSettingsWindowController::Model::setSelection(const QString &id)
     emit selectionChanged();
 }
 
+void EBSettingsWindowController::Model::setNotice(const QString &notice)
+{
+    if (m_notice == notice)
+        return;
+    m_notice = notice;
+    emit noticeChanged();
+}
+
 qsizetype EBSettingsWindowController::Model::current() const
 {
     for (qsizetype i = 0; i < m_pages.size(); ++i) {

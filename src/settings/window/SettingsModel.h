@@ -15,6 +15,8 @@ class EBSettingsWindowController::Model : public QObject {
     Q_PROPERTY(QUrl content READ content NOTIFY selectionChanged)
     /// The shown page's position among all pages, from 1.
     Q_PROPERTY(int number READ number NOTIFY selectionChanged)
+    /// What the person is told whatever page is shown; usually nothing.
+    Q_PROPERTY(QString notice READ notice WRITE setNotice NOTIFY noticeChanged)
 public:
     Model(QList<EBSettingsPage> pages, const std::optional<QString> &initial, QObject *parent);
 
@@ -23,13 +25,17 @@ public:
     QString title() const { return m_pages.at(current()).title; }
     QUrl content() const { return m_pages.at(current()).content; }
     int number() const { return int(current()) + 1; }
+    QString notice() const { return m_notice; }
+    void setNotice(const QString &notice);
 
 signals:
     void selectionChanged();
+    void noticeChanged();
 
 private:
     qsizetype current() const;
 
     const QList<EBSettingsPage> m_pages;
     QString m_selection;
+    QString m_notice;
 };

@@ -6,13 +6,15 @@ import Embera.Controls
 import Embera.Rows
 import Corvane.Settings.Window
 
-/// The search field, the pages it finds, and the product's mark, name and version. Up and Down move among the pages.
+/// The search field, the pages it finds, a line that is seldom there, and the product's mark, name and version. Up and Down move among the pages.
 Item {
     id: sidebar
 
     required property string version
     required property SidebarModel pages
     required property string selection
+    /// A line for the person in the foot's place, read out when it comes up; usually empty.
+    property string notice
 
     /// The person chose the page with this id.
     signal picked(id: string)
@@ -31,7 +33,7 @@ Item {
     }
 
     implicitWidth: 178
-    implicitHeight: list.y + list.implicitHeight + 8 + footer.height + 12
+    implicitHeight: list.y + list.implicitHeight + 8 + Math.max(footer.height, notice ? noticeText.implicitHeight : 0) + 12
 
     ContinuousRectangle {
         anchors.fill: parent
@@ -93,9 +95,32 @@ Item {
             }
         }
     }
+    EBText {
+        id: noticeText
+        anchors {
+            left: parent.left
+            right: parent.right
+            bottom: parent.bottom
+            leftMargin: 18
+            rightMargin: 14
+            bottomMargin: 12
+        }
+        visible: sidebar.notice !== ""
+        text: sidebar.notice
+        role: "caption"
+        color: EB.inkMuted
+        horizontalAlignment: Text.AlignLeft
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.Notification
+        Accessible.name: text
+        Accessible.ignored: !visible
+        Accessible.onNameChanged: if (visible)
+            Announcer.announce(noticeText)
+    }
     // As high as the two lines beside it, and in line with the pages' glyphs.
     Mark {
         id: mark
+        visible: !noticeText.visible
         anchors {
             left: parent.left
             leftMargin: 18
@@ -106,6 +131,7 @@ Item {
     }
     EBLabel {
         id: footer
+        visible: mark.visible
         anchors {
             left: mark.right
             right: parent.right

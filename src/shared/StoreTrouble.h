@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+#include <qqmlregistration.h>
+
+/// What a person is told while changes cannot be saved.
+class StoreTrouble : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    /// One or two sentences; empty while everything is saved.
+    Q_PROPERTY(QString text READ text NOTIFY textChanged)
+public:
+    explicit StoreTrouble(QObject *parent = nullptr);
+
+    static QString text();
+
+signals:
+    void textChanged();
+};
