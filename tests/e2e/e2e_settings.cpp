@@ -116,8 +116,8 @@ void TestSettings::expect(const QString &key, const QVariant &value, int told)
     settle();
     m_stored.insert(key, value);
     m_heard += told;
-    REQUIRE(store().readAll() == m_stored);
-    REQUIRE(commands().heard().size() == m_heard);
+    REQUIRE_SOON(store().readAll() == m_stored);
+    REQUIRE_SOON(commands().heard().size() == m_heard);
 }
 
 void TestSettings::aSwitchShowsAndStores(const Switch &setting, int told)
