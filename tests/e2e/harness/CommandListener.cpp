@@ -27,11 +27,13 @@ bool CommandListener::waitForCount(qsizetype count, int milliseconds)
 
 void CommandListener::settleStore()
 {
-    QDBusMessage ping =
-        QDBusMessage::createMethodCall(QStringLiteral("ca.desrt.dconf"), QStringLiteral("/"),
-                                       QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+    // It does nothing, in its turn. A ping is no sign: another thread of the service answers it while a value is
+    // written.
+    const QDBusMessage question =
+        QDBusMessage::createMethodCall(QStringLiteral("ca.desrt.dconf"), QStringLiteral("/ca/desrt/dconf/Writer/user"),
+                                       QStringLiteral("ca.desrt.dconf.Writer"), QStringLiteral("Init"));
     constexpr int patience = 1000; // milliseconds
-    m_bus.call(ping, QDBus::Block, patience);
+    m_bus.call(question, QDBus::Block, patience);
 }
 
 void CommandListener::settle(qint64 processId)
