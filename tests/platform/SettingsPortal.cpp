@@ -52,6 +52,11 @@ SettingsPortal::~SettingsPortal()
     m_thread.wait();
 }
 
+QString SettingsPortal::name()
+{
+    return bus().baseService();
+}
+
 QStringList SettingsPortal::calls() const
 {
     const QMutexLocker lock(&m_mutex);

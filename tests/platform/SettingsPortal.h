@@ -26,6 +26,9 @@ public:
     explicit SettingsPortal(const QVariant &answer, Manner manner = Manner::Answers);
     ~SettingsPortal() override;
 
+    /// The portal's own name on the bus.
+    static QString name();
+
     /// The names of the calls that came in.
     QStringList calls() const;
 

@@ -3,8 +3,12 @@
 #include "PortalAppearance.h"
 #include "PrivateSession.h"
 #include "SessionBus.h"
+#include "SettingsPortal.h"
 #include "TestProgram.h"
 #include "Tool.h"
+
+#include <QDBusConnectionInterface>
+#include <QPalette>
 
 using namespace std::chrono_literals;
 
@@ -15,6 +19,7 @@ public:
 
 private slots:
     void theApplicationOutlivesItsBusAndUsesTheNext();
+    void nobodyIsTakenForThePortalOfTheBusBefore();
 
 private:
     PrivateSession &m_session;
@@ -49,6 +54,51 @@ void LostBusTest::theApplicationOutlivesItsBusAndUsesTheNext()
     QCOMPARE(dconf({QStringLiteral("read"), path}), "'memory'");
     dconf({QStringLiteral("write"), path, QStringLiteral("'outside'")});
     QTRY_COMPARE(defaults.value(key), QVariant("outside"));
+}
+
+// Every bus numbers its connections from the first on.
+void LostBusTest::nobodyIsTakenForThePortalOfTheBusBefore()
+{
+    const auto portal = std::make_unique<SettingsPortal>(QVariant::fromValue(SettingsGroups()));
+    PortalAppearance appearance;
+    appearance.settle();
+    const QString group = QStringLiteral("org.freedesktop.appearance");
+    portal->change(group, QStringLiteral("contrast"), 1U);
+    QTRY_COMPARE(appearance.bestMatch(), AppearanceName::AccessibilityHighContrastAqua);
+    const QString name = SettingsPortal::name();
+
+    m_session.stop();
+    QTRY_VERIFY(!SessionBus::connection());
+    QVERIFY(m_session.start());
+    QTRY_VERIFY(SessionBus::connectionNow());
+    QStringList others;
+    const auto disconnected = qScopeGuard([&] {
+        for (const QString &other : std::as_const(others))
+            QDBusConnection::disconnectFromBus(other);
+    });
+    constexpr int enough = 100;
+    const auto another = [&others] {
+        others.append(QStringLiteral("other %1").arg(others.size()));
+        return QDBusConnection::connectToBus(QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS")),
+                                             others.constLast());
+    };
+    QDBusConnection namesake = another();
+    while (namesake.baseService() != name && others.size() < enough)
+        namesake = another();
+    QCOMPARE(namesake.baseService(), name);
+
+    QDBusMessage change =
+        QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                                   QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+    change << group << QStringLiteral("contrast") << QVariant::fromValue(QDBusVariant(0U));
+    QVERIFY(namesake.send(change));
+    // The bus delivers in order, and both answers come after what it passed on.
+    namesake.interface()->registeredServiceNames();
+    SessionBus::connectionNow()->interface()->registeredServiceNames();
+    QCoreApplication::processEvents();
+    // All that has been heard counts from here on.
+    QGuiApplication::setPalette(QPalette(Qt::black));
+    QTRY_COMPARE(appearance.bestMatch(), AppearanceName::AccessibilityHighContrastDarkAqua);
 }
 
 CORVANE_TEST(LostBusTest, runInPrivateSession)

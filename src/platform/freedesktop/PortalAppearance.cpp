@@ -137,6 +137,8 @@ void PortalAppearance::follow()
     if (!bus || bus->name() == m_followed)
         return;
     m_followed = bus->name();
+    // On another bus that name may be somebody else's.
+    m_owner.clear();
     listen(*bus);
     ask(m_isFirstQuestion ? int(m_settled.remainingTime()) : laterAnswerLimit);
 }
