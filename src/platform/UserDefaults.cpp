@@ -175,6 +175,7 @@ void UserDefaults::announce(const Entry &entry)
 {
     const auto outer = std::exchange(m_announcedGroup, entry.group);
     emit changed(entry.name);
+    emit revised(entry.name);
     m_announcedGroup = outer;
 }
 

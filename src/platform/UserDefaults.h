@@ -64,6 +64,10 @@ signals:
     /// An empty key says that any key may have.
     void changed(const QString &key);
 
+    /// What was set earlier could not be stored, and the key reads as what is stored again; or it is stored at last,
+    /// and the key reads so again. Follows `changed`.
+    void revised(const QString &key);
+
     void troubleChanged();
 
     /// Everything that was set is stored, or could not be.

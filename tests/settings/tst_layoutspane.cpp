@@ -49,6 +49,8 @@ private slots:
     void everyDeletionCanBeTakenBack();
     void aLayoutComesBackToItsPlaceInTheListAsItIsStored();
     void nothingComesBackIntoAnUnreadableList();
+    void aChangeThatIsNotStoredIsTakenBackUntilItIs();
+    void aDeletionThatIsNotStoredIsTakenBackUntilItIs();
     void aLayoutWithoutANameIsCalledByItsPlace();
     void afterTheLastWayBackTheFocusGoesToTheLayout();
     void theDeletionIsANotification();
@@ -428,6 +430,41 @@ void TestLayoutsPane::nothingComesBackIntoAnUnreadableList()
     // Once the agent has mended it the layout can still be brought back.
     m_pane->store.setValue("layouts.saved", left);
     m_pane->click(button("Undo"));
+    QCOMPARE(stored(), twoLayouts);
+}
+
+void TestLayoutsPane::aChangeThatIsNotStoredIsTakenBackUntilItIs()
+{
+    const QStringList before = {"Work", "Play"};
+    const QStringList after = {"New", "Play"};
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->store.obstacle = UserDefaults::Trouble::noRoom;
+    type(field(1), "New");
+    press(Qt::Key_Return);
+    QTRY_COMPARE(names(), before);
+    m_pane->store.obstacle = UserDefaults::Trouble::none;
+    m_pane->store.retry();
+    QTRY_COMPARE(names(), after);
+    // Without any store it lasts as long as the process.
+    m_pane->store.obstacle = UserDefaults::Trouble::noStore;
+    m_pane->click(button("Delete Play"));
+    QCoreApplication::processEvents();
+    QCOMPARE(names(), QStringList{"New"});
+}
+
+void TestLayoutsPane::aDeletionThatIsNotStoredIsTakenBackUntilItIs()
+{
+    const QStringList both = {"Work", "Play"};
+    open({{"layouts.saved", twoLayouts}});
+    m_pane->store.obstacle = UserDefaults::Trouble::noRoom;
+    m_pane->click(button("Delete Work"));
+    QTRY_COMPARE(names(), both);
+    QVERIFY(!button("Undo"));
+    m_pane->store.obstacle = UserDefaults::Trouble::none;
+    m_pane->store.retry();
+    QTRY_COMPARE(names(), QStringList{"Play"});
+    m_pane->click(button("Undo"));
+    QCOMPARE(names(), both);
     QCOMPARE(stored(), twoLayouts);
 }
 

@@ -1,11 +1,20 @@
 #include "LayoutsModel.h"
 
 #include "Shared.h"
+#include "UserDefaults.h"
 
 #include <algorithm>
 
 LayoutsModel::LayoutsModel(QObject *parent) : QAbstractListModel(parent), m_layouts(LayoutStore::load(Shared::store()))
 {
+    // Later, because a change may be refused before it has returned what it would have left.
+    connect(
+        &Shared::store(), &UserDefaults::revised, this,
+        [this](const QString &key) {
+            if (key == Shared::Key::layoutsSaved)
+                showStored();
+        },
+        Qt::QueuedConnection);
 }
 
 int LayoutsModel::rowCount(const QModelIndex &parent) const
@@ -56,21 +65,40 @@ void LayoutsModel::removeLayout(int row)
 
 QString LayoutsModel::removed() const
 {
-    return m_removals.isEmpty() ? QString() : m_removals.constLast().name;
+    const qsizetype last = lastRemoval();
+    return last < 0 ? QString() : m_removals.at(last).name;
 }
 
 int LayoutsModel::undoRemoval()
 {
-    if (m_removals.isEmpty())
+    const qsizetype last = lastRemoval();
+    if (last < 0)
         return -1;
-    const auto layouts = LayoutStore::restore(m_removals.constLast().places, Shared::store());
+    const auto layouts = LayoutStore::restore(m_removals.at(last).places, Shared::store());
     if (!layouts)
         return -1;
-    const Removal removal = m_removals.takeLast();
+    const Removal removal = m_removals.takeAt(last);
     show(*layouts);
     emit removedChanged();
     const auto restored = std::ranges::find(m_layouts, removal.places.constFirst().layout.id, &SavedLayout::id);
     return restored == m_layouts.end() ? -1 : int(restored - m_layouts.begin());
+}
+
+/// A layout whose removal was refused is there, and it goes when the removal is stored after all.
+qsizetype LayoutsModel::lastRemoval() const
+{
+    const auto isGone = [this](const Removal &removal) {
+        const QUuid id = removal.places.constFirst().layout.id;
+        return std::ranges::find(m_layouts, id, &SavedLayout::id) == m_layouts.end();
+    };
+    const auto last = std::find_if(m_removals.crbegin(), m_removals.crend(), isGone);
+    return m_removals.crend() - last - 1;
+}
+
+void LayoutsModel::showStored()
+{
+    show(LayoutStore::peek(Shared::store()));
+    emit removedChanged();
 }
 
 /// An empty name says nothing, so the place in the list stands in for it.

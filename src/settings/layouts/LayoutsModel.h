@@ -6,7 +6,7 @@
 #include <qqmlregistration.h>
 
 /// The saved layouts as the page lists them: loaded once, when the page is shown. Renaming, removing and taking a
-/// removal back write the whole list and show what was written.
+/// removal back write the whole list and show what was written, and what is stored instead where that is refused.
 class LayoutsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -46,6 +46,8 @@ private:
         QList<LayoutStore::Place> places;
     };
 
+    void showStored();
+    qsizetype lastRemoval() const;
     bool isRow(int row) const { return row >= 0 && row < count(); }
     QString spokenName(int row) const;
     void show(const QList<SavedLayout> &layouts);

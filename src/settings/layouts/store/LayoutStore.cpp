@@ -8,35 +8,51 @@
 
 namespace {
 
-/// The stored layouts, and none at all where something else is stored, which stays byte for byte.
-std::optional<QList<SavedLayout>> read(UserDefaults &store)
+struct Stored {
+    /// Invalid when nothing is stored.
+    QVariant value;
+    /// None when no list can be read from the value.
+    std::optional<QList<SavedLayout>> layouts;
+};
+
+Stored read(const UserDefaults &store)
 {
-    const QVariant stored = store.value(Shared::Key::layoutsSaved);
-    if (!stored.isValid())
-        return QList<SavedLayout>();
-    if (stored.typeId() != QMetaType::QString)
-        return std::nullopt;
-    const QString text = stored.toString();
-    const auto layouts = LayoutCoder::decode(text);
-    if (!layouts)
-        return std::nullopt;
-    const auto normalForm = LayoutStore::encode(*layouts);
-    if (normalForm && *normalForm != text)
-        store.setValue(Shared::Key::layoutsSaved, *normalForm);
-    return layouts;
+    const QVariant value = store.value(Shared::Key::layoutsSaved);
+    if (!value.isValid())
+        return {value, QList<SavedLayout>()};
+    if (value.typeId() != QMetaType::QString)
+        return {value, std::nullopt};
+    return {value, LayoutCoder::decode(value.toString())};
 }
 
-void replace(const QList<SavedLayout> &layouts, UserDefaults &store)
+/// Stores the list in place of what was read. False when it has no text.
+bool replace(const Stored &before, const QList<SavedLayout> &layouts, UserDefaults &store)
 {
-    if (const auto text = LayoutStore::encode(layouts))
+    const auto text = LayoutStore::encode(layouts);
+    if (text && before.value != *text)
         store.setValue(Shared::Key::layoutsSaved, *text);
+    return text.has_value();
+}
+
+/// Gives a stored list its one form. Nothing and what cannot be read stay as they are.
+void settle(const Stored &stored, UserDefaults &store)
+{
+    if (stored.value.isValid() && stored.layouts)
+        replace(stored, *stored.layouts, store);
 }
 
 }
 
 QList<SavedLayout> LayoutStore::load(UserDefaults &store)
 {
-    return read(store).value_or(QList<SavedLayout>());
+    const Stored stored = read(store);
+    settle(stored, store);
+    return stored.layouts.value_or(QList<SavedLayout>());
+}
+
+QList<SavedLayout> LayoutStore::peek(const UserDefaults &store)
+{
+    return read(store).layouts.value_or(QList<SavedLayout>());
 }
 
 std::optional<QString> LayoutStore::encode(const QList<SavedLayout> &layouts)
@@ -46,15 +62,16 @@ std::optional<QString> LayoutStore::encode(const QList<SavedLayout> &layouts)
 
 QList<SavedLayout> LayoutStore::remove(const QUuid &id, UserDefaults &store)
 {
-    QList<SavedLayout> layouts = load(store);
+    const Stored stored = read(store);
+    QList<SavedLayout> layouts = stored.layouts.value_or(QList<SavedLayout>());
     layouts.removeIf([&id](const SavedLayout &layout) { return layout.id == id; });
-    replace(layouts, store);
+    replace(stored, layouts, store);
     return layouts;
 }
 
-QList<LayoutStore::Place> LayoutStore::find(const QUuid &id, UserDefaults &store)
+QList<LayoutStore::Place> LayoutStore::find(const QUuid &id, const UserDefaults &store)
 {
-    const QList<SavedLayout> layouts = load(store);
+    const QList<SavedLayout> layouts = peek(store);
     QList<Place> places;
     for (qsizetype i = 0; i < layouts.size(); ++i) {
         if (layouts.at(i).id == id)
@@ -65,28 +82,31 @@ QList<LayoutStore::Place> LayoutStore::find(const QUuid &id, UserDefaults &store
 
 std::optional<QList<SavedLayout>> LayoutStore::restore(const QList<Place> &removed, UserDefaults &store)
 {
-    auto layouts = read(store);
-    if (!layouts)
+    const Stored stored = read(store);
+    if (!stored.layouts)
         return std::nullopt;
+    QList<SavedLayout> layouts = *stored.layouts;
     const auto isStored = [&](const Place &place) {
-        return std::ranges::find(*layouts, place.layout.id, &SavedLayout::id) != layouts->end();
+        return std::ranges::find(layouts, place.layout.id, &SavedLayout::id) != layouts.end();
     };
-    if (removed.isEmpty() || std::ranges::any_of(removed, isStored))
+    if (removed.isEmpty() || std::ranges::any_of(removed, isStored)) {
+        settle(stored, store);
         return layouts;
+    }
     for (const Place &place : removed)
-        layouts->insert(std::min(place.index, layouts->size()), place.layout);
-    replace(*layouts, store);
+        layouts.insert(std::min(place.index, layouts.size()), place.layout);
+    replace(stored, layouts, store);
     return layouts;
 }
 
 QList<SavedLayout> LayoutStore::rename(const QUuid &id, const QString &name, UserDefaults &store)
 {
-    QList<SavedLayout> layouts = load(store);
-    const auto layout = std::find_if(layouts.begin(), layouts.end(),
-                                     [&id](const SavedLayout &candidate) { return candidate.id == id; });
-    if (layout == layouts.end())
-        return layouts;
-    layout->name = name;
-    replace(layouts, store);
+    const Stored stored = read(store);
+    QList<SavedLayout> layouts = stored.layouts.value_or(QList<SavedLayout>());
+    const auto layout = std::ranges::find(layouts, id, &SavedLayout::id);
+    if (layout != layouts.end())
+        layout->name = name;
+    if (layout == layouts.end() || !replace(stored, layouts, store))
+        settle(stored, store);
     return layouts;
 }

@@ -17,6 +17,9 @@ namespace LayoutStore {
 /// name and a date the agent left out are settled by the first load.
 QList<SavedLayout> load(UserDefaults &store);
 
+/// The same, but only reads: what has no id gets another one each time.
+QList<SavedLayout> peek(const UserDefaults &store);
+
 /// The text a list is stored as; none when it has none.
 std::optional<QString> encode(const QList<SavedLayout> &layouts);
 
@@ -31,7 +34,7 @@ struct Place {
 };
 
 /// Every stored layout of that id, in order.
-QList<Place> find(const QUuid &id, UserDefaults &store);
+QList<Place> find(const QUuid &id, const UserDefaults &store);
 
 /// Puts layouts that were found and then removed back to their places, in a list that has become shorter to its end,
 /// and returns the new list. A layout whose id is stored, or none at all, writes nothing. Nor does a list that is
