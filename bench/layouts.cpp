@@ -1,5 +1,6 @@
 #include "FakeUserDefaults.h"
 #include "LayoutStore.h"
+#include "SampleLayouts.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,31 +15,10 @@ namespace {
 
 constexpr double target = 2;
 
-SavedLayout layout(int number)
-{
-    SavedLayout layout{QUuid(static_cast<uint>(number), 1, 2, 3, 4, 5, 6, 7, 8, 9, 10),
-                       QStringLiteral("Layout %1").arg(number),
-                       {},
-                       7e8 + number / 16.0};
-    for (int window = 0; window < 3; ++window)
-        layout.windows.append({QStringLiteral("org.example.editor%1").arg(window), QStringLiteral("Editor"),
-                               QStringLiteral("Notes — page %1").arg(number), UnitRect{window / 3.0, 0, 1 / 3.0, 0.75},
-                               QStringLiteral("37D8832A-2D66-02CA-B9F7-8F30A301B230")});
-    return layout;
-}
-
-QString textOf(std::int64_t count)
-{
-    QList<SavedLayout> layouts;
-    for (int number = 0; number < count; ++number)
-        layouts.append(layout(number));
-    return LayoutStore::encode(layouts).value();
-}
-
 /// The floor: the same text parsed to a tree of values, and nothing made of it.
 void parse(benchmark::State &state)
 {
-    const QByteArray text = textOf(state.range(0)).toUtf8();
+    const QByteArray text = SampleLayouts::text(int(state.range(0))).toUtf8();
     for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(QJsonDocument::fromJson(text));
 }
@@ -46,7 +26,7 @@ void parse(benchmark::State &state)
 void load(benchmark::State &state)
 {
     FakeUserDefaults store;
-    store.values.insert(QStringLiteral("layouts.saved"), textOf(state.range(0)));
+    store.values.insert(QStringLiteral("layouts.saved"), SampleLayouts::text(int(state.range(0))));
     for ([[maybe_unused]] auto round : state)
         benchmark::DoNotOptimize(LayoutStore::load(store));
 }

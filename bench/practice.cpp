@@ -1,3 +1,4 @@
+#include "Canvas.h"
 #include "DemoModel.h"
 #include "EBKit.h"
 #include "FakePlatform.h"
@@ -8,8 +9,6 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QQuickItem>
-#include <QQuickRenderControl>
-#include <QQuickRenderTarget>
 #include <QQuickWindow>
 #include <QTextStream>
 
@@ -43,35 +42,6 @@ protected:
 
 private:
     qint64 m_elapsed = 0;
-};
-
-/// An offscreen window, drawn with the software renderer at scale 1 whenever it is told to.
-class Canvas {
-public:
-    Canvas() : m_window(&m_control), m_picture(windowSize, QImage::Format_RGB32)
-    {
-        m_window.setColor(EBKit::paper().current());
-        m_window.resize(windowSize);
-        m_window.contentItem()->setSize(windowSize);
-        m_window.setRenderTarget(QQuickRenderTarget::fromPaintDevice(&m_picture));
-    }
-
-    const QImage &picture() const { return m_picture; }
-    QQuickItem *content() const { return m_window.contentItem(); }
-
-    void draw()
-    {
-        m_control.polishItems();
-        m_control.beginFrame();
-        m_control.sync();
-        m_control.render();
-        m_control.endFrame();
-    }
-
-private:
-    QQuickRenderControl m_control;
-    QQuickWindow m_window;
-    QImage m_picture;
 };
 
 /// The time in milliseconds that each frame takes in which something moves because of `change`.
@@ -134,7 +104,7 @@ int main(int argc, char *argv[])
     FrameClock clock;
     ViewEngine engine;
     DemoModel model;
-    Canvas canvas;
+    Canvas canvas(windowSize, EBKit::paper().current());
     show(engine, "HandsOnMissionControl", {}, model, canvas.content());
     const QStringList shown = {QStringLiteral("close"), QStringLiteral("minimize"), QStringLiteral("maximize")};
     show(engine, "ShortcutChips", {{QStringLiteral("shown"), shown}}, model, canvas.content())->setPosition({120, 210});

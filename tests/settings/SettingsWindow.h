@@ -10,9 +10,10 @@
 /// The settings window of version 1.4 on the screen, without motion.
 class SettingsWindow : public ViewWindow {
 public:
+    /// `stored` is what the store holds before there is a window.
     explicit SettingsWindow(const std::optional<QString> &initial = {},
-                            const QList<EBSettingsPage> &pages = SettingsPages::make())
-        : controller(prepared(), EBApp::corvane, QStringLiteral("1.4"), pages, initial)
+                            const QList<EBSettingsPage> &pages = SettingsPages::make(), const QVariantMap &stored = {})
+        : ViewWindow(stored), controller(prepared(), EBApp::corvane, QStringLiteral("1.4"), pages, initial)
     {
         lookInto(*controller.window());
         controller.showWindow();

@@ -5,17 +5,28 @@ import Embera.Controls
 import Embera.Rows
 
 /// A card around rows, which stand in its middle, with a rule between each two that show.
-ContinuousRectangle {
+Item {
     id: card
 
     default property alias content: rows.data
+    /// What is drawn of the card, in points below its upper edge: all of it, unless somebody who knows that it is very
+    /// long and what of it is in view says less. The corners are where the drawing ends.
+    property real drawnFrom: 0
+    property real drawnTo: height
 
     implicitWidth: rows.implicitWidth
     implicitHeight: rows.implicitHeight
     width: parent?.width ?? implicitWidth
-    radius: KitMetrics.cardRadius
-    color: EB.surface
 
+    ContinuousRectangle {
+        id: ground
+
+        y: card.drawnFrom
+        width: card.width
+        height: card.drawnTo - card.drawnFrom
+        radius: KitMetrics.cardRadius
+        color: EB.surface
+    }
     Column {
         id: rows
 
@@ -36,8 +47,8 @@ ContinuousRectangle {
     }
     // Over the content, so that nothing in it hides the edge.
     ContinuousRectangle {
-        anchors.fill: parent
-        radius: card.radius
+        anchors.fill: ground
+        radius: ground.radius
         strokeColor: EB.line
         strokeWidth: 1
     }

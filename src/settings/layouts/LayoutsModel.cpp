@@ -34,6 +34,8 @@ QVariant LayoutsModel::data(const QModelIndex &index, int role) const
         return spokenName(index.row());
     case LayoutRole:
         return QVariant::fromValue(layout);
+    case RowRole:
+        return index.row();
     default:
         return {};
     }
@@ -41,7 +43,7 @@ QVariant LayoutsModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> LayoutsModel::roleNames() const
 {
-    return {{NameRole, "name"}, {SpokenNameRole, "spokenName"}, {LayoutRole, "layout"}};
+    return {{NameRole, "name"}, {SpokenNameRole, "spokenName"}, {LayoutRole, "layout"}, {RowRole, "row"}};
 }
 
 void LayoutsModel::rename(int row, const QString &name)

@@ -14,8 +14,8 @@ class LayoutsModel : public QAbstractListModel {
     /// What the layout is called that was removed last and can be brought back; empty when there is none.
     Q_PROPERTY(QString removed READ removed NOTIFY removedChanged)
 public:
-    /// The name as stored, the name as it is read out, and the SavedLayout.
-    enum Role { NameRole = Qt::UserRole, SpokenNameRole, LayoutRole };
+    /// The name as stored, the name as it is read out, the SavedLayout, and the row it stands in.
+    enum Role { NameRole = Qt::UserRole, SpokenNameRole, LayoutRole, RowRole };
 
     explicit LayoutsModel(QObject *parent = nullptr);
 

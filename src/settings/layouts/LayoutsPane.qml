@@ -79,6 +79,8 @@ PaneStack {
     }
     SavedLayouts {
         enabled: Key.isWritable(Key.layoutsSaved)
+        viewTop: pane.viewTop - y
+        viewBottom: pane.viewBottom - y
     }
     GroupLabel {
         text: qsTr("In Mission Control")

@@ -41,7 +41,8 @@ Flickable {
     contentHeight: implicitHeight
     interactive: false
     clip: scrolls
-    onFocusItemChanged: if (scrolls && focusItem && pane.activeFocus)
+    // What had the focus may have gone: then the page has it as a whole, and stays where it is.
+    onFocusItemChanged: if (scrolls && focusItem && focusItem !== content && pane.activeFocus)
         reveal(focusItem.mapToItem(contentItem, 0, -18).y, focusItem.mapToItem(contentItem, 0, focusItem.height + 18).y)
 
     T.ScrollBar.vertical: T.ScrollBar {
@@ -49,6 +50,8 @@ Flickable {
         padding: 2
         visible: area.scrolls
         interactive: true
+        // Of a very long page, enough to take hold of.
+        minimumSize: 24 / height
         contentItem: Rectangle {
             radius: width / 2
             color: EB.lineStrong
@@ -60,6 +63,16 @@ Flickable {
         function onSelectionChanged() {
             area.contentY = 0;
         }
+    }
+    Binding {
+        target: content.item as PaneStack
+        property: "viewTop"
+        value: area.contentY - page.y - pane.y
+    }
+    Binding {
+        target: content.item as PaneStack
+        property: "viewBottom"
+        value: area.contentY + area.height - page.y - pane.y
     }
     WheelHandler {
         enabled: area.scrolls
