@@ -26,14 +26,13 @@ QVariant LayoutsModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const SavedLayout &layout = m_layouts.at(index.row());
     switch (role) {
     case NameRole:
-        return layout.name;
+        return m_layouts.name(index.row());
     case SpokenNameRole:
         return spokenName(index.row());
     case LayoutRole:
-        return QVariant::fromValue(layout);
+        return QVariant::fromValue(m_layouts.at(index.row()));
     case RowRole:
         return index.row();
     default:
@@ -49,14 +48,14 @@ QHash<int, QByteArray> LayoutsModel::roleNames() const
 void LayoutsModel::rename(int row, const QString &name)
 {
     if (isRow(row))
-        show(LayoutStore::rename(m_layouts.at(row).id, name, Shared::store()));
+        show(LayoutStore::rename(m_layouts.id(row), name, Shared::store()));
 }
 
 void LayoutsModel::removeLayout(int row)
 {
     if (!isRow(row))
         return;
-    const QUuid id = m_layouts.at(row).id;
+    const QUuid id = m_layouts.id(row);
     const Removal removal = {spokenName(row), LayoutStore::find(id, Shared::store())};
     show(LayoutStore::remove(id, Shared::store()));
     if (removal.places.isEmpty())
@@ -82,16 +81,15 @@ int LayoutsModel::undoRemoval()
     const Removal removal = m_removals.takeAt(last);
     show(*layouts);
     emit removedChanged();
-    const auto restored = std::ranges::find(m_layouts, removal.places.constFirst().layout.id, &SavedLayout::id);
-    return restored == m_layouts.end() ? -1 : int(restored - m_layouts.begin());
+    const auto restored = std::ranges::find(*layouts, removal.places.constFirst().layout.id, &SavedLayout::id);
+    return restored == layouts->cend() ? -1 : int(restored - layouts->cbegin());
 }
 
 /// A layout whose removal was refused is there, and it goes when the removal is stored after all.
 qsizetype LayoutsModel::lastRemoval() const
 {
     const auto isGone = [this](const Removal &removal) {
-        const QUuid id = removal.places.constFirst().layout.id;
-        return std::ranges::find(m_layouts, id, &SavedLayout::id) == m_layouts.end();
+        return !m_layouts.contains(removal.places.constFirst().layout.id);
     };
     const auto last = std::find_if(m_removals.crbegin(), m_removals.crend(), isGone);
     return m_removals.crend() - last - 1;
@@ -106,7 +104,7 @@ void LayoutsModel::showStored()
 /// An empty name says nothing, so the place in the list stands in for it.
 QString LayoutsModel::spokenName(int row) const
 {
-    const QString &name = m_layouts.at(row).name;
+    const QString name = m_layouts.name(row);
     //: %1 is the place of a layout without a name in the list.
     return name.isEmpty() ? tr("layout %1").arg(row + 1) : name;
 }
@@ -114,27 +112,28 @@ QString LayoutsModel::spokenName(int row) const
 /// Rows that stay are kept, so that the field a person has just typed into keeps the focus.
 void LayoutsModel::show(const QList<SavedLayout> &layouts)
 {
-    const auto sameId = [](const SavedLayout &a, const SavedLayout &b) { return a.id == b.id; };
-    const auto shorter = std::min(m_layouts.size(), layouts.size());
-    const auto head = std::mismatch(m_layouts.begin(), m_layouts.begin() + shorter, layouts.begin(), sameId).first
-        - m_layouts.begin();
-    const auto tail =
-        std::mismatch(m_layouts.rbegin(), m_layouts.rbegin() + (shorter - head), layouts.rbegin(), sameId).first
-        - m_layouts.rbegin();
+    const CompactLayouts shown(layouts);
+    const int shorter = std::min(count(), shown.count());
+    int head = 0;
+    while (head < shorter && m_layouts.id(head) == shown.id(head))
+        ++head;
+    int tail = 0;
+    while (tail < shorter - head && m_layouts.id(count() - 1 - tail) == shown.id(shown.count() - 1 - tail))
+        ++tail;
     const int before = count();
 
-    if (const int last = int(m_layouts.size() - tail) - 1; last >= head) {
-        beginRemoveRows({}, int(head), last);
+    if (const int last = count() - tail - 1; last >= head) {
+        beginRemoveRows({}, head, last);
         m_layouts.remove(head, last - head + 1);
         endRemoveRows();
     }
-    if (const int last = int(layouts.size() - tail) - 1; last >= head) {
-        beginInsertRows({}, int(head), last);
-        m_layouts = layouts;
+    if (const int last = shown.count() - tail - 1; last >= head) {
+        beginInsertRows({}, head, last);
+        m_layouts = shown;
         endInsertRows();
     }
-    m_layouts = layouts;
-    if (!m_layouts.isEmpty())
+    m_layouts = shown;
+    if (count() > 0)
         emit dataChanged(index(0), index(count() - 1));
     if (count() != before)
         emit countChanged();

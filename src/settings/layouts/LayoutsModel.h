@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CompactLayouts.h"
 #include "LayoutStore.h"
 
 #include <QAbstractListModel>
@@ -14,12 +15,12 @@ class LayoutsModel : public QAbstractListModel {
     /// What the layout is called that was removed last and can be brought back; empty when there is none.
     Q_PROPERTY(QString removed READ removed NOTIFY removedChanged)
 public:
-    /// The name as stored, the name as it is read out, the SavedLayout, and the row it stands in.
+    /// The name as stored, the name as it is read out, the SavedLayout without its titles, and the row it stands in.
     enum Role { NameRole = Qt::UserRole, SpokenNameRole, LayoutRole, RowRole };
 
     explicit LayoutsModel(QObject *parent = nullptr);
 
-    int count() const { return int(m_layouts.size()); }
+    int count() const { return m_layouts.count(); }
     QString removed() const;
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -52,6 +53,6 @@ private:
     QString spokenName(int row) const;
     void show(const QList<SavedLayout> &layouts);
 
-    QList<SavedLayout> m_layouts;
+    CompactLayouts m_layouts;
     QList<Removal> m_removals;
 };
