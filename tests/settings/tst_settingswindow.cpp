@@ -44,7 +44,8 @@ private slots:
     void aWindowThatIsStillMovedIsLeftAlone();
     void aWindowThatWasMovedFarDownKeepsItsFirstHeight();
     void onAnotherScreenTheWindowFitsAgain();
-    void whereThePlaceIsUnknownTheScreensHeightDecides();
+    void whereThePlaceIsUnknownTheWindowGrowsAsFarAsInTheMiddle();
+    void whereThePlaceIsUnknownTheFirstPageHasTheScreen();
     void theBackgroundFollowsTheAppearance();
     void theViewFillsTheWindow();
 
@@ -356,17 +357,36 @@ void TestSettingsWindow::onAnotherScreenTheWindowFitsAgain()
     QCOMPARE(window().geometry(), QRect(90, screenHeight() - 500, 620, 500));
 }
 
-void TestSettingsWindow::whereThePlaceIsUnknownTheScreensHeightDecides()
+void TestSettingsWindow::whereThePlaceIsUnknownTheWindowGrowsAsFarAsInTheMiddle()
 {
     m_platform->space.places = false;
-    show();
     m_platform->look.setReduceMotion(true);
+    QCOMPARE(screenHeight(), 800);
+    m_controller->fit(QSizeF(620, 310));
+    show();
     window().setPosition(90, 300);
-    m_controller->fit(QSizeF(620, 650));
-    QCOMPARE(window().geometry(), QRect(90, 300, 620, 650));
-    // The desktop's bars are kept free, which nobody tells either.
+    m_controller->fit(QSizeF(620, 531));
+    QCOMPARE(window().geometry(), QRect(90, 300, 620, 531));
+    // A bar at the edge of the screen is kept free, which nobody tells either.
+    m_controller->fit(QSizeF(620, 532));
+    QCOMPARE(window().geometry(), QRect(90, 300, 620, 531));
+    // Who is hidden gets a new place.
+    m_controller->fit(QSizeF(620, 411));
+    window().hide();
+    show();
     m_controller->fit(QSizeF(620, 5000));
-    QCOMPARE(window().geometry(), QRect(90, 300, 620, screenHeight() - 96));
+    QCOMPARE(window().height(), 581);
+}
+
+void TestSettingsWindow::whereThePlaceIsUnknownTheFirstPageHasTheScreen()
+{
+    m_platform->space.places = false;
+    m_controller = std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4",
+                                                                QList{page("high", 5000)}, std::nullopt);
+    QCOMPARE(window().height(), 704);
+    show();
+    m_controller->fit(QSizeF(620, 5000));
+    QCOMPARE(window().height(), 704);
 }
 
 void TestSettingsWindow::theBackgroundFollowsTheAppearance()

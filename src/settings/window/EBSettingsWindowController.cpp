@@ -15,8 +15,8 @@ namespace {
 constexpr QSize initialContent(620, 410);
 constexpr qreal noise = 0.5;
 constexpr double stillSeconds = 0.3;
-/// What a desktop's own bars may take of the screen, where it tells neither that nor the window's place; in points.
-constexpr int desktopBars = 96;
+/// What a bar of the desktop may take of the screen, where it tells neither that nor the window's place; in points.
+constexpr int desktopBar = 48;
 
 const QString rootView = QStringLiteral("qrc:/qt/qml/Corvane/Settings/Window/SettingsRoot.qml");
 
@@ -48,6 +48,10 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
     //: The title of the settings window; %1 is the product's name.
     m_window->setTitle(tr("%1 Settings").arg(EBApps::displayName(app)));
     m_window->center();
+    connect(m_window.get(), &QWindow::visibleChanged, this, [this](bool isVisible) {
+        if (isVisible)
+            m_placedHeight = m_window->height();
+    });
 
     m_root = ViewEngine::make<MeasuredItem>(
         engine, rootView,
@@ -89,12 +93,15 @@ void EBSettingsWindowController::followMove()
 }
 
 /// How high a window can become whose upper edge is at `top`. The first fit centers the window, so that it has the
-/// whole screen. A window that was moved far down keeps a usable height.
+/// whole screen. A window that was moved far down keeps a usable height. Where its place is unknown it is
+/// taken for the one that it came up at, in the middle: half of what it left free there lies below it.
 int EBSettingsWindowController::room(int top) const
 {
     const QRect screen = m_window->screen()->availableGeometry();
-    if (!isPlaceKnown())
-        return screen.height() - desktopBars;
+    if (!isPlaceKnown()) {
+        const int whole = screen.height() - 2 * desktopBar;
+        return m_placedHeight ? std::min(whole, (screen.height() - desktopBar + *m_placedHeight) / 2) : whole;
+    }
     const int below = m_sized ? screen.bottom() + 1 - top : screen.height();
     return std::min(std::max(below, initialContent.height()), screen.height());
 }

@@ -35,7 +35,8 @@ public:
     /// A height of 0 or less, or within half a point of the window's, changes nothing.
     ///
     /// Where the screen has no room for it below the window's upper edge, the window moves up by what is missing; where
-    /// the screen is too low altogether, it stays and ends at the screen's lower edge.
+    /// the screen is too low altogether, it stays and ends at the screen's lower edge. Where the desktop tells no
+    /// window its place, it is taken to stand where it came up, in the middle.
     void fit(QSizeF size);
 
 private:
@@ -51,6 +52,8 @@ private:
     std::unique_ptr<EBWindow> m_window;
     MeasuredItem *m_root = nullptr;
     bool m_sized = false;
+    /// How high it was when the desktop gave it its place; none before.
+    std::optional<int> m_placedHeight;
     /// Held until the window, which somebody has moved, has stood still for a moment.
     std::unique_ptr<MainQueue::Repetition> m_move;
 };
