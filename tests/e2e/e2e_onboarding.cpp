@@ -32,12 +32,7 @@ private:
     std::optional<TopLevel> windowOf(QSize size) const;
 
     bool press(const QString &button) const;
-    void click(const Accessible &element) const { pointer().click(element.extents().center()); }
-    bool clickButton(const QString &name) const;
     Accessible cell(const QString &name) const { return find(ATSPI_ROLE_PANEL, name); }
-
-    /// Takes the tile by the pointer to the middle of `target` and lets go there.
-    void dragTile(const TopLevel &tile, const Accessible &target) const;
 
     /// What was sent, in order: "setLaunchAtLogin true".
     QStringList sent() const;
@@ -116,29 +111,6 @@ bool TestOnboarding::press(const QString &button) const
     return element && element.doAction(u"Press"_s);
 }
 
-bool TestOnboarding::clickButton(const QString &name) const
-{
-    const Accessible element = find(ATSPI_ROLE_PUSH_BUTTON, name);
-    if (element)
-        click(element);
-    return !element.isNull();
-}
-
-void TestOnboarding::dragTile(const TopLevel &tile, const Accessible &target) const
-{
-    const QPoint from = tile.frame().center();
-    const QPoint to = target.extents().center();
-    pointer().move(from);
-    pointer().press();
-    // Each position is offered to the window under the pointer, which has to answer before the next one.
-    for (int step = 1; step <= 20; ++step) {
-        pointer().move(from + (to - from) * step / 20);
-        application().name();
-        m_agent->tree().name();
-    }
-    pointer().release();
-}
-
 QStringList TestOnboarding::sent() const
 {
     QStringList list;
@@ -204,7 +176,7 @@ void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
     QVERIFY(list);
     const auto tile = windowOf(tileSize);
     QVERIFY(tile);
-    dragTile(*tile, list);
+    drag(tile->frame().center(), place(list), *m_agent);
     QVERIFY(store().waitFor(trusted, true));
     const auto back = windowOf(guideSize);
     QVERIFY(back);

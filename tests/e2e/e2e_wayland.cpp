@@ -16,19 +16,15 @@ protected:
     QProcessEnvironment environment() const override { return m_compositor->inside(desktop().environment()); }
     bool hasWindow() const override { return shown().has_value(); }
     void closeWindow() const override { m_compositor->close(program().processId()); }
+    QPoint place(const Accessible &element) const override { return placeIn(program().processId(), element); }
 
 private:
-    /// The program's window; none before it is on the screen.
-    std::optional<Compositor::Window> shown() const;
+    /// The window of the program, or of another process; none before it is on the screen.
+    std::optional<Compositor::Window> shown() const { return shown(program()); }
+    std::optional<Compositor::Window> shown(const Program &of) const;
 
-    /// Where the middle of an element of the program, or of another process, is on the screen.
-    QPoint place(const Accessible &element) const { return place(element, application(), program().processId()); }
-    QPoint place(const Accessible &element, const Accessible &tree, qint64 processId) const;
-
-    bool clickButton(const QString &name) const;
-
-    /// Takes what is at `from` by the pointer to `to`, and lets go there.
-    void drag(QPoint from, QPoint to) const;
+    /// Where the middle of an element of that process is on the screen.
+    QPoint placeIn(qint64 processId, const Accessible &element) const;
 
     std::unique_ptr<Compositor> m_compositor;
     std::unique_ptr<ReferenceAgent> m_agent;
@@ -38,6 +34,8 @@ private slots:
     void cleanup();
 
     void theSettingsWindowIsKnownByItsNameAndCloses();
+    void aHigherPageStaysOnTheScreen();
+    void aSecondStartComesToTheFrontWithTheLaunchersToken();
     void noGraphicsDriverIsLoaded();
     void theDesktopsTextSizeScalesTheWindow();
     void theWholeJourneyByPointer();
@@ -61,39 +59,18 @@ void TestWayland::cleanup()
     QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(u'\n')));
 }
 
-std::optional<Compositor::Window> TestWayland::shown() const
+std::optional<Compositor::Window> TestWayland::shown(const Program &of) const
 {
-    const QList<Compositor::Window> windows = m_compositor->windowsOf(program().processId());
+    const QList<Compositor::Window> windows = m_compositor->windowsOf(of.processId());
     return windows.isEmpty() ? std::nullopt : std::optional(windows.constFirst());
 }
 
-QPoint TestWayland::place(const Accessible &element, const Accessible &tree, qint64 processId) const
+QPoint TestWayland::placeIn(qint64 processId, const Accessible &element) const
 {
     const QList<Compositor::Window> windows = m_compositor->windowsOf(processId);
-    const QList<Accessible> frames = tree.children();
+    const QList<Accessible> frames = Accessible::application(processId).children();
     REQUIRE(windows.size() == 1 && frames.size() == 1);
     return windows.constFirst().frame.topLeft() + element.extents().center() - frames.constFirst().extents().topLeft();
-}
-
-bool TestWayland::clickButton(const QString &name) const
-{
-    const Accessible button = find(ATSPI_ROLE_PUSH_BUTTON, name);
-    if (button)
-        pointer().click(place(button));
-    return !button.isNull();
-}
-
-void TestWayland::drag(QPoint from, QPoint to) const
-{
-    pointer().move(from);
-    pointer().press();
-    // Each position is offered to the window under the pointer, which has to answer before the next one.
-    for (int step = 1; step <= 20; ++step) {
-        pointer().move(from + (to - from) * step / 20);
-        application().name();
-        m_agent->tree().name();
-    }
-    pointer().release();
 }
 
 void TestWayland::theSettingsWindowIsKnownByItsNameAndCloses()
@@ -106,6 +83,38 @@ void TestWayland::theSettingsWindowIsKnownByItsNameAndCloses()
     QVERIFY(clickButton(u"Close"_s));
     QVERIFY(program().waitForExit());
     QCOMPARE(program().exitCode(), 0);
+}
+
+/// It came up in the middle, and nobody tells it that it is still there.
+void TestWayland::aHigherPageStaysOnTheScreen()
+{
+    QVERIFY(open());
+    const QRect first = shown()->frame;
+    FIND(page, ATSPI_ROLE_LIST_ITEM, "Layouts");
+    QVERIFY(page.doAction(u"Press"_s));
+    QTRY_COMPARE(shown()->frame.height(), 531);
+    QCOMPARE(shown()->frame.topLeft(), first.topLeft());
+    QVERIFY(shown()->frame.bottom() < desktop().x().size().height());
+}
+
+void TestWayland::aSecondStartComesToTheFrontWithTheLaunchersToken()
+{
+    QVERIFY(open());
+    Program about(defaultExecutable(), environment());
+    QVERIFY(about.start({u"--about"_s}));
+    QTRY_VERIFY_WITH_TIMEOUT(shown(about) && shown(about)->hasFocus, 20000);
+    QCOMPARE(shown(about)->appId, u"com.vexmoor.corvane.settings"_s);
+    QVERIFY(!shown()->hasFocus);
+    QProcessEnvironment fromLauncher = environment();
+    fromLauncher.insert(u"XDG_ACTIVATION_TOKEN"_s, m_compositor->launcherToken());
+    Program second(defaultExecutable(), fromLauncher);
+    QVERIFY(second.start());
+    QVERIFY(second.waitForExit());
+    QCOMPARE(second.exitCode(), 0);
+    QTRY_VERIFY(shown()->hasFocus);
+    QVERIFY(!shown(about)->hasFocus);
+    QVERIFY(about.terminate());
+    QCOMPARE(about.complaints(), QStringList());
 }
 
 /// The software renderer needs none, and it would take as much memory as all the rest.
@@ -132,6 +141,7 @@ void TestWayland::theWholeJourneyByPointer()
     QVERIFY(m_agent->start(store()));
     QVERIFY(open({.arguments = {u"--onboarding"_s}}));
     QCOMPARE(shown()->title, u"Welcome to Corvane"_s);
+    QCOMPARE(shown()->appId, u"com.vexmoor.corvane.settings"_s);
     QCOMPARE(shown()->frame.size(), QSize(560, 388));
     QVERIFY(clickButton(u"Get started"_s));
 
@@ -155,12 +165,12 @@ void TestWayland::theWholeJourneyByPointer()
     QVERIFY(shown());
     FIND(tile, ATSPI_ROLE_LABEL, "Not in the list? Drag me in.");
     m_compositor->move(agent, {20, 20});
-    drag(place(tile), place(list, m_agent->tree(), agent));
+    drag(place(tile), placeIn(agent, list), *m_agent);
     QVERIFY(store().waitFor(u"agent.accessibilityTrusted"_s, true));
 
     QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
     FIND(soft, ATSPI_ROLE_RADIO_BUTTON, "Soft look");
-    pointer().click(place(soft));
+    click(soft);
     QVERIFY(store().waitFor(u"buttonTheme"_s, u"soft"_s));
     QVERIFY(clickButton(u"Looks Good"_s));
     QVERIFY(clickButton(u"Open Mission Control"_s));

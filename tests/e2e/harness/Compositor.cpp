@@ -1,6 +1,7 @@
 #include "Compositor.h"
 
 #include "ChildProcess.h"
+#include "LauncherToken.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -15,6 +16,7 @@ constexpr const char *configuration = R"(output X11-1 resolution 1280x800 positi
 output X11-1 background #5a7fa8 solid_color
 default_border none
 default_floating_border none
+focus_on_window_activation focus
 exec echo $SWAYSOCK $WAYLAND_DISPLAY
 )";
 
@@ -77,6 +79,11 @@ QProcessEnvironment Compositor::inside(QProcessEnvironment environment) const
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
     environment.insert(QStringLiteral("WAYLAND_DISPLAY"), m_display);
     return environment;
+}
+
+QString Compositor::launcherToken() const
+{
+    return QString::fromUtf8(::launcherToken(m_display));
 }
 
 QList<Compositor::Window> Compositor::windowsOf(qint64 processId) const

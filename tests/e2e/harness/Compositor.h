@@ -31,6 +31,9 @@ public:
         bool hasFocus;
     };
 
+    /// The right to come to the front, as a launcher hands it to what the person starts; empty where there is none.
+    QString launcherToken() const;
+
     /// The windows of that process that are on the screen, in no order.
     QList<Window> windowsOf(qint64 processId) const;
 

@@ -1,6 +1,7 @@
 #include "EndToEndTest.h"
 
 #include "FailureReport.h"
+#include "ReferenceAgent.h"
 
 namespace {
 
@@ -134,6 +135,27 @@ Accessible EndToEndTest::find(AtspiRole role, const QString &name) const
 bool EndToEndTest::disappears(AtspiRole role, const QString &name) const
 {
     return QTest::qWaitFor([&] { return application().find(role, name).isNull(); }, answerTime);
+}
+
+bool EndToEndTest::clickButton(const QString &name) const
+{
+    const Accessible button = find(ATSPI_ROLE_PUSH_BUTTON, name);
+    if (button)
+        click(button);
+    return !button.isNull();
+}
+
+void EndToEndTest::drag(QPoint from, QPoint to, const ReferenceAgent &agent) const
+{
+    pointer().move(from);
+    pointer().press();
+    // Each position is offered to the window under the pointer, which has to answer before the next one.
+    for (int step = 1; step <= 20; ++step) {
+        pointer().move(from + (to - from) * step / 20);
+        application().name();
+        agent.tree().name();
+    }
+    pointer().release();
 }
 
 bool EndToEndTest::shows(const QString &text) const

@@ -16,6 +16,8 @@
 #include <memory>
 #include <optional>
 
+class ReferenceAgent;
+
 /// Defines `variable` as the element with that role and name, and fails the test when it does not appear in
 /// time.
 #define FIND(variable, role, name)                                                                                     \
@@ -57,6 +59,9 @@ protected:
     virtual bool hasWindow() const;
     virtual void closeWindow() const;
 
+    /// Where the middle of an element of the program is on the screen.
+    virtual QPoint place(const Accessible &element) const { return element.extents().center(); }
+
     const Desktop &desktop() const { return *m_session->desktop; }
     const Store &store() const { return m_session->store; }
     CommandListener &commands() const { return m_session->commands; }
@@ -76,6 +81,14 @@ protected:
 
     /// Waits until no showing element has that role and name.
     bool disappears(AtspiRole role, const QString &name) const;
+
+    void click(const Accessible &element) const { pointer().click(place(element)); }
+
+    /// Clicks the button of that name; false when it does not appear in time.
+    bool clickButton(const QString &name) const;
+
+    /// Takes what is at `from`, in the program, by the pointer to `to`, in a window of `agent`, and lets go there.
+    void drag(QPoint from, QPoint to, const ReferenceAgent &agent) const;
 
     /// Waits until a person is shown, or is no longer shown, that text, as an element's name or as its description.
     bool shows(const QString &text) const;
