@@ -13,20 +13,21 @@ private slots:
 
     void aPageWithoutRoomBelowMovesTheWindowUp();
     void aWindowThatWasMovedFitsAgain();
+    void aLowerPageLeavesNoPointOfHeight();
 
 private:
     /// Starts the window manager, and then the program on that page.
-    bool openPage(const QString &page);
+    bool openPage(const QString &page, const QString &manager = u"openbox"_s, const QStringList &arguments = {});
     /// Whether the last tip of the Layouts page, far down, is on the screen.
     bool showsTheEnd() const;
 
     std::unique_ptr<WindowManager> m_manager;
 };
 
-bool TestWindowManager::openPage(const QString &page)
+bool TestWindowManager::openPage(const QString &page, const QString &manager, const QStringList &arguments)
 {
-    m_manager = std::make_unique<WindowManager>(desktop(), u"openbox"_s);
-    return m_manager->start() && open({.environment = {{u"CV_TAB"_s, page}}})
+    m_manager = std::make_unique<WindowManager>(desktop(), manager);
+    return m_manager->start(arguments) && open({.environment = {{u"CV_TAB"_s, page}}})
         && QTest::qWaitFor([this] { return window()->hasInputFocus(); });
 }
 
@@ -65,6 +66,23 @@ void TestWindowManager::aWindowThatWasMovedFitsAgain()
     window()->moveTo(first.topLeft());
     QTRY_COMPARE(window()->geometry(), first);
     QTRY_VERIFY(showsTheEnd());
+}
+
+/// This window manager reports sizes of the animation after it is over.
+void TestWindowManager::aLowerPageLeavesNoPointOfHeight()
+{
+    QVERIFY(openPage(u"general"_s, u"mutter"_s, {u"--x11"_s}));
+    const int low = window()->geometry().height();
+    FIND(general, ATSPI_ROLE_LIST_ITEM, "General");
+    FIND(layouts, ATSPI_ROLE_LIST_ITEM, "Layouts");
+    for (int round = 0; round < 3; ++round) {
+        QVERIFY(layouts.doAction(u"Press"_s));
+        QTRY_COMPARE(window()->geometry().height(), 654);
+        QVERIFY(general.doAction(u"Press"_s));
+        QTRY_COMPARE(window()->geometry().height(), low);
+        settle();
+        QCOMPARE(window()->geometry().height(), low);
+    }
 }
 
 CORVANE_TEST(TestWindowManager, runInCore)
