@@ -48,8 +48,11 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));
 
     SettingsAppDelegate delegate;
-    // Qt has read it by then, and programs that are started later are not to inherit it.
-    QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment] { environment.reset(); });
+    // Qt has read the environment by then, and programs that are started later are not to inherit it.
+    QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment] {
+        environment.reset();
+        NativePlatform::giveMemoryBack();
+    });
     delegate.applicationDidFinishLaunching();
     const int result = QGuiApplication::exec();
     finishWrites();

@@ -25,6 +25,10 @@ std::unique_ptr<Platform> make();
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.
 [[nodiscard]] std::shared_ptr<void> prepareEnvironment();
 
+/// To be called once the first window is shown: the memory that the start has freed goes back to the system, and from
+/// then on what is large does so as soon as it is freed.
+void giveMemoryBack();
+
 /// The program's entry among those started at login. With `needsApproval` a new one waits for the person's approval.
 std::unique_ptr<LoginItem> makeLoginItem(const LoginItem::Program &program, bool needsApproval);
 

@@ -7,6 +7,8 @@
 #include "StartEnvironment.h"
 #include "WarmUp.h"
 
+#include <malloc.h>
+
 void NativePlatform::secureStreams()
 {
     StandardStreams::secure();
@@ -26,6 +28,13 @@ std::future<void> NativePlatform::warmUp()
 std::shared_ptr<void> NativePlatform::prepareEnvironment()
 {
     return std::make_shared<StartEnvironment>();
+}
+
+// The C library keeps ever larger blocks once one of them was freed, unless it is told a size.
+void NativePlatform::giveMemoryBack()
+{
+    malloc_trim(0);
+    mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 }
 
 std::unique_ptr<LoginItem> NativePlatform::makeLoginItem(const LoginItem::Program &program, bool needsApproval)
