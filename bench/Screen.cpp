@@ -15,6 +15,8 @@ namespace {
 struct Free {
     void operator()(void *pointer) const { std::free(pointer); }
 };
+constexpr seconds patience(20);
+
 template <typename T> using Reply = std::unique_ptr<T, Free>;
 
 }
@@ -49,8 +51,11 @@ void Screen::settle()
 
 void Screen::waitUntilEmpty()
 {
+    const auto deadline = Clock::now() + patience;
     Reply<xcb_query_tree_reply_t> windows;
     do {
+        if (Clock::now() > deadline)
+            qFatal("a window of the last program is still there");
         windows.reset(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, m_screen->root), nullptr));
     } while (windows && windows->children_len > 0);
     xcb_clear_area(m_connection, 0, m_screen->root, 0, 0, 0, 0);

@@ -28,7 +28,7 @@ public:
     /// Forgets everything painted so far.
     void settle();
 
-    /// Waits until the last program's windows are gone.
+    /// Waits until the last program's windows are gone, and ends this program if they stay.
     void waitUntilEmpty();
 
 private:

@@ -14,12 +14,29 @@ StoreListener::~StoreListener()
     g_object_unref(m_client);
 }
 
-StoreListener::Clock::time_point StoreListener::waitForChange()
+bool StoreListener::boolean(const char *path) const
+{
+    GVariant *stored = dconf_client_read(m_client, path);
+    const bool value = stored && g_variant_is_of_type(stored, G_VARIANT_TYPE_BOOLEAN) && g_variant_get_boolean(stored);
+    if (stored)
+        g_variant_unref(stored);
+    return value;
+}
+
+std::optional<StoreListener::Clock::time_point> StoreListener::waitForChange(std::chrono::milliseconds timeout)
 {
     m_heard = false;
-    while (!m_heard)
+    bool late = false;
+    const auto expire = [](gpointer flag) -> gboolean {
+        *static_cast<bool *>(flag) = true;
+        return G_SOURCE_CONTINUE;
+    };
+    const guint timer = g_timeout_add(guint(timeout.count()), expire, &late);
+    while (!m_heard && !late)
         g_main_context_iteration(nullptr, TRUE);
-    return Clock::now();
+    const auto now = Clock::now();
+    g_source_remove(timer);
+    return m_heard ? std::optional(now) : std::nullopt;
 }
 
 void StoreListener::heard(DConfClient *, const char *, char **, const char *, void *self)

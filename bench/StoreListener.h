@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
 
 struct _DConfClient;
 
@@ -15,8 +16,11 @@ public:
     StoreListener(const StoreListener &) = delete;
     StoreListener &operator=(const StoreListener &) = delete;
 
-    /// Waits for the next change and tells when it was heard.
-    Clock::time_point waitForChange();
+    /// What is stored at the path; false where no truth value is.
+    bool boolean(const char *path) const;
+
+    /// When the next change was heard. None in time: none.
+    std::optional<Clock::time_point> waitForChange(std::chrono::milliseconds timeout);
 
 private:
     static void heard(_DConfClient *, const char *, char **, const char *, void *self);

@@ -17,6 +17,7 @@ constexpr QRgb paper = qRgb(0xF7, 0xF6, 0xF2);
 /// Near the window's upper edge, where neither program draws anything but the background.
 constexpr int probe = 140;
 constexpr int runs = 15;
+constexpr auto patience = seconds(20);
 
 QTextStream out(stdout);
 
@@ -31,6 +32,15 @@ double median(QList<double> values)
     return values.at(values.size() / 2);
 }
 
+/// When the program that was just started showed its window.
+Screen::Clock::time_point whenShown(Screen &screen, const QString &program)
+{
+    const auto painted = screen.waitForColor(paper, probe, patience);
+    if (!painted)
+        qFatal("%s painted no window in time", qPrintable(program));
+    return *painted;
+}
+
 /// Time from starting the program to its first painted frame on the screen.
 double firstFrame(Screen &screen, const QString &program)
 {
@@ -38,10 +48,7 @@ double firstFrame(Screen &screen, const QString &program)
     screen.settle();
     const auto start = Screen::Clock::now();
     const Process process(program);
-    const auto painted = screen.waitForColor(paper, probe, seconds(20));
-    if (!painted)
-        qFatal("%s painted no window in time", qPrintable(program));
-    return milliseconds(*painted - start);
+    return milliseconds(whenShown(screen, program) - start);
 }
 
 void compare(const char *figure, const char *unit, double floor, double application, double target)
@@ -87,7 +94,7 @@ Settled rest(Screen &screen, const QString &program)
     screen.waitUntilEmpty();
     screen.settle();
     const Process process(program);
-    screen.waitForColor(paper, probe, seconds(20));
+    whenShown(screen, program);
     std::this_thread::sleep_for(seconds(3));
     const double memory = process.memory();
     return {memory, tenSecondsOf(process)};
@@ -123,21 +130,22 @@ void measureStoreChange(Screen &screen, const QString &application)
 {
     screen.waitUntilEmpty();
     const Process process(application);
-    screen.waitForColor(paper, probe, seconds(20));
+    whenShown(screen, application);
     std::this_thread::sleep_for(seconds(1));
     StoreListener store;
+    constexpr const char *key = "/com/vexmoor/corvane/agent.accessibilityTrusted";
     QList<double> times;
     for (int run = 0; run < runs; ++run) {
         screen.settle();
-        const QString value = run % 2 ? QStringLiteral("false") : QStringLiteral("true");
-        const Process writer(
-            QStringLiteral("/usr/bin/dconf"),
-            {QStringLiteral("write"), QStringLiteral("/com/vexmoor/corvane/agent.accessibilityTrusted"), value});
-        const auto heard = store.waitForChange();
-        const auto painted = screen.waitForPaint(seconds(5));
-        if (!painted)
-            qFatal("a change of the store was never painted");
-        times.append(milliseconds(*painted - heard));
+        // Writing what is stored already would be no news.
+        const QString value = store.boolean(key) ? QStringLiteral("false") : QStringLiteral("true");
+        const Process writer(QStringLiteral("/usr/bin/dconf"),
+                             {QStringLiteral("write"), QString::fromLatin1(key), value});
+        const auto heard = store.waitForChange(patience);
+        const auto painted = screen.waitForPaint(patience);
+        if (!heard || !painted)
+            qFatal("a change of the store was never %s", heard ? "painted" : "heard");
+        times.append(milliseconds(*painted - *heard));
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
     }
     out << QStringLiteral("store change to pixels  %1 ms  target 33.3\n").arg(median(times), 0, 'f', 1);
