@@ -21,9 +21,9 @@ home of its own. It makes this page: change it in `tools/field/page.py`. A fault
 Where the answer is neither yes nor no:
 
 - **Places on Wayland.** No window is told where it stands, and none can move itself. Weston and Mutter place a new window
-  where they like. One that stands low hangs off the screen when a higher page is chosen, unless the compositor moves it up,
-  which Mutter does in part. The height is bounded by the screen's, so that the end of a page can be reached when
-  the window is moved up.
+  where they like. The settings window grows as far as one in the middle of the screen can, and then its page scrolls. One
+  that was moved down hangs off when a higher page is chosen, unless the compositor moves it up, which Mutter does in part;
+  moved up again, it shows the end of its page.
 - **Minimising on Sway.** Sway has no minimised windows.
 - **The front on Wayland.** Who comes to the front is the compositor's decision, by the token that a launcher gives to what
   it starts. A second start hands it over to the running window. From a terminal there is none. Weston knows no tokens.
