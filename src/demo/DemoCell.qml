@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 import Corvane.Overlay
@@ -194,19 +193,17 @@ Item {
             }
         }
     }
-    T.Control {
+    FocusItem {
         id: element
 
         anchors.fill: parent
         visible: cell.isVisible
-        hoverEnabled: false
-        focusPolicy: Qt.TabFocus
         //: %1 is the name of an application, %2 the title of its window.
         Accessible.name: cell.isFull ? qsTr("%1 window, %2, full screen").arg(cell.win.app).arg(cell.win.title) :
                                        //: %1 is the name of an application, %2 the title of its window.
                                        qsTr("%1 window, %2").arg(cell.win.app).arg(cell.win.title)
         Accessible.description: qsTr("Use the actions to close, minimize or full-screen it.")
-        EBAccessible.role: Accessible.Grouping
+        Accessible.role: Accessible.Grouping
         onActiveFocusChanged: activeFocus ? cell.model.enter(cell.win.id) : cell.hoverThePointed()
         onVisibleChanged: if (!visible && activeFocus)
             cell.forceActiveFocus(Qt.OtherFocusReason)

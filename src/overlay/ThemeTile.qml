@@ -21,7 +21,7 @@ Pressable {
     Accessible.selected: isChosen
     Accessible.checkable: true
     Accessible.checked: isChosen
-    EBAccessible.role: Accessible.RadioButton
+    Accessible.role: Accessible.RadioButton
 
     contentItem: Column {
         spacing: 6

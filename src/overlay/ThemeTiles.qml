@@ -26,7 +26,7 @@ ChoiceRow {
         width: (tiles.width - (tiles.count - 1) * tiles.spacing) / tiles.count
         compact: tiles.compact
         isChosen: index === tiles.selectedIndex
-        focusPolicy: tiles.focusPolicy(tile, index)
+        tabStop: tiles.isTabStop(index)
         onClicked: tiles.chosen(modelData.value)
     }
 }

@@ -310,7 +310,7 @@ private slots:
     void tabsAndListItemsCanBePressed()
     {
         QFETCH(const QString, declared);
-        const Interface found = show(QStringLiteral("Pressable { text: 'General'; EBAccessible.role: ") + declared
+        const Interface found = show(QStringLiteral("Pressable { text: 'General'; Accessible.role: ") + declared
                                      + QStringLiteral("; width: 9; height: 9 }"))
                                     ->child(0);
         QTEST(found->role(), "role");
@@ -445,7 +445,7 @@ private:
     void create(const QString &qml)
     {
         QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport QtQuick.Templates as T\nimport Embera.Tokens\n"
+        component.setData("import QtQuick\nimport Embera.Tokens\n"
                           "import Embera.Glyphs\nimport Embera.Controls\nimport Embera.Rows\n"
                           "import Embera.Screens\n"
                               + qml.toUtf8(),

@@ -125,7 +125,7 @@ KitTestCase {
         segmented.selection = "medium";
         mouseClick(segment(0));
         compare(highlighted(), "1");
-        compare(segment(0).checked, false);
+        compare(segment(0).isOn, false);
         segmented.selection = Qt.binding(() => testCase.stored);
     }
 

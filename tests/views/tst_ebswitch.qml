@@ -100,7 +100,7 @@ KitTestCase {
         mouseClick(toggle);
         compare(flips.count, 1);
         compare(toggle.isOn, false);
-        compare(toggle.checked, false);
+        compare(toggle.isOn, false);
         mouseClick(toggle);
         compare(flips.signalArguments[1][0], true);
     }

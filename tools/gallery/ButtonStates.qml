@@ -19,11 +19,11 @@ Row {
         size: states.size
         text: qsTr("At rest")
     }
-    EBButton {
+    ButtonFace {
         variant: states.variant
         size: states.size
         text: qsTr("Pressed")
-        down: true
+        pressed: true
     }
     EBButton {
         variant: states.variant
@@ -37,12 +37,13 @@ Row {
         text: qsTr("At rest")
         arrow: true
     }
-    EBButton {
+    ButtonFace {
         variant: states.variant
         size: states.size
         text: qsTr("Pressed")
         arrow: true
-        down: true
+        pressed: true
+        mirrored: states.LayoutMirroring.enabled
     }
     EBButton {
         variant: states.variant

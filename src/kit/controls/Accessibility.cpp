@@ -58,8 +58,9 @@ public:
             return {};
         QStringList names = actions->actionNames();
         names.removeDuplicates();
-        if (!takesFocus())
-            names.removeAll(setFocusAction());
+        // What a click does comes first.
+        if (names.removeAll(setFocusAction()) > 0 && takesFocus())
+            names.append(setFocusAction());
         const QList<AccessibleAction *> own = ownActions();
         for (const AccessibleAction *action : own)
             names.append(action->name());
@@ -126,13 +127,7 @@ public:
             original()->setText(kind, text);
     }
     QRect rect() const override { return isValid() ? original()->rect() : QRect(); }
-    QAccessible::Role role() const override
-    {
-        if (!isValid())
-            return QAccessible::NoRole;
-        const EBAccessible *declared = EBAccessible::of(m_item);
-        return declared && declared->role() != QAccessible::NoRole ? declared->role() : original()->role();
-    }
+    QAccessible::Role role() const override { return isValid() ? original()->role() : QAccessible::NoRole; }
     QColor foregroundColor() const override { return isValid() ? original()->foregroundColor() : QColor(); }
     QColor backgroundColor() const override { return isValid() ? original()->backgroundColor() : QColor(); }
     void virtual_hook(int id, void *data) override

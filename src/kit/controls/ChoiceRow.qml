@@ -17,10 +17,10 @@ Row {
 
     signal selected(value: var)
 
-    /// Where the Tab key stops: at the chosen one, or at the first one while none is. The focus stays where it is when
-    /// the choice changes from outside.
-    function focusPolicy(choice: Item, index: int) : int {
-        return choice.activeFocus || index === Math.max(0, selectedIndex) ? Qt.StrongFocus : Qt.ClickFocus;
+    /// Whether the Tab key stops at the choice: at the chosen one, or at the first one while none is. The focus stays
+    /// where it is when the choice changes from outside.
+    function isTabStop(index: int) : bool {
+        return index === Math.max(0, selectedIndex);
     }
     /// Chooses the option at `index`; a place beyond the ends means the end.
     function choose(index: int) {

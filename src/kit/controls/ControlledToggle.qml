@@ -12,15 +12,13 @@ Pressable {
 
     signal flipped(bool isOn)
 
-    // Not a check box of the templates, which makes its data for assistive technologies twice and frees them once.
-    checkable: true
-    checked: isOn
     onClicked: {
         isFlipping = true;
         flipped(!isOn);
         isFlipping = false;
-        // The template has flipped it by itself.
-        checked = Qt.binding(() => isOn);
     }
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: isOn
     Accessible.onToggleAction: clicked()
 }

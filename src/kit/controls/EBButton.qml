@@ -26,8 +26,8 @@ Pressable {
         variant: control.variant
         size: control.size
         arrow: control.arrow
-        pressed: control.down
-        mirrored: control.mirrored
+        pressed: control.pressed
+        mirrored: control.LayoutMirroring.enabled
 
         FocusRing {
             control: control

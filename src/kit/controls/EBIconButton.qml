@@ -18,7 +18,6 @@ Pressable {
     implicitWidth: size
     implicitHeight: size
     opacity: enabled ? 1 : KitMetrics.disabledOpacity
-    hoverEnabled: true
     containmentMask: background
 
     background: ContinuousRectangle {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Glyphs
 import Embera.Controls
@@ -31,7 +30,7 @@ ContinuousRectangle {
     TapHandler {
         onTapped: field.forceActiveFocus(Qt.MouseFocusReason)
     }
-    T.TextField {
+    TextInput {
         id: field
 
         anchors {
@@ -49,6 +48,9 @@ ContinuousRectangle {
         selectionColor: EBEnvironment.accent
         selectedTextColor: EBEnvironment.onAccent
         selectByMouse: true
+        activeFocusOnTab: true
+        clip: true
+        Accessible.role: Accessible.EditableText
         Accessible.name: control.placeholder
         Accessible.searchEdit: true
         Keys.onUpPressed: control.movedUp()

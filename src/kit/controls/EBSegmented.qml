@@ -38,7 +38,7 @@ ContinuousRectangle {
 
             ringParent: control
             isOn: index === segments.selectedIndex
-            focusPolicy: segments.focusPolicy(segment, index)
+            tabStop: segments.isTabStop(index)
             onFlipped: control.selected(modelData.value)
         }
     }

@@ -16,7 +16,7 @@ ControlledToggle {
 
     contentItem: SwitchFace {
         position: control.isOn ? 1 : 0
-        mirrored: control.mirrored
+        mirrored: control.LayoutMirroring.enabled
         trackColor: EB.track
         accentColor: EBEnvironment.accent
         knobColor: EB.knob

@@ -12,10 +12,10 @@ ControlledToggle {
     required property Item ringParent
 
     text: modelData.title
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth + 2 * horizontalPadding
     implicitHeight: 24
     horizontalPadding: 14
-    EBAccessible.role: Accessible.RadioButton
+    Accessible.role: Accessible.RadioButton
 
     background: ContinuousRectangle {
         color: EB.segOn

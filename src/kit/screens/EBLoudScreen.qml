@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 import Embera.Marks
@@ -63,7 +62,7 @@ FocusScope {
         readonly property Item focusItem: screen.Window.activeFocusItem
 
         // A button that has the focus is what Return presses.
-        enabled: screen.isDisplayed && screen.enabled && (focusItem === main || !(focusItem instanceof T.AbstractButton))
+        enabled: screen.isDisplayed && screen.enabled && (focusItem === main || !(focusItem instanceof Pressable))
         sequences: ["Return", "Enter"]
         autoRepeat: false
         onActivated: screen.action()
@@ -160,7 +159,7 @@ FocusScope {
             FocusRing {
                 z: 1
                 control: main
-                strokeColor: EBEnvironment.onLoud
+                onLoud: true
             }
         }
         QuietButton {

@@ -1,5 +1,4 @@
 import QtQuick
-import Embera.Tokens
 import Embera.Controls
 
 /// The second action of a loud screen: nothing but its title.
@@ -19,6 +18,6 @@ Pressable {
     FocusRing {
         control: button
         radius: 6
-        strokeColor: EBEnvironment.onLoud
+        onLoud: true
     }
 }

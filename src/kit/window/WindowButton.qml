@@ -15,7 +15,7 @@ Pressable {
     implicitWidth: 15
     implicitHeight: 15
     opacity: enabled ? 1 : 0.4
-    focusPolicy: Qt.TabFocus
+    takesFocusByClick: false
 
     background: ContinuousRectangle {
         // Not translucent: it also stands on loud grounds, where its glyph would be lost.
@@ -25,7 +25,7 @@ Pressable {
 
         FocusRing {
             control: button
-            strokeColor: button.loudGround ? EBEnvironment.onLoud : EBEnvironment.accent
+            onLoud: button.loudGround
         }
     }
     contentItem: Glyph {

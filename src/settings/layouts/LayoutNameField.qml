@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 
@@ -52,7 +51,7 @@ FocusScope {
         strokeColor: EBEnvironment.accent
         strokeWidth: field.activeFocus ? 1.5 : 0
     }
-    T.TextField {
+    TextInput {
         id: field
 
         anchors {
@@ -71,6 +70,9 @@ FocusScope {
         selectionColor: EBEnvironment.accent
         selectedTextColor: EBEnvironment.onAccent
         selectByMouse: true
+        activeFocusOnTab: true
+        clip: true
+        Accessible.role: Accessible.EditableText
         Accessible.name: scope.label
         onAccepted: scope.committed(text)
     }

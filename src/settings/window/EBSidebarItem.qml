@@ -10,17 +10,13 @@ Pressable {
     required property string title
     required property string glyph
     property bool selected: false
-    /// Tab stops at one page of the list, the arrow keys go on from there.
-    property bool tabStop: true
 
     implicitHeight: 30
-    leftPadding: 10
-    rightPadding: 10
-    focusPolicy: tabStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+    horizontalPadding: 10
     text: title
     Accessible.selectable: true
     Accessible.selected: selected
-    EBAccessible.role: Accessible.ListItem
+    Accessible.role: Accessible.ListItem
 
     background: ContinuousRectangle {
         radius: 10

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Rows
 import Corvane.Settings.Window
@@ -45,17 +44,15 @@ Flickable {
     onFocusItemChanged: if (scrolls && focusItem && focusItem !== content && pane.activeFocus)
         reveal(focusItem.mapToItem(contentItem, 0, -18).y, focusItem.mapToItem(contentItem, 0, focusItem.height + 18).y)
 
-    T.ScrollBar.vertical: T.ScrollBar {
-        width: 10
-        padding: 2
-        visible: area.scrolls
-        interactive: true
-        // Of a very long page, enough to take hold of.
-        minimumSize: 24 / height
-        contentItem: Rectangle {
-            radius: width / 2
-            color: EB.lineStrong
+    Loader {
+        parent: area
+        active: area.scrolls
+        anchors {
+            right: parent.right
+            top: parent.top
+            bottom: parent.bottom
         }
+        Component.onCompleted: setSource("PageScrollBar.qml", {area: area})
     }
     Connections {
         target: area.model

@@ -87,6 +87,7 @@ Item {
 
                     width: items.width
                     selected: sidebar.selection === pageId
+                    // Tab stops at one page of the list, the arrow keys go on from there.
                     tabStop: sidebar.pages.neighbour(sidebar.selection, 0) === pageId
                     onClicked: sidebar.picked(pageId)
                     onSelectedChanged: if (selected && list.activeFocus)
