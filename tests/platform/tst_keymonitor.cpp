@@ -41,6 +41,36 @@ constexpr auto content = R"(
 
 }
 
+/// What Qt does for a screen reader that listens to keys: takes each key away, and sends a copy, without a time, when
+/// the reader has answered.
+class KeyReader : public QObject {
+public:
+    KeyReader() { QCoreApplication::instance()->installEventFilter(this); }
+
+    void answer()
+    {
+        for (const auto &[receiver, key] : std::exchange(m_taken, {})) {
+            QCoreApplication::postEvent(receiver,
+                                        new QKeyEvent(key->type(), key->key(), key->modifiers(), key->nativeScanCode(),
+                                                      key->nativeVirtualKey(), key->nativeModifiers(), key->text(),
+                                                      key->isAutoRepeat()));
+        }
+    }
+    qsizetype taken() const { return m_taken.size(); }
+
+protected:
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        if (!event->spontaneous() || event->type() != QEvent::KeyPress)
+            return false;
+        m_taken.append({receiver, std::shared_ptr<QKeyEvent>(static_cast<QKeyEvent *>(event)->clone())});
+        return true;
+    }
+
+private:
+    QList<std::pair<QObject *, std::shared_ptr<QKeyEvent>>> m_taken;
+};
+
 /// The display, and what is on it beside this program.
 struct Surroundings {
     PrivateSession session;
@@ -64,6 +94,8 @@ private slots:
     void aSwallowedKeyReachesNobody_data();
     void aSwallowedKeyReachesNobody();
     void theSameKeyAgainIsHeardAgain();
+    void aKeyThatAScreenReaderGetsFirstIsHeardOnce_data();
+    void aKeyThatAScreenReaderGetsFirstIsHeardOnce();
     void modifiersAreFlags_data();
     void modifiersAreFlags();
     void aHeldKeyRepeats();
@@ -225,6 +257,30 @@ void KeyMonitorTest::theSameKeyAgainIsHeardAgain()
         QCoreApplication::sendEvent(m_window.get(), &event);
     }
     QCOMPARE(m_heard.size(), 4);
+}
+
+void KeyMonitorTest::aKeyThatAScreenReaderGetsFirstIsHeardOnce_data()
+{
+    QTest::addColumn<bool>("swallowed");
+    QTest::newRow("swallowed") << true;
+    QTest::newRow("not swallowed") << false;
+}
+
+void KeyMonitorTest::aKeyThatAScreenReaderGetsFirstIsHeardOnce()
+{
+    QFETCH(const bool, swallowed);
+    const Monitor held = listen(swallowed);
+    {
+        KeyReader reader;
+        for (const quint32 key : {KEY_W, KEY_H, KEY_W})
+            m_keyboard.pressPosition(key);
+        QTRY_COMPARE(reader.taken(), 3);
+        QCOMPARE(m_heard.size(), 3);
+        reader.answer();
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(m_heard.size(), 3);
+    QCOMPARE(text(), swallowed ? QString() : u"whw"_s);
 }
 
 void KeyMonitorTest::modifiersAreFlags_data()

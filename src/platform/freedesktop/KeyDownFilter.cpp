@@ -17,25 +17,47 @@ bool KeyDownFilter::eventFilter(QObject *receiver, QEvent *event)
     if (!receiver->isWindowType() || (!isQuestion && event->type() != QEvent::KeyPress))
         return false;
     const auto &key = static_cast<const QKeyEvent &>(*event);
-    const auto earlier = std::exchange(m_verdict, std::nullopt);
-    const Verdict verdict = !isQuestion && earlier && earlier->isAbout(key) ? *earlier : judge(key);
-    if (isQuestion)
-        m_verdict = verdict;
-    if (verdict.isSwallowed)
+    const bool swallows = isQuestion ? judge(key) : recall(key);
+    if (swallows)
         event->accept();
-    return verdict.isSwallowed;
+    return swallows;
 }
 
-KeyDownFilter::Verdict KeyDownFilter::judge(const QKeyEvent &event) const
+bool KeyDownFilter::isSwallowed(const QKeyEvent &event) const
 {
-    const bool isSwallowed = m_monitors.swallow(
+    return m_monitors.swallow(
         {KeyPositions::keyCode(event), KeyPositions::flags(event.modifiers()), event.isAutoRepeat()});
-    return {event.timestamp(),      event.key(),          event.modifiers(),
-            event.nativeScanCode(), event.isAutoRepeat(), isSwallowed};
+}
+
+bool KeyDownFilter::judge(const QKeyEvent &question)
+{
+    const bool swallows = isSwallowed(question);
+    m_verdicts.removeIf([&](const Verdict &verdict) { return verdict.isAboutKeyOf(question); });
+    m_verdicts.append({question.timestamp(), question.key(), question.modifiers(), question.nativeScanCode(),
+                       question.isAutoRepeat(), swallows});
+    return swallows;
+}
+
+bool KeyDownFilter::recall(const QKeyEvent &press)
+{
+    const auto found = std::find_if(m_verdicts.cbegin(), m_verdicts.cend(),
+                                    [&](const Verdict &verdict) { return verdict.isAbout(press); });
+    if (found == m_verdicts.cend())
+        return isSwallowed(press);
+    const bool swallows = found->isSwallowed;
+    // Of a key that is struck again meanwhile there may be more than one copy.
+    if (found->timestamp == press.timestamp())
+        m_verdicts.erase(found);
+    return swallows;
+}
+
+bool KeyDownFilter::Verdict::isAboutKeyOf(const QKeyEvent &event) const
+{
+    return key == event.key() && modifiers == event.modifiers() && scanCode == event.nativeScanCode()
+        && isAutoRepeat == event.isAutoRepeat();
 }
 
 bool KeyDownFilter::Verdict::isAbout(const QKeyEvent &event) const
 {
-    return timestamp == event.timestamp() && key == event.key() && modifiers == event.modifiers()
-        && scanCode == event.nativeScanCode() && isAutoRepeat == event.isAutoRepeat();
+    return isAboutKeyOf(event) && (timestamp == event.timestamp() || event.timestamp() == 0);
 }

@@ -2,9 +2,8 @@
 
 #include "KeyMonitors.h"
 
+#include <QList>
 #include <QObject>
-
-#include <optional>
 
 class QKeyEvent;
 
@@ -21,8 +20,10 @@ protected:
 
 private:
     /// What the monitors decided about a key on its ShortcutOverride. Where no shortcut takes the key, Qt sends it
-    /// again as a KeyPress, for which the decision is reused.
+    /// again as a KeyPress, for which the decision is reused. A screen reader may get that KeyPress first: then Qt
+    /// sends a copy without a time, perhaps after the next key's ShortcutOverride.
     struct Verdict {
+        bool isAboutKeyOf(const QKeyEvent &event) const;
         bool isAbout(const QKeyEvent &event) const;
 
         quint64 timestamp;
@@ -33,8 +34,11 @@ private:
         bool isSwallowed;
     };
 
-    Verdict judge(const QKeyEvent &event) const;
+    bool isSwallowed(const QKeyEvent &event) const;
+    bool judge(const QKeyEvent &question);
+    bool recall(const QKeyEvent &press);
 
     KeyMonitors m_monitors;
-    std::optional<Verdict> m_verdict;
+    /// At most one for each key, the latest.
+    QList<Verdict> m_verdicts;
 };
