@@ -4,7 +4,7 @@ import Embera.Controls
 import Corvane.Overlay
 
 /// One theme to choose: its three buttons and its title.
-Pressable {
+ControlledToggle {
     id: tile
 
     required property int index
@@ -15,12 +15,11 @@ Pressable {
 
     implicitHeight: implicitContentHeight
     text: modelData.title
+    isOn: isChosen
     //: %1 is the title of a theme of the buttons.
     Accessible.name: qsTr("%1 look").arg(text)
     Accessible.selectable: true
     Accessible.selected: isChosen
-    Accessible.checkable: true
-    Accessible.checked: isChosen
     Accessible.role: Accessible.RadioButton
 
     contentItem: Column {

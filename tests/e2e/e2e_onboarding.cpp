@@ -191,10 +191,14 @@ void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
     QTRY_VERIFY(back->hasInputFocus());
     QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
 
+    FIND(classic, ATSPI_ROLE_RADIO_BUTTON, "Classic look");
+    QVERIFY(classic.has(ATSPI_STATE_CHECKED));
     const Accessible soft = find(ATSPI_ROLE_RADIO_BUTTON, u"Soft look"_s);
     QVERIFY(soft);
     click(soft);
     QVERIFY(store().waitFor(u"buttonTheme"_s, u"soft"_s));
+    QVERIFY(becomes(soft, ATSPI_STATE_CHECKED));
+    QVERIFY(becomes(classic, ATSPI_STATE_CHECKED, false));
     const Accessible minimize = find(ATSPI_ROLE_CHECK_BOX, u"Minimize button"_s);
     QVERIFY(minimize);
     click(minimize);
