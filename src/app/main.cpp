@@ -1,3 +1,4 @@
+#include "Language.h"
 #include "LaunchFlags.h"
 #include "NativePlatform.h"
 #include "RunningInstance.h"
@@ -6,6 +7,7 @@
 #include "UserDefaults.h"
 
 #include <QGuiApplication>
+#include <QLocale>
 #include <QQuickWindow>
 
 namespace {
@@ -42,6 +44,7 @@ int main(int argc, char *argv[])
     QGuiApplication application(ownName, argv);
     if (RunningInstance::takesOver())
         return 0;
+    Language::use(Language::chosen(QLocale::system().uiLanguages()));
     warmUp.wait();
     // The name is also the window class on X11.
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));

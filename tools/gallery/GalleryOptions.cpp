@@ -1,5 +1,6 @@
 #include "GalleryOptions.h"
 
+#include "Language.h"
 #include "SceneTable.h"
 
 #include <QCommandLineParser>
@@ -18,6 +19,7 @@ const QString highContrast = QStringLiteral("high-contrast");
 const QString app = QStringLiteral("app");
 const QString scale = QStringLiteral("scale");
 const QString font = QStringLiteral("font");
+const QString language = QStringLiteral("language");
 const QString help = QStringLiteral("help");
 
 void declareOptions(QCommandLineParser &parser)
@@ -34,6 +36,8 @@ void declareOptions(QCommandLineParser &parser)
         {app, QStringLiteral("quiller, corvane (unless named) or parcelo."), QStringLiteral("name")},
         {scale, QStringLiteral("Device pixels a point, from 0.5 to 4; 1 unless named."), QStringLiteral("number")},
         {font, QStringLiteral("The font that stands in for that of the desktop."), QStringLiteral("family")},
+        {language, QStringLiteral("The language of the texts, by its code; English unless named."),
+         QStringLiteral("code")},
         {help, QStringLiteral("Print this.")},
     });
 }
@@ -94,6 +98,13 @@ QString readScale(const QCommandLineParser &parser, GalleryOptions &options)
     return {};
 }
 
+QString readLanguage(const QCommandLineParser &parser, const GalleryOptions &options)
+{
+    if (parser.isSet(language) && Language::chosen({options.language}) != options.language)
+        return QStringLiteral("There are no texts in \"%1\".").arg(options.language);
+    return {};
+}
+
 }
 
 std::variant<GalleryOptions, QString> GalleryOptions::parse(const QStringList &arguments)
@@ -108,8 +119,10 @@ std::variant<GalleryOptions, QString> GalleryOptions::parse(const QStringList &a
                            .file = parser.value(out),
                            .dark = parser.isSet(::dark),
                            .highContrast = parser.isSet(::highContrast),
-                           .font = parser.value(::font)};
-    for (const QString &fault : {faultOf(parser), readApp(parser, options), readScale(parser, options)}) {
+                           .font = parser.value(::font),
+                           .language = parser.value(::language)};
+    for (const QString &fault :
+         {faultOf(parser), readApp(parser, options), readScale(parser, options), readLanguage(parser, options)}) {
         if (!fault.isEmpty())
             return fault;
     }

@@ -21,6 +21,8 @@ struct GalleryOptions {
     qreal scale = 1;
     /// Stands in for the desktop's general font; empty: that font.
     QString font;
+    /// The code of the language of the texts; empty for English.
+    QString language;
 
     /// The options, or what is wrong with them in a sentence. The first of `arguments` is the program.
     static std::variant<GalleryOptions, QString> parse(const QStringList &arguments);

@@ -6,6 +6,7 @@
 #include "GalleryLook.h"
 #include "GalleryOptions.h"
 #include "GalleryPlatform.h"
+#include "Language.h"
 #include "NativePlatform.h"
 #include "PictureFile.h"
 #include "PictureScreen.h"
@@ -54,6 +55,7 @@ struct Gallery {
     {
         if (!options.font.isEmpty())
             QGuiApplication::setFont(QFont(options.font));
+        Language::use(options.language);
         look.setDark(options.dark);
         look.setHighContrast(options.highContrast);
         look.setApp(options.app);
@@ -101,6 +103,7 @@ int show(int argc, char *argv[], const GalleryOptions &options)
     if (!options.font.isEmpty())
         QGuiApplication::setFont(QFont(options.font));
 
+    Language::use(options.language);
     ViewEngine engine;
     auto *scene = ViewEngine::make<Scene>(engine, SceneTable::find(options.scene)->source.toString());
     const QSizeF size(scene->implicitWidth(), scene->implicitHeight());

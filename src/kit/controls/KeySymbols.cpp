@@ -19,6 +19,15 @@ constexpr std::array symbols = {
     Symbol{u'→', Qt::Key_Right}, Symbol{u'↑', Qt::Key_Up},     Symbol{u'↓', Qt::Key_Down},
 };
 
+/// The names that Qt looks up for these keys.
+[[maybe_unused]] constexpr std::array keyNames = {
+    QT_TRANSLATE_NOOP("QShortcut", "Ctrl"),   QT_TRANSLATE_NOOP("QShortcut", "Alt"),
+    QT_TRANSLATE_NOOP("QShortcut", "Meta"),   QT_TRANSLATE_NOOP("QShortcut", "Shift"),
+    QT_TRANSLATE_NOOP("QShortcut", "Return"), QT_TRANSLATE_NOOP("QShortcut", "Left"),
+    QT_TRANSLATE_NOOP("QShortcut", "Right"),  QT_TRANSLATE_NOOP("QShortcut", "Up"),
+    QT_TRANSLATE_NOOP("QShortcut", "Down"),
+};
+
 /// Symbols, with a letter or a digit after them if there is one: "⌥⌘W", "⌘←", or the "⌥" of "⌥-click".
 const QRegularExpression &combination()
 {

@@ -80,7 +80,8 @@ QFont EBTypes::font(EBTypeRole role)
     QFont font = faceFont(values.face);
     font.setPixelSize(values.size);
     font.setWeight(values.weight);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, values.tracking);
+    // Letters that are written from right to left join, and tracking would tear them apart.
+    font.setLetterSpacing(QFont::AbsoluteSpacing, QGuiApplication::isRightToLeft() ? 0 : values.tracking);
     return font;
 }
 

@@ -8,9 +8,10 @@ EBSettingsPage buttonsPage()
         .id = QStringLiteral("buttons"),
         .title = QCoreApplication::translate("ButtonsPage", "Buttons"),
         .glyph = GlyphName::wins,
-        .keywords = {QStringLiteral("look"), QStringLiteral("theme"), QStringLiteral("colour"), QStringLiteral("color"),
-                     QStringLiteral("size"), QStringLiteral("minimize"), QStringLiteral("full screen"),
-                     QStringLiteral("maximize")},
+        //: Words that the page is found by, in lower case, with ", " between them. There may be more or fewer of them.
+        .keywords = QCoreApplication::translate("ButtonsPage",
+                                                "look, theme, colour, color, size, minimize, full screen, maximize")
+                        .split(QStringLiteral(", ")),
         .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/Buttons/ButtonsPane.qml")),
     };
 }

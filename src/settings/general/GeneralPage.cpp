@@ -8,9 +8,10 @@ EBSettingsPage generalPage()
         .id = QStringLiteral("general"),
         .title = QCoreApplication::translate("GeneralPage", "General"),
         .glyph = GlyphName::gear,
-        .keywords = {QStringLiteral("login"), QStringLiteral("startup"), QStringLiteral("menu bar"),
-                     QStringLiteral("icon"), QStringLiteral("accessibility"), QStringLiteral("permission"),
-                     QStringLiteral("guide")},
+        //: Words that the page is found by, in lower case, with ", " between them. There may be more or fewer of them.
+        .keywords = QCoreApplication::translate("GeneralPage",
+                                                "login, startup, menu bar, icon, accessibility, permission, guide")
+                        .split(QStringLiteral(", ")),
         .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/General/GeneralPane.qml")),
     };
 }

@@ -70,8 +70,8 @@ QString LayoutPreview::label() const
     QStringList applications;
     for (const SavedLayout::Window &window : m_layout.windows)
         applications.append(window.app);
-    //: %1 is a number, %2 the names of the windows' applications.
-    return tr("%1 windows: %2").arg(m_layout.windows.size()).arg(applications.join(QStringLiteral(", ")));
+    //: %1 stands for the names of the windows' applications.
+    return tr("%n windows: %1", nullptr, int(m_layout.windows.size())).arg(applications.join(QStringLiteral(", ")));
 }
 
 void LayoutPreview::paint(QPainter *painter)

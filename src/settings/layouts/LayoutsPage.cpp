@@ -8,9 +8,9 @@ EBSettingsPage layoutsPage()
         .id = QStringLiteral("layouts"),
         .title = QCoreApplication::translate("LayoutsPage", "Layouts"),
         .glyph = GlyphName::apps,
-        .keywords = {QStringLiteral("snap"), QStringLiteral("arrange"), QStringLiteral("tile"),
-                     QStringLiteral("window"), QStringLiteral("layout"), QStringLiteral("shelf"),
-                     QStringLiteral("gap")},
+        //: Words that the page is found by, in lower case, with ", " between them. There may be more or fewer of them.
+        .keywords = QCoreApplication::translate("LayoutsPage", "snap, arrange, tile, window, layout, shelf, gap")
+                        .split(QStringLiteral(", ")),
         .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/Layouts/LayoutsPane.qml")),
     };
 }

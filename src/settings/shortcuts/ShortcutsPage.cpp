@@ -8,8 +8,9 @@ EBSettingsPage shortcutsPage()
         .id = QStringLiteral("shortcuts"),
         .title = QCoreApplication::translate("ShortcutsPage", "Shortcuts"),
         .glyph = GlyphName::cmd,
-        .keywords = {QStringLiteral("keyboard"), QStringLiteral("hotkey"), QStringLiteral("close"),
-                     QStringLiteral("hide"), QStringLiteral("quit"), QStringLiteral("minimize")},
+        //: Words that the page is found by, in lower case, with ", " between them. There may be more or fewer of them.
+        .keywords = QCoreApplication::translate("ShortcutsPage", "keyboard, hotkey, close, hide, quit, minimize")
+                        .split(QStringLiteral(", ")),
         .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/Shortcuts/ShortcutsPane.qml")),
     };
 }

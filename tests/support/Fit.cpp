@@ -1,0 +1,92 @@
+#include "Fit.h"
+
+#include "Views.h"
+
+#include <QAccessible>
+#include <QFont>
+
+namespace {
+
+/// What must not lie over anything else of its kind, unless one is a part of the other.
+struct Solid {
+    const QQuickItem *item;
+    QString name;
+    QRectF place;
+};
+
+/// The letters of a text; those in the size of a poster are a picture, which may run out of its window.
+bool isReadable(const QQuickItem *text)
+{
+    return !text->property("text").toString().isEmpty() && text->property("font").value<QFont>().pixelSize() < 60;
+}
+
+QRectF placeOf(const QQuickItem *item)
+{
+    return item->mapRectToScene(item->boundingRect());
+}
+
+/// Every text, control, card and pretend window.
+QList<Solid> solidsIn(QQuickItem *view)
+{
+    QList<Solid> solids;
+    for (QQuickItem *item : Views::visible(view)) {
+        const auto *element = QAccessible::queryAccessibleInterface(item);
+        const QAccessible::Role role = element ? element->role() : QAccessible::NoRole;
+        const bool isControl =
+            role == QAccessible::Button || role == QAccessible::CheckBox || role == QAccessible::RadioButton;
+        if (item->inherits("QQuickText") ? isReadable(item) : isControl)
+            solids.append({item, isControl ? element->text(QAccessible::Name) : item->property("text").toString(),
+                           placeOf(item)});
+    }
+    for (const char *type :
+         {"EBGroup", "EBWell", "DemoCell", "KeyCap", "EBSegmented", "DragTileContent"}) {
+        for (const QQuickItem *item : Views::visible(view, type))
+            solids.append({item, QString::fromLatin1(type), placeOf(item)});
+    }
+    return solids;
+}
+
+bool collide(const Solid &one, const Solid &other)
+{
+    const QRectF common = one.place & other.place;
+    return common.width() >= 1 && common.height() >= 1 && !one.item->isAncestorOf(other.item)
+        && !other.item->isAncestorOf(one.item);
+}
+
+bool leaves(const QRectF &part, const QRectF &whole)
+{
+    return !whole.adjusted(-0.5, -0.5, 0.5, 0.5).contains(part);
+}
+
+/// Whether a text does not show all of itself.
+bool isCut(const QQuickItem *text)
+{
+    const QFont font = text->property("font").value<QFont>();
+    const qreal paddings = text->property("leftPadding").toReal() + text->property("rightPadding").toReal();
+    const qreal tracking = std::max(0.0, font.letterSpacing());
+    return text->property("truncated").toBool() || text->property("contentHeight").toReal() > text->height() + 0.5
+        || text->property("contentWidth").toReal() > text->width() - std::min(0.0, paddings) + tracking + 0.5;
+}
+
+}
+
+QStringList Fit::faults(QQuickItem *view, const QRectF &frame)
+{
+    QStringList faults;
+    const QList<Solid> solids = solidsIn(view);
+    for (qsizetype i = 0; i < solids.size(); ++i) {
+        const Solid &one = solids.at(i);
+        if (one.item->inherits("QQuickText") && isCut(one.item))
+            faults.append(one.name + QStringLiteral(" is cut"));
+        if (leaves(one.place, frame))
+            faults.append(one.name + QStringLiteral(" leaves the window"));
+        for (qsizetype j = 0; j < solids.size(); ++j) {
+            const Solid &other = solids.at(j);
+            if (other.item->isAncestorOf(one.item) && leaves(one.place, other.place))
+                faults.append(one.name + QStringLiteral(" leaves ") + other.name);
+            if (j < i && collide(one, other))
+                faults.append(one.name + QStringLiteral(" lies over ") + other.name);
+        }
+    }
+    return faults;
+}
