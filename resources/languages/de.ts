@@ -17,7 +17,7 @@
     <name>AccessStep</name>
     <message>
         <source>One permission, then you&apos;re done</source>
-        <translation>Eine Erlaubnis, dann sind Sie fertig</translation>
+        <translation>Eine Erlaubnis genügt</translation>
     </message>
     <message>
         <source>Corvane can now see which window you point at.</source>
@@ -168,7 +168,7 @@
     <message>
         <source>The %1 mark</source>
         <extracomment>The title of a drawing of a product&apos;s mark; %1 is the product&apos;s name.</extracomment>
-        <translation>Das Zeichen von %1</translation>
+        <translation>%1-Zeichen</translation>
     </message>
 </context>
 <context>
@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>Optional. Pick a look and a size; you can change them any time in Settings.</source>
-        <translation>Freiwillig. Wählen Sie Aussehen und Größe; in den Einstellungen können Sie beides jederzeit ändern.</translation>
+        <translation>Freiwillig. Aussehen und Größe lassen sich in den Einstellungen ändern.</translation>
     </message>
     <message>
         <source>Size</source>
@@ -874,7 +874,7 @@ Version %2</translation>
     <name>Theme</name>
     <message>
         <source>Classic</source>
-        <translation>Klassisch</translation>
+        <translation>Klassik</translation>
     </message>
     <message>
         <source>The familiar macOS red, yellow and green.</source>

@@ -17,7 +17,7 @@
     <name>AccessStep</name>
     <message>
         <source>One permission, then you&apos;re done</source>
-        <translation>Un permiso y habrá terminado</translation>
+        <translation>Basta un permiso</translation>
     </message>
     <message>
         <source>Corvane can now see which window you point at.</source>
@@ -168,7 +168,7 @@
     <message>
         <source>The %1 mark</source>
         <extracomment>The title of a drawing of a product&apos;s mark; %1 is the product&apos;s name.</extracomment>
-        <translation>El símbolo de %1</translation>
+        <translation>Símbolo %1</translation>
     </message>
 </context>
 <context>
@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>Optional. Pick a look and a size; you can change them any time in Settings.</source>
-        <translation>Opcional. Elija un aspecto y un tamaño; puede cambiarlos cuando quiera en Configuración.</translation>
+        <translation>Opcional. El aspecto y el tamaño también se cambian en Configuración.</translation>
     </message>
     <message>
         <source>Size</source>

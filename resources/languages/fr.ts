@@ -17,7 +17,7 @@
     <name>AccessStep</name>
     <message>
         <source>One permission, then you&apos;re done</source>
-        <translation>Une autorisation, et c’est prêt</translation>
+        <translation>Une autorisation suffit</translation>
     </message>
     <message>
         <source>Corvane can now see which window you point at.</source>
@@ -168,7 +168,7 @@
     <message>
         <source>The %1 mark</source>
         <extracomment>The title of a drawing of a product&apos;s mark; %1 is the product&apos;s name.</extracomment>
-        <translation>Le symbole de %1</translation>
+        <translation>Symbole %1</translation>
     </message>
 </context>
 <context>
@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>Optional. Pick a look and a size; you can change them any time in Settings.</source>
-        <translation>Facultatif. Choisissez une apparence et une taille&#xa0;; vous pourrez les modifier à tout moment dans les Paramètres.</translation>
+        <translation>Facultatif. L’apparence et la taille se changent aussi dans les Paramètres.</translation>
     </message>
     <message>
         <source>Size</source>
@@ -874,7 +874,7 @@ Version %2</translation>
     <name>Theme</name>
     <message>
         <source>Classic</source>
-        <translation>Classique</translation>
+        <translation>Usuel</translation>
     </message>
     <message>
         <source>The familiar macOS red, yellow and green.</source>

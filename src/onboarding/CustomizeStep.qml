@@ -29,7 +29,7 @@ EBStageScreen {
     }
     Row {
         width: parent.width
-        height: screen.room
+        height: Math.max(screen.room, card.height)
         spacing: 14
 
         ButtonsPreview {

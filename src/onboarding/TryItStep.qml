@@ -18,9 +18,11 @@ EBStageScreen {
 
     Item {
         width: parent.width
-        implicitHeight: screen.room
+        implicitHeight: Math.max(screen.room, practice.implicitHeight)
 
         HandsOnMissionControl {
+            id: practice
+
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width
             model: screen.flow.demo

@@ -65,7 +65,8 @@ ControlledToggle {
                 role: "caption"
                 weight: tile.isChosen ? Font.DemiBold : Font.Normal
                 color: tile.isChosen ? EB.ink : EB.inkMuted
-                elide: Text.ElideRight
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
         }

@@ -38,8 +38,7 @@ QList<Solid> solidsIn(QQuickItem *view)
             solids.append({item, isControl ? element->text(QAccessible::Name) : item->property("text").toString(),
                            placeOf(item)});
     }
-    for (const char *type :
-         {"EBGroup", "EBWell", "DemoCell", "KeyCap", "EBSegmented", "DragTileContent"}) {
+    for (const char *type : {"EBGroup", "EBWell", "DemoCell", "KeyCap", "EBSegmented", "DragTileContent"}) {
         for (const QQuickItem *item : Views::visible(view, type))
             solids.append({item, QString::fromLatin1(type), placeOf(item)});
     }
@@ -51,6 +50,14 @@ bool collide(const Solid &one, const Solid &other)
     const QRectF common = one.place & other.place;
     return common.width() >= 1 && common.height() >= 1 && !one.item->isAncestorOf(other.item)
         && !other.item->isAncestorOf(one.item);
+}
+
+/// Whether the item is brought into the window by scrolling.
+bool scrolls(const QQuickItem *item)
+{
+    while (item && !item->inherits("QQuickFlickable"))
+        item = item->parentItem();
+    return item && item->property("contentHeight").toReal() > item->height();
 }
 
 bool leaves(const QRectF &part, const QRectF &whole)
@@ -78,7 +85,8 @@ QStringList Fit::faults(QQuickItem *view, const QRectF &frame)
         const Solid &one = solids.at(i);
         if (one.item->inherits("QQuickText") && isCut(one.item))
             faults.append(one.name + QStringLiteral(" is cut"));
-        if (leaves(one.place, frame))
+        const bool isBelow = one.place.top() >= frame.top() && scrolls(one.item);
+        if (leaves(one.place, isBelow ? frame.adjusted(0, 0, 0, one.place.bottom()) : frame))
             faults.append(one.name + QStringLiteral(" leaves the window"));
         for (qsizetype j = 0; j < solids.size(); ++j) {
             const Solid &other = solids.at(j);

@@ -5,7 +5,7 @@ import Embera.Rows
 import Embera.Screens
 
 /// A step of a guide whose body is a stage of its own: a heading above it, buttons below it. Always 560 × 388 points;
-/// reaches under the window's title bar.
+/// reaches under the window's title bar. Where that is not enough the screen scrolls.
 Rectangle {
     id: screen
 
@@ -32,80 +32,85 @@ Rectangle {
     height: implicitHeight
     color: EB.paper
 
-    Column {
-        id: column
+    ScrollArea {
+        anchors.fill: parent
+        contentHeight: column.y + column.height + 16
 
-        anchors {
-            left: parent.left
-            right: parent.right
-            top: parent.top
-            leftMargin: 28
-            rightMargin: 28
-            topMargin: 36
-        }
+        Column {
+            id: column
 
-        Item {
-            width: parent.width
-            implicitHeight: Math.max(label.implicitHeight, count.implicitHeight)
+            anchors {
+                left: parent.left
+                right: parent.right
+                top: parent.top
+                leftMargin: 28
+                rightMargin: 28
+                topMargin: 36
+            }
 
-            EBLabel {
-                id: label
+            Item {
+                width: parent.width
+                implicitHeight: Math.max(label.implicitHeight, count.implicitHeight)
 
-                anchors {
-                    left: parent.left
-                    right: count.visible ? count.left : parent.right
-                    rightMargin: count.visible ? 8 : 0
+                EBLabel {
+                    id: label
+
+                    anchors {
+                        left: parent.left
+                        right: count.visible ? count.left : parent.right
+                        rightMargin: count.visible ? 8 : 0
+                    }
+                }
+                EBLabel {
+                    id: count
+
+                    anchors.right: parent.right
+                    visible: text !== ""
                 }
             }
-            EBLabel {
-                id: count
+            EBText {
+                id: heading
 
-                anchors.right: parent.right
-                visible: text !== ""
+                width: parent.width
+                topPadding: 8
+                role: "heading"
+                horizontalAlignment: Text.AlignLeft
+                wrapMode: Text.Wrap
+                // Read aloud when the screen comes up; Tab goes on from here.
+                focus: true
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
             }
-        }
-        EBText {
-            id: heading
+            EBParagraph {
+                id: paragraph
 
-            width: parent.width
-            topPadding: 8
-            role: "heading"
-            horizontalAlignment: Text.AlignLeft
-            wrapMode: Text.Wrap
-            // Read aloud when the screen comes up; Tab goes on from here.
-            focus: true
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
-        EBParagraph {
-            id: paragraph
+                width: parent.width
+                topPadding: 4
+                color: EB.inkMuted
+                Accessible.role: screen.isLive ? Accessible.Notification : Accessible.StaticText
+                Accessible.name: KeySymbols.spelled(text)
+                Accessible.onNameChanged: if (screen.isLive)
+                    Announcer.announce(paragraph)
 
-            width: parent.width
-            topPadding: 4
-            color: EB.inkMuted
-            Accessible.role: screen.isLive ? Accessible.Notification : Accessible.StaticText
-            Accessible.name: KeySymbols.spelled(text)
-            Accessible.onNameChanged: if (screen.isLive)
-                Announcer.announce(paragraph)
-
-            KeyHelp {
-                text: KeySymbols.keysIn(paragraph.text)
+                KeyHelp {
+                    text: KeySymbols.keysIn(paragraph.text)
+                }
             }
-        }
-        Item {
-            width: parent.width
-            implicitHeight: 14
-        }
-        Item {
-            id: stage
+            Item {
+                width: parent.width
+                implicitHeight: 14
+            }
+            Item {
+                id: stage
 
-            width: parent.width
-            implicitHeight: childrenRect.height
-        }
-        ActionRow {
-            id: buttons
+                width: parent.width
+                implicitHeight: childrenRect.height
+            }
+            ActionRow {
+                id: buttons
 
-            width: parent.width
+                width: parent.width
+            }
         }
     }
 }

@@ -5,7 +5,7 @@ import Embera.Rows
 import Embera.Screens
 
 /// A step of a guide: beside a loud panel with all steps, what the step is about, the rows with what there is to do, and
-/// its buttons. Reaches under the window's title bar.
+/// its buttons. Reaches under the window's title bar. What it has no room for scrolls.
 Item {
     id: screen
 
@@ -84,61 +84,66 @@ Item {
         }
         color: EB.paper
 
-        Column {
-            id: column
+        ScrollArea {
+            anchors.fill: parent
+            contentHeight: column.y + column.height + 8
 
-            anchors {
-                left: parent.left
-                right: parent.right
-                top: parent.top
-                leftMargin: 28
-                rightMargin: 26
-                topMargin: 44
-            }
-            spacing: 10
-
-            EBLabel {
-                id: label
-
-                width: parent.width
-            }
-            EBText {
-                id: heading
-
-                width: Math.min(300, parent.width)
-                role: "heading"
-                horizontalAlignment: Text.AlignLeft
-                wrapMode: Text.Wrap
-                // Read aloud when the screen comes up; Tab goes on from here.
-                focus: true
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
-            }
-            EBParagraph {
-                id: paragraph
-
-                width: Math.min(310, parent.width)
-                height: Math.max(implicitHeight, heightOf(screen.longestText))
-                color: EB.inkMuted
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
             Column {
-                width: parent.width
-                topPadding: 8
+                id: column
 
-                EBGroup {
-                    id: card
+                anchors {
+                    left: parent.left
+                    right: parent.right
+                    top: parent.top
+                    leftMargin: 28
+                    rightMargin: 26
+                    topMargin: 44
                 }
-            }
-            Column {
-                width: parent.width
-                topPadding: 8
+                spacing: 10
 
-                ActionRow {
-                    id: buttons
+                EBLabel {
+                    id: label
 
                     width: parent.width
+                }
+                EBText {
+                    id: heading
+
+                    width: Math.min(300, parent.width)
+                    role: "heading"
+                    horizontalAlignment: Text.AlignLeft
+                    wrapMode: Text.Wrap
+                    // Read aloud when the screen comes up; Tab goes on from here.
+                    focus: true
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+                EBParagraph {
+                    id: paragraph
+
+                    width: Math.min(310, parent.width)
+                    height: Math.max(implicitHeight, heightOf(screen.longestText))
+                    color: EB.inkMuted
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+                Column {
+                    width: parent.width
+                    topPadding: 8
+
+                    EBGroup {
+                        id: card
+                    }
+                }
+                Column {
+                    width: parent.width
+                    topPadding: 8
+
+                    ActionRow {
+                        id: buttons
+
+                        width: parent.width
+                    }
                 }
             }
         }

@@ -21,7 +21,7 @@ ContinuousRectangle {
 
     EBEnvironment.ebApp: "corvane"
     implicitWidth: 330
-    implicitHeight: floats ? 76 : 52
+    implicitHeight: Math.max(floats ? 76 : 52, words.implicitHeight + 2 * 8)
     radius: 16
     color: floats ? EB.surface : "transparent"
     strokeColor: EB.line
@@ -66,6 +66,8 @@ ContinuousRectangle {
         height: width
     }
     Column {
+        id: words
+
         anchors {
             left: image.right
             // In a card in line with the texts of the rows.

@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Templates as T
+import Embera.Tokens
+
+/// Content that scrolls where it is higher than the room there is: by the wheel, the bar and a finger, never by dragging
+/// with the mouse. It follows the focus. `contentHeight` is set by whoever puts the content in.
+Flickable {
+    id: area
+
+    /// What is on whole points may be measured between them.
+    readonly property bool scrolls: contentHeight > height + 1
+    readonly property Item focusItem: Window.activeFocusItem
+
+    function scrollTo(y: real) {
+        contentY = Math.max(0, Math.min(y, contentHeight - height));
+    }
+    /// Scrolls as little as it takes to show the item with its ring.
+    function reveal(item: Item) {
+        const top = item.mapToItem(contentItem, 0, -18).y;
+        const bottom = item.mapToItem(contentItem, 0, item.height + 18).y;
+        scrollTo(Math.max(Math.min(contentY, top), bottom - height));
+    }
+    function holds(item: Item): bool {
+        while (item && item !== contentItem)
+            item = item.parent;
+        return item !== null;
+    }
+
+    interactive: false
+    clip: scrolls
+    onScrollsChanged: scrollTo(scrolls ? contentY : 0)
+    onFocusItemChanged: if (scrolls && holds(focusItem))
+        reveal(focusItem)
+
+    T.ScrollBar.vertical: T.ScrollBar {
+        width: 10
+        padding: 2
+        visible: area.scrolls
+        interactive: true
+        contentItem: Rectangle {
+            radius: width / 2
+            color: EB.lineStrong
+        }
+    }
+    WheelHandler {
+        enabled: area.scrolls
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+        // A notch of a wheel is 120 units, and scrolls 60 points.
+        onWheel: event => area.scrollTo(area.contentY - (event.pixelDelta.y || event.angleDelta.y / 2))
+    }
+    DragHandler {
+        property real start: 0
+
+        enabled: area.scrolls
+        acceptedDevices: PointerDevice.TouchScreen
+        target: null
+        onActiveChanged: start = area.contentY
+        onActiveTranslationChanged: area.scrollTo(start - activeTranslation.y)
+    }
+}
