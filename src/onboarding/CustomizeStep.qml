@@ -29,7 +29,8 @@ EBStageScreen {
     }
     Row {
         width: parent.width
-        height: Math.max(screen.room, card.height)
+        // The ring around a button below the card stays clear of it.
+        height: Math.max(screen.room, card.height + KitMetrics.ringGap + KitMetrics.ringWidth)
         spacing: 14
 
         ButtonsPreview {

@@ -40,6 +40,14 @@ public:
     }
 };
 
+void practiseAll(DemoModel &demo)
+{
+    demo.apply(Hotkey::close, 0);
+    demo.apply(Hotkey::minimize, 1);
+    demo.apply(Hotkey::maximize, 2);
+    demo.reset();
+}
+
 const QString layouts =
     QStringLiteral(R"([{"created":1,"id":"11111111-1111-4111-8111-111111111111","name":"A","windows":[]},)"
                    R"({"created":2,"id":"22222222-2222-4222-8222-222222222222","name":"","windows":[]}])");
@@ -55,6 +63,7 @@ private slots:
     void cleanup();
     void everythingFits_data();
     void everythingFits();
+    void keysKeepTheirOrderFromRightToLeft();
 };
 
 void TestLanguages::cleanup()
@@ -124,12 +133,37 @@ void TestLanguages::everythingFits()
                     guide.flow().requestAccess();
                     faults += windows.faultsOf(guide.window(), name(view + "-asked"));
                 }
+                if (step == OnboardingStep::tryIt) {
+                    practiseAll(*guide.flow().demo());
+                    faults += windows.faultsOf(guide.window(), name(view + "-all"));
+                }
             }
         }
         AboutWindow about(windows.engine);
         faults += windows.faultsOf(about, name("about"));
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+void TestLanguages::keysKeepTheirOrderFromRightToLeft()
+{
+    const auto cap = [](const QString &keys) {
+        Windows windows({});
+        QQmlComponent component(&windows.engine);
+        component.setData("import Embera.Controls\nKeyCap {}", {});
+        EBWindow window(EBApp::corvane, {100, 100}, {});
+        auto *item = qobject_cast<QQuickItem *>(component.createWithInitialProperties({{"keys", keys}}));
+        REQUIRE(item);
+        item->setParentItem(window.contentItem());
+        Views::bringUp(window);
+        return window.grabWindow();
+    };
+    for (const QString &keys : {QStringLiteral("⌘← ⌘→"), QStringLiteral("⌘1 … ⌘9")}) {
+        const QImage usual = cap(keys);
+        Language::use(QStringLiteral("ar"));
+        QVERIFY2(cap(keys) == usual, qPrintable(keys));
+        cleanup();
+    }
 }
 
 CORVANE_TEST(TestLanguages, runInGui)

@@ -49,6 +49,7 @@ private slots:
     void theScaleMultipliesThePixels();
     void theEnvironmentDoesNotChangeThePicture();
     void anotherFontReplacesThatOfTheDesktop();
+    void theTextsAreInTheLanguageThatIsNamed();
     void aWrongCommandLineIsRefused_data();
     void aWrongCommandLineIsRefused();
     void aFileThatCannotBeWrittenFails();
@@ -159,6 +160,17 @@ void TestGallery::anotherFontReplacesThatOfTheDesktop()
     QVERIFY(drawn(QStringLiteral("rows"), font) != drawn(QStringLiteral("rows")));
 }
 
+void TestGallery::theTextsAreInTheLanguageThatIsNamed()
+{
+    const QString scene = QStringLiteral("settings-general");
+    const auto in = [&](const char *code) { return drawn(scene, {QStringLiteral("--language"), QLatin1String(code)}); };
+    QVERIFY(in("de") != drawn(scene));
+    // From right to left the sidebar is at the other side.
+    const QImage arabic = in("ar");
+    QVERIFY(arabic.pixelColor(20, 200) != drawn(scene).pixelColor(20, 200));
+    QCOMPARE(arabic.pixelColor(arabic.width() - 20, 200), drawn(scene).pixelColor(20, 200));
+}
+
 void TestGallery::aWrongCommandLineIsRefused_data()
 {
     QTest::addColumn<QString>("line");
@@ -182,6 +194,9 @@ void TestGallery::aWrongCommandLineIsRefused_data()
     for (const char *scale : {"0", "-1", "big", "nan", "inf", "100"})
         QTest::addRow("scale %s", scale) << QStringLiteral("--render buttons --scale=%1").arg(QLatin1String(scale))
                 + out << QString::fromLatin1(scale);
+    for (const char *code : {"en", "xx", "zh_Hant", "../de"})
+        QTest::addRow("language %s", code) << QStringLiteral("--render buttons --language %1").arg(QLatin1String(code))
+                + out << QString::fromLatin1(code);
     QTest::newRow("an unknown font") << QStringLiteral("--render buttons --font Nowhere") + out
                                      << QStringLiteral("Nowhere");
 }

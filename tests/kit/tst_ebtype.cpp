@@ -45,6 +45,7 @@ private slots:
     void noFaceStandsOnWholePixels();
     void theKitsOwnFacesNeverDo_data() { everyRoleHasItsFontAndTracking_data(); }
     void theKitsOwnFacesNeverDo();
+    void joinedLettersAreNotTornApart();
     void aNumberThatIsNoRoleHasNoTracking();
 
     void theSystemFontIsThatOfTheDesktop();
@@ -138,6 +139,14 @@ void TestEBType::theKitsOwnFacesNeverDo()
     QFETCH(QString, face);
     const QFont font = EBTypes::font(*EBTypes::fromRawValue(QString::fromLatin1(QTest::currentDataTag())));
     QCOMPARE(font.hintingPreference(), face.isEmpty() ? QFont::PreferDefaultHinting : QFont::PreferVerticalHinting);
+}
+
+void TestEBType::joinedLettersAreNotTornApart()
+{
+    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    for (const EBTypeRole role : EBTypes::allCases)
+        QCOMPARE(EBTypes::font(role).letterSpacing(), 0.0);
 }
 
 void TestEBType::aNumberThatIsNoRoleHasNoTracking()

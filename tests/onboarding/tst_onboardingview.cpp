@@ -76,8 +76,6 @@ private slots:
     void valuesOfAnotherTypeCountAsAbsent_data();
     void valuesOfAnotherTypeCountAsAbsent();
     void theScreenThatFadesOutIsHiddenFromAssistiveTechnologies();
-    void nothingIsCutInAWideFace_data();
-    void nothingIsCutInAWideFace();
     void stepsCrossFadeInAQuarterOfASecond();
     void withLessMotionStepsChangeAtOnce();
     void onlyTheCurrentScreenIsThere();
@@ -105,24 +103,6 @@ private:
     /// The screens that exist at this moment, by their step.
     QStringList screens() const;
     qreal opacityOf(const QString &step) const;
-
-    /// A text that stands for itself, not the great word of a loud screen, which runs out of the window.
-    static bool isReadable(const QQuickItem *text)
-    {
-        return !text->property("text").toString().isEmpty() && text->property("font").value<QFont>().pixelSize() < 60;
-    }
-
-    void practiseAll();
-
-    /// What must not lie over anything else of its kind, unless one is a part of the other.
-    struct Solid {
-        const QQuickItem *item;
-        QString name;
-        QRectF place;
-    };
-    /// Every text, control, card and pretend window; a button with the ring that shows the focus.
-    QList<Solid> solids();
-    static bool collide(const Solid &one, const Solid &other);
 
     std::unique_ptr<GuideView> m_guide;
     FakePlatform *m_platform = nullptr;
@@ -179,43 +159,6 @@ qreal TestOnboardingView::opacityOf(const QString &step) const
             return holder->opacity();
     }
     return -1;
-}
-
-void TestOnboardingView::practiseAll()
-{
-    m_flow->demo()->apply(Hotkey::close, 0);
-    m_flow->demo()->apply(Hotkey::minimize, 1);
-    m_flow->demo()->apply(Hotkey::maximize, 2);
-    m_flow->demo()->reset();
-    REQUIRE(shows("That's all there is to it. It works just like this in Mission Control."));
-}
-
-QList<TestOnboardingView::Solid> TestOnboardingView::solids()
-{
-    QList<Solid> list;
-    for (QQuickItem *item : m_guide->visibleItems()) {
-        const QRectF place = item->mapRectToScene(item->boundingRect());
-        const auto *element = QAccessible::queryAccessibleInterface(item);
-        const QAccessible::Role role = element ? element->role() : QAccessible::NoRole;
-        if (item->inherits("QQuickText") && isReadable(item))
-            list.append({item, item->property("text").toString(), place});
-        else if (role == QAccessible::Button)
-            list.append({item, element->text(QAccessible::Name), place.adjusted(-4, -4, 4, 4)});
-        else if (role == QAccessible::CheckBox || role == QAccessible::RadioButton)
-            list.append({item, element->text(QAccessible::Name), place});
-    }
-    for (const char *type : {"EBGroup", "EBWell", "DemoCell"}) {
-        for (const QQuickItem *item : m_guide->typed(type))
-            list.append({item, type, item->mapRectToScene(item->boundingRect())});
-    }
-    return list;
-}
-
-bool TestOnboardingView::collide(const Solid &one, const Solid &other)
-{
-    const QRectF common = one.place & other.place;
-    return common.width() >= 1 && common.height() >= 1 && !one.item->isAncestorOf(other.item)
-        && !other.item->isAncestorOf(one.item);
 }
 
 void TestOnboardingView::theViewHasItsSize()
@@ -664,52 +607,6 @@ void TestOnboardingView::theScreenThatFadesOutIsHiddenFromAssistiveTechnologies(
     QVERIFY(!stateOf("Make it yours", QAccessible::Heading).invisible);
     m_flow->back();
     QVERIFY(!stateOf("Skip").invisible);
-}
-
-void TestOnboardingView::nothingIsCutInAWideFace_data()
-{
-    QTest::addColumn<OnboardingStep>("step");
-    QTest::addColumn<bool>("begun");
-    QTest::addColumn<bool>("carriesTile");
-    for (const OnboardingStep step : OnboardingSteps::allCases)
-        QTest::newRow(qPrintable(OnboardingSteps::caseName(step))) << step << false << false;
-    QTest::newRow("tryIt, all practised") << OnboardingStep::tryIt << true << false;
-    QTest::newRow("access, asked for") << OnboardingStep::access << true << false;
-    QTest::newRow("access with the tile") << OnboardingStep::access << false << true;
-    QTest::newRow("access with the tile, asked for") << OnboardingStep::access << true << true;
-}
-
-void TestOnboardingView::nothingIsCutInAWideFace()
-{
-    QFETCH(OnboardingStep, step);
-    QFETCH(bool, begun);
-    QFETCH(bool, carriesTile);
-    const QFont usual = QGuiApplication::font();
-    const auto restore = qScopeGuard([&] { QGuiApplication::setFont(usual); });
-    QGuiApplication::setFont(QFont("DejaVu Sans"));
-    // The longest texts and all the buttons.
-    m_store->values = {{"buttonSizeOption", "large"}, {"showMinimizeButton", true}, {"showMaximizeButton", true}};
-    m_platform->windows.available = !carriesTile;
-    make(step);
-    if (begun)
-        step == OnboardingStep::tryIt ? practiseAll() : m_flow->requestAccess();
-    m_window->grabWindow();
-    const QRectF frame(0, 0, 560, 388);
-    for (const QQuickItem *item : m_guide->visibleItems()) {
-        if (!item->inherits("QQuickText") || !isReadable(item))
-            continue;
-        const QString text = item->property("text").toString();
-        QVERIFY2(!item->property("truncated").toBool(), qPrintable(text));
-        QVERIFY2(item->property("contentHeight").toReal() <= item->height() + 0.5, qPrintable(text));
-    }
-    const QList<Solid> solids = this->solids();
-    for (qsizetype one = 0; one < solids.size(); ++one) {
-        QVERIFY2(frame.contains(solids.at(one).place), qPrintable(solids.at(one).name));
-        for (qsizetype other = 0; other < one; ++other) {
-            const QString both = solids.at(one).name + " over " + solids.at(other).name;
-            QVERIFY2(!collide(solids.at(one), solids.at(other)), qPrintable(both));
-        }
-    }
 }
 
 void TestOnboardingView::stepsCrossFadeInAQuarterOfASecond()

@@ -25,18 +25,19 @@ QRectF placeOf(const QQuickItem *item)
     return item->mapRectToScene(item->boundingRect());
 }
 
-/// Every text, control, card and pretend window.
+/// Every text, control, card and pretend window; a button with the ring that shows the focus.
 QList<Solid> solidsIn(QQuickItem *view)
 {
     QList<Solid> solids;
     for (QQuickItem *item : Views::visible(view)) {
         const auto *element = QAccessible::queryAccessibleInterface(item);
         const QAccessible::Role role = element ? element->role() : QAccessible::NoRole;
-        const bool isControl =
-            role == QAccessible::Button || role == QAccessible::CheckBox || role == QAccessible::RadioButton;
-        if (item->inherits("QQuickText") ? isReadable(item) : isControl)
-            solids.append({item, isControl ? element->text(QAccessible::Name) : item->property("text").toString(),
-                           placeOf(item)});
+        if (item->inherits("QQuickText") && isReadable(item))
+            solids.append({item, item->property("text").toString(), placeOf(item)});
+        else if (role == QAccessible::Button)
+            solids.append({item, element->text(QAccessible::Name), placeOf(item).adjusted(-4, -4, 4, 4)});
+        else if (role == QAccessible::CheckBox || role == QAccessible::RadioButton)
+            solids.append({item, element->text(QAccessible::Name), placeOf(item)});
     }
     for (const char *type : {"EBGroup", "EBWell", "DemoCell", "KeyCap", "EBSegmented", "DragTileContent"}) {
         for (const QQuickItem *item : Views::visible(view, type))
