@@ -143,10 +143,14 @@ void TestEBType::theKitsOwnFacesNeverDo()
 
 void TestEBType::joinedLettersAreNotTornApart()
 {
-    const auto restore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
-    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    for (const EBTypeRole role : EBTypes::allCases)
-        QCOMPARE(EBTypes::font(role).letterSpacing(), 0.0);
+    const EBType type;
+    for (const EBTypeRole role : EBTypes::allCases) {
+        QCOMPARE(EBTypes::font(role, QStringLiteral("الإعدادات · 01")).letterSpacing(), 0.0);
+        QCOMPARE(EBTypes::font(role, QStringLiteral("01 Corvane 設定")), EBTypes::font(role));
+        const QString name = EBTypes::rawValue(role);
+        QCOMPARE(type.font(name, 0, 60, QStringLiteral("عام")).letterSpacing(), 0.0);
+        QCOMPARE(type.font(name, 0, 60, QStringLiteral("General")), type.font(name, 0, 60));
+    }
 }
 
 void TestEBType::aNumberThatIsNoRoleHasNoTracking()

@@ -187,15 +187,15 @@ qreal Sheet::fittingGrowth(const QFont &font, const QString &text, QPointF posit
 
 void Sheet::drawNotes(EBApp app)
 {
-    const QFont titleFont = sized(EBTypes::font(EBTypeRole::subheading), titleSize);
     const QString heading = title(app);
+    const QFont titleFont = sized(EBTypes::font(EBTypeRole::subheading, heading), titleSize);
     if (const qreal growth = fittingGrowth(titleFont, heading, titlePosition); growth >= 1) {
         m_painter->setFont(sized(titleFont, titleSize * growth));
         drawText(place(titlePosition), textWidth(m_painter->font(), heading), heading);
     }
 
-    const QFont noteFont = EBTypes::font(EBTypeRole::monoSmall);
     const QList<Callout> notes = callouts(app);
+    const QFont noteFont = EBTypes::font(EBTypeRole::monoSmall, notes.constFirst().text);
     qreal growth = largestGrowth;
     for (const Callout &note : notes)
         growth = std::min(growth, fittingGrowth(noteFont, note.text, note.to));

@@ -11,7 +11,7 @@ Text {
     property int weight: 0
     property real size: 0
 
-    font: EBType.font(role, weight, size)
+    font: EBType.font(role, weight, size, text.text)
     color: EB.ink
     textFormat: Text.PlainText
     // Tracking is also added behind the last letter, where it would put a centred text off its middle.

@@ -6,6 +6,7 @@
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -59,6 +60,13 @@ QFont withFinePlaces(QFont font)
     return font;
 }
 
+/// Whether its letters join, so that tracking would tear them apart.
+bool joins(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar character) { return character.script() == QChar::Script_Arabic; });
+}
+
 QFont faceFont(Face face)
 {
     switch (face) {
@@ -74,14 +82,14 @@ QFont faceFont(Face face)
 
 }
 
-QFont EBTypes::font(EBTypeRole role)
+QFont EBTypes::font(EBTypeRole role, const QString &text)
 {
     const Role &values = entry(role);
     QFont font = faceFont(values.face);
     font.setPixelSize(values.size);
     font.setWeight(values.weight);
-    // Letters that are written from right to left join, and tracking would tear them apart.
-    font.setLetterSpacing(QFont::AbsoluteSpacing, QGuiApplication::isRightToLeft() ? 0 : values.tracking);
+    const bool isTracked = values.tracking != 0 && !joins(text);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, isTracked ? values.tracking : 0);
     return font;
 }
 
@@ -170,10 +178,10 @@ int EBType::lineCount(const QString &text, const QFont &font, qreal width) const
     return wrapped(pieces(text, font), width).lines;
 }
 
-QFont EBType::font(const QString &role, int weight, qreal size) const
+QFont EBType::font(const QString &role, int weight, qreal size, const QString &text) const
 {
     const EBTypeRole parsed = EBTypes::fromRawValue(role).value_or(EBTypeRole::body);
-    QFont font = EBTypes::font(parsed);
+    QFont font = EBTypes::font(parsed, text);
     if (weight > 0)
         font.setWeight(QFont::Weight(weight));
     if (size > 0) {

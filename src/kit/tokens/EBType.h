@@ -25,8 +25,9 @@ enum class EBTypeRole {
 };
 
 struct EBTypes : NamedCases<EBTypeRole> {
-    /// The role's face, size (points, set as pixels) and weight, tracking included.
-    static QFont font(EBTypeRole role);
+    /// The role's face, size (points, set as pixels) and weight, tracking included. A text whose letters join, as in
+    /// Arabic, is not tracked.
+    static QFont font(EBTypeRole role, const QString &text = {});
 
     /// Extra space after each letter in points; 0 for a number that is no role.
     static qreal tracking(int role);
@@ -41,8 +42,9 @@ class EBType : public QObject {
     QML_ELEMENT
     QML_SINGLETON
 public:
-    /// A weight of 0 keeps the role's own; a size of 0 too. The tracking grows with the size.
-    Q_INVOKABLE QFont font(const QString &role, int weight = 0, qreal size = 0) const;
+    /// A weight of 0 keeps the role's own; a size of 0 too. The tracking grows with the size. For what is set in it see
+    /// `EBTypes::font()`.
+    Q_INVOKABLE QFont font(const QString &role, int weight = 0, qreal size = 0, const QString &text = {}) const;
 
     /// `width`, where the text wraps without leaving a single word for its last line; else the smallest width, in whole
     /// points, that takes no more lines: they are about equally long there.
