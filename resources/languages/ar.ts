@@ -298,7 +298,7 @@
     </message>
     <message>
         <source>Ready</source>
-        <translation>جاهز</translation>
+        <translation>اكتملت</translation>
     </message>
     <message>
         <source>Don&apos;t start at login</source>

@@ -35,6 +35,8 @@ private:
 
 private slots:
     void opensTheSettingsWindow();
+    void speaksTheFirstLanguageOfTheDesktopThatItCan_data();
+    void speaksTheFirstLanguageOfTheDesktopThatItCan();
     void isInTheMiddleOfTheScreenAndStaysThere();
     void isAsHighAsItsContentFromTheFirstFrame();
     void cannotBeResized();
@@ -106,6 +108,30 @@ void TestLaunch::opensTheSettingsWindow()
     QVERIFY(window()->protocols().contains("WM_DELETE_WINDOW"));
     QCOMPARE(window()->geometry().width(), 620);
     QVERIFY(showsPage(1, u"General"_s));
+}
+
+void TestLaunch::speaksTheFirstLanguageOfTheDesktopThatItCan_data()
+{
+    QTest::addColumn<QString>("languages");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("close");
+    QTest::addColumn<bool>("closeIsOnTheLeft");
+    QTest::newRow("German") << u"cy:de_AT:fr"_s << u"Corvane-Einstellungen"_s << u"Schließen"_s << true;
+    QTest::newRow("English first") << u"en_GB:de"_s << u"Corvane Settings"_s << u"Close"_s << true;
+    QTest::newRow("Arabic") << u"ar"_s << u"إعدادات Corvane"_s << u"إغلاق"_s << false;
+}
+
+void TestLaunch::speaksTheFirstLanguageOfTheDesktopThatItCan()
+{
+    QFETCH(QString, languages);
+    QFETCH(QString, title);
+    QFETCH(QString, close);
+    QFETCH(bool, closeIsOnTheLeft);
+    QVERIFY(open({.environment = {{u"LANGUAGE"_s, languages}}}));
+    QCOMPARE(window()->title(), title);
+    const Accessible button = find(ATSPI_ROLE_PUSH_BUTTON, close);
+    QVERIFY(button);
+    QCOMPARE(button.extents().center().x() < window()->geometry().center().x(), closeIsOnTheLeft);
 }
 
 void TestLaunch::isInTheMiddleOfTheScreenAndStaysThere()
