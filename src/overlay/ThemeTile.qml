@@ -65,7 +65,7 @@ ControlledToggle {
                 role: "caption"
                 weight: tile.isChosen ? Font.DemiBold : Font.Normal
                 color: tile.isChosen ? EB.ink : EB.inkMuted
-                horizontalAlignment: Text.AlignHCenter
+                horizontalAlignment: lineCount > 1 ? Text.AlignHCenter : undefined
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
