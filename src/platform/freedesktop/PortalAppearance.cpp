@@ -2,13 +2,11 @@
 
 #include "SessionBus.h"
 
-#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QSet>
 
 namespace {
 
@@ -19,61 +17,6 @@ constexpr int frame = 16; // milliseconds
 const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString portalInterface = QStringLiteral("org.freedesktop.portal.Settings");
-
-const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
-const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
-const QString gnomeAccessibilityGroup = QStringLiteral("org.gnome.desktop.a11y.interface");
-
-QString id(const QString &group, const QString &key)
-{
-    return group + u' ' + key;
-}
-
-const QString colorScheme = QStringLiteral("color-scheme");
-const QString contrast = QStringLiteral("contrast");
-const QString reducedMotion = QStringLiteral("reduced-motion");
-const QString highContrast = QStringLiteral("high-contrast");
-const QString enableAnimations = QStringLiteral("enable-animations");
-
-/// All that is kept of what comes in.
-const QSet<QString> usedSettings = {id(appearanceGroup, colorScheme), id(appearanceGroup, contrast),
-                                    id(appearanceGroup, reducedMotion), id(gnomeAccessibilityGroup, highContrast),
-                                    id(gnomeGroup, enableAnimations)};
-
-// Some portals wrap a value more than once. A value of a type that no setting has counts as none.
-QVariant plain(QVariant value)
-{
-    while (value.metaType() == QMetaType::fromType<QDBusVariant>())
-        value = value.value<QDBusVariant>().variant();
-    const bool isKnown = value.typeId() == QMetaType::UInt || value.typeId() == QMetaType::Bool;
-    return isKnown ? value : QVariant();
-}
-
-// Portals with several backends may name a group, and a key in it, more than once; the first one counts.
-QHash<QString, QVariant> settingsIn(const QDBusArgument &groups)
-{
-    QHash<QString, QVariant> settings;
-    groups.beginMap();
-    while (!groups.atEnd()) {
-        QString group;
-        QVariantMap values;
-        groups.beginMapEntry();
-        groups >> group >> values;
-        groups.endMapEntry();
-        for (auto value = values.cbegin(); value != values.cend(); ++value) {
-            const QString name = id(group, value.key());
-            if (usedSettings.contains(name) && !settings.value(name).isValid())
-                settings.insert(name, plain(*value));
-        }
-    }
-    groups.endMap();
-    return settings;
-}
-
-std::optional<uint> number(const QVariant &value)
-{
-    return value.typeId() == QMetaType::UInt ? std::optional(value.toUInt()) : std::nullopt;
-}
 
 bool isDarkPalette()
 {
@@ -168,7 +111,7 @@ void PortalAppearance::ask(int limit)
     QDBusMessage question =
         QDBusMessage::createMethodCall(portal, portalPath, portalInterface, QStringLiteral("ReadAll"));
     question.setAutoStartService(false);
-    question << QStringList{appearanceGroup, gnomeGroup, gnomeAccessibilityGroup};
+    question << PortalSettings::groups();
     m_question = std::make_unique<QDBusPendingCallWatcher>(bus->asyncCall(question, limit));
     connect(m_question.get(), &QDBusPendingCallWatcher::finished, this, &PortalAppearance::takeAnswer);
 }
@@ -181,10 +124,8 @@ void PortalAppearance::takeAnswer()
     m_isFirstQuestion = false;
     if (isLate)
         ask(laterAnswerLimit);
-    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QStringLiteral("a{sa{sv}}"))
-        return;
-    m_settings = settingsIn(answer.arguments().constFirst().value<QDBusArgument>());
-    update();
+    if (m_settings.takeAnswer(answer))
+        update();
 }
 
 void PortalAppearance::takeOwner(const QString &owner)
@@ -195,10 +136,8 @@ void PortalAppearance::takeOwner(const QString &owner)
 void PortalAppearance::settingChanged(const QString &group, const QString &key, const QDBusVariant &value,
                                       const QDBusMessage &message)
 {
-    const QString name = id(group, key);
-    if (message.service() != m_owner || !usedSettings.contains(name))
+    if (message.service() != m_owner || !m_settings.take(group, key, value.variant()))
         return;
-    m_settings.insert(name, plain(value.variant()));
     if (!m_updates.isActive())
         m_updates.start(frame, this);
 }
@@ -223,21 +162,10 @@ void PortalAppearance::portalOwnerChanged(const QString &, const QString &, cons
 
 PortalAppearance::Look PortalAppearance::look() const
 {
-    const auto setting = [this](const QString &group, const QString &key) { return m_settings.value(id(group, key)); };
-    // GNOME's own settings are older than the shared ones: they count where the shared ones are not there.
-    const auto isOn = [&](const QString &key, const QString &olderGroup, const QString &olderKey, bool olderOn) {
-        const QVariant shared = setting(appearanceGroup, key);
-        if (shared.isValid())
-            return number(shared) == 1U;
-        const QVariant older = setting(olderGroup, olderKey);
-        return older.typeId() == QMetaType::Bool && older.toBool() == olderOn;
-    };
-    const auto scheme = number(setting(appearanceGroup, colorScheme));
-    const bool hasScheme = scheme == 1U || scheme == 2U;
     return {
-        .isDark = hasScheme ? scheme == 1U : isDarkPalette(),
-        .isHighContrast = isOn(contrast, gnomeAccessibilityGroup, highContrast, true),
-        .reduceMotion = isOn(reducedMotion, gnomeGroup, enableAnimations, false),
+        .isDark = m_settings.isDark(isDarkPalette()),
+        .isHighContrast = m_settings.isHighContrast(),
+        .reduceMotion = m_settings.reducesMotion(),
     };
 }
 

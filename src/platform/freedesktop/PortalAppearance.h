@@ -1,13 +1,12 @@
 #pragma once
 
 #include "Appearance.h"
+#include "PortalSettings.h"
 
 #include <QBasicTimer>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDeadlineTimer>
-#include <QHash>
-#include <QVariant>
 
 #include <memory>
 
@@ -62,7 +61,7 @@ private:
     Look look() const;
     void update();
 
-    QHash<QString, QVariant> m_settings;
+    PortalSettings m_settings;
     /// The portal's own name on the bus, to whose signals alone is listened; empty while there is none.
     QString m_owner;
     QBasicTimer m_updates;
