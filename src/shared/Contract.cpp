@@ -5,12 +5,45 @@
 
 #include <algorithm>
 
+namespace {
+
+/// The texts of the keys that offer a choice.
+QStringList choicesOf(const QString &key)
+{
+    using namespace Shared;
+    if (key == Key::buttonTheme)
+        return {QStringLiteral("classic"), QStringLiteral("soft"), QStringLiteral("graphite"), QStringLiteral("mono"),
+                QStringLiteral("outline")};
+    if (key == Key::buttonSizeOption)
+        return {QStringLiteral("small"), QStringLiteral("medium"), QStringLiteral("large")};
+    if (key == Key::maximizeMode)
+        return {QStringLiteral("fullscreen"), QStringLiteral("fill")};
+    return {};
+}
+
+QString announcementOf(const QString &key)
+{
+    using namespace Shared;
+    if (key == Key::agentLaunchAtLogin)
+        return Command::setLaunchAtLogin;
+    const QStringList announced = {Key::onboardingCompleted, Key::menuBarIconHidden,  Key::buttonTheme,
+                                   Key::buttonSizeOption,    Key::showMinimizeButton, Key::showMaximizeButton};
+    return announced.contains(key) ? Command::applySettings : QString();
+}
+
+}
+
 const QList<Contract::StoreKey> &Contract::storeKeys()
 {
     static const QList<StoreKey> keys = [] {
         QList<StoreKey> list = {
 #define STORE_KEY(identifier, name, value, writer, meaning)                                                            \
-    StoreKey{QStringLiteral(name), value, QStringLiteral(writer), QStringLiteral(meaning)},
+    StoreKey{QStringLiteral(name),                                                                                     \
+             value,                                                                                                    \
+             QStringLiteral(writer),                                                                                   \
+             QStringLiteral(meaning),                                                                                  \
+             choicesOf(Shared::Key::identifier),                                                                       \
+             announcementOf(Shared::Key::identifier)},
             CORVANE_STORE_KEYS(STORE_KEY)
 #undef STORE_KEY
         };
@@ -40,11 +73,15 @@ bool Contract::announcesSettings(const QString &command)
                        [&](const CommandEntry &entry) { return entry.name == command && entry.announcesSettings; });
 }
 
+const Contract::StoreKey *Contract::storeKey(const QString &name)
+{
+    const auto found = std::find_if(storeKeys().cbegin(), storeKeys().cend(),
+                                    [&](const StoreKey &entry) { return entry.name == name; });
+    return found != storeKeys().cend() ? &*found : nullptr;
+}
+
 QVariant Contract::defaultValue(const QString &key)
 {
-    for (const StoreKey &entry : storeKeys()) {
-        if (entry.name == key)
-            return entry.defaultValue;
-    }
-    return {};
+    const StoreKey *entry = storeKey(key);
+    return entry ? entry->defaultValue : QVariant();
 }

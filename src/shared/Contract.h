@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 /// The whole contract with the agent: every key of the shared store and every command of the channel,
@@ -61,6 +62,10 @@ struct StoreKey {
     QVariant defaultValue;
     QString writer;
     QString meaning;
+    /// What a text may be, where that is a fixed choice; empty where any value of the type will do.
+    QStringList choices = {};
+    /// The command that follows a change of the key; empty where the agent takes it from the store.
+    QString announcement = {};
 };
 
 struct CommandEntry {
@@ -77,6 +82,15 @@ const QList<CommandEntry> &commands();
 
 /// Whether that is a command of the table that announces settings.
 bool announcesSettings(const QString &command);
+
+/// The key of that name; null when the table has none.
+const StoreKey *storeKey(const QString &name);
+
+/// Whether the key holds what the agent says about itself, which is no setting of the person.
+inline bool isAgentState(QStringView key)
+{
+    return key.startsWith(u"agent.");
+}
 
 /// The default of a key of the table; invalid for any other key.
 QVariant defaultValue(const QString &key);

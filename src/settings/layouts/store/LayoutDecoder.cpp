@@ -1,5 +1,7 @@
 #include "LayoutCoder.h"
 
+#include "TrackedByte.h"
+
 #include <nlohmann/json.hpp>
 
 #include <QStringDecoder>
@@ -65,6 +67,35 @@ std::span<const Key> keysOf(Place place)
     }
 }
 
+/// What a field must hold, for a person.
+QString typeOf(Field field)
+{
+    switch (field) {
+    case Field::id:
+        return QStringLiteral("a UUID of 36 characters");
+    case Field::created:
+    case Field::x:
+    case Field::y:
+    case Field::w:
+    case Field::h:
+        return QStringLiteral("a number");
+    case Field::windows:
+        return QStringLiteral("an array");
+    case Field::rect:
+        return QStringLiteral("an object");
+    default:
+        return QStringLiteral("a text");
+    }
+}
+
+/// What must stand where no field has a name.
+const char *expectedIn(Place place)
+{
+    if (place == Place::list)
+        return "a layout must be an object";
+    return place == Place::windows ? "a window must be an object" : "layouts must be an array";
+}
+
 QString fromUtf8(const std::string &text)
 {
     // A byte-order mark at the start of a name is part of the name.
@@ -97,10 +128,12 @@ public:
     using Unsigned = nlohmann::json::number_unsigned_t;
 
     QList<SavedLayout> layouts;
+    /// Why the text is refused.
+    QString reason;
 
     /// Counts as no value; for a required field that is a fault, found at the end of its object.
-    bool null() { return m_field != Field::none; }
-    bool boolean(bool) { return m_field == Field::ignored; }
+    bool null() { return m_field != Field::none || refuseType(); }
+    bool boolean(bool) { return m_field == Field::ignored || refuseType(); }
     // The parser reports minus zero as the signed integer 0, and no other number that way.
     bool number_integer(Number value) { return number(value == 0 ? -0.0 : static_cast<double>(value)); }
     bool number_unsigned(Unsigned value) { return number(static_cast<double>(value)); }
@@ -114,9 +147,14 @@ public:
     bool start_array(std::size_t);
     bool end_array();
 
-    bool parse_error(std::size_t, const std::string &, const std::exception &) { return false; }
+    bool parse_error(std::size_t, const std::string &, const std::exception &error)
+    {
+        return refuse(syntaxFault(error));
+    }
 
 private:
+    bool refuse(const QString &why);
+    bool refuseType();
     bool number(double value);
     template <typename Value> bool take(Value &field, const Value &value);
     bool enter(Place place);
@@ -137,6 +175,22 @@ private:
     SavedLayout::Window m_window;
 };
 
+bool LayoutReader::refuse(const QString &why)
+{
+    reason = why;
+    return false;
+}
+
+/// What stands here has another type than belongs here.
+bool LayoutReader::refuseType()
+{
+    const auto keys = keysOf(m_place);
+    const auto key = std::ranges::find(keys, m_field, &Key::field);
+    return refuse(key == keys.end() ? QString::fromUtf8(expectedIn(m_place))
+                                    : QStringLiteral("\"%1\" must be %2")
+                                          .arg(QString::fromUtf8(QByteArrayView(key->text)), typeOf(key->field)));
+}
+
 template <typename Value> bool LayoutReader::take(Value &field, const Value &value)
 {
     m_given |= only(m_field);
@@ -148,7 +202,7 @@ bool LayoutReader::string(const std::string &value)
 {
     if (m_field == Field::id) {
         const auto id = idFrom(value);
-        return id && take(m_layout.id, *id);
+        return id ? take(m_layout.id, *id) : refuseType();
     }
     switch (m_field) {
     case Field::ignored:
@@ -164,7 +218,7 @@ bool LayoutReader::string(const std::string &value)
     case Field::display:
         return take(m_window.display.emplace(), fromUtf8(value));
     default:
-        return false;
+        return refuseType();
     }
 }
 
@@ -184,7 +238,7 @@ bool LayoutReader::number(double value)
     case Field::h:
         return take(m_window.rect.h, value);
     default:
-        return false;
+        return refuseType();
     }
 }
 
@@ -226,7 +280,7 @@ bool LayoutReader::leave()
 bool LayoutReader::start_object(std::size_t)
 {
     if (++m_depth > maximumDepth)
-        return false;
+        return refuse(QStringLiteral("nested deeper than %1").arg(maximumDepth));
     if (m_field == Field::ignored) {
         ++m_ignoredDepth;
         return true;
@@ -235,20 +289,20 @@ bool LayoutReader::start_object(std::size_t)
         return enter(Place::layout);
     if (m_place == Place::windows)
         return enter(Place::window);
-    return m_field == Field::rect && enter(Place::rect);
+    return m_field == Field::rect ? enter(Place::rect) : refuseType();
 }
 
 bool LayoutReader::start_array(std::size_t)
 {
     if (++m_depth > maximumDepth)
-        return false;
+        return refuse(QStringLiteral("nested deeper than %1").arg(maximumDepth));
     if (m_field == Field::ignored) {
         ++m_ignoredDepth;
         return true;
     }
     if (m_place == Place::text)
         return enter(Place::list);
-    return m_field == Field::windows && enter(Place::windows);
+    return m_field == Field::windows ? enter(Place::windows) : refuseType();
 }
 
 bool LayoutReader::end_object()
@@ -260,7 +314,7 @@ bool LayoutReader::end_object()
     }
     for (const Key &key : keysOf(m_place)) {
         if (key.isRequired && (m_given & only(key.field)) == 0)
-            return false;
+            return refuse(QStringLiteral("\"%1\" is missing").arg(QString::fromUtf8(QByteArrayView(key.text))));
     }
     if (m_place == Place::window)
         m_layout.windows.append(std::exchange(m_window, {}));
@@ -294,14 +348,20 @@ void LayoutReader::fillIn()
 
 }
 
-std::optional<QList<SavedLayout>> LayoutCoder::decode(const QString &text)
+std::optional<QList<SavedLayout>> LayoutCoder::decode(const QString &text, Fault *fault)
 {
+    const auto refuse = [fault](int line, const QString &reason) {
+        if (fault)
+            *fault = {line, reason};
+        return std::nullopt;
+    };
     // The parser takes U+0000 for the end, and a half of a surrogate pair has no UTF-8 form.
     if (text.contains(QChar::Null) || !text.isValidUtf16())
-        return std::nullopt;
+        return refuse(1, QStringLiteral("no text"));
     const QByteArray bytes = text.toUtf8();
+    const char *last = bytes.cbegin();
     LayoutReader reader;
-    if (!nlohmann::json::sax_parse(bytes.cbegin(), bytes.cend(), &reader))
-        return std::nullopt;
+    if (!nlohmann::json::sax_parse(TrackedByte(bytes.cbegin(), &last), TrackedByte(bytes.cend(), &last), &reader))
+        return refuse(lineOf(bytes.cbegin(), last), reader.reason);
     return std::move(reader.layouts);
 }
