@@ -1,0 +1,68 @@
+#include "SettingsTransfer.h"
+
+#include "LayoutStore.h"
+#include "SettingValue.h"
+#include "Shared.h"
+#include "UserDefaults.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isSame(const QVariant &one, const QVariant &other)
+{
+    return one.metaType() == other.metaType() && one == other;
+}
+
+}
+
+SettingsTransfer::Export SettingsTransfer::exportFrom(UserDefaults &store)
+{
+    LayoutStore::load(store);
+    Export taken;
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        if (Contract::isAgentState(key.name))
+            continue;
+        const QVariant value = store.value(key.name);
+        const auto fault = value.isValid() ? SettingValue::fault(key, value) : std::nullopt;
+        if (fault)
+            taken.omitted.append({key.name, *fault});
+        else
+            taken.settings.insert(key.name, value);
+    }
+    return taken;
+}
+
+QList<SettingsTransfer::Change> SettingsTransfer::changes(const ExportFile::Settings &settings,
+                                                          const UserDefaults &store)
+{
+    QList<Change> changes;
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        const auto setting = settings.constFind(key.name);
+        if (setting == settings.cend() || Contract::isAgentState(key.name))
+            continue;
+        const QVariant before = store.value(key.name);
+        if (!isSame(before, *setting))
+            changes.append({key.name, before, *setting});
+    }
+    return changes;
+}
+
+bool SettingsTransfer::apply(const QList<Change> &changes, UserDefaults &store, std::chrono::milliseconds limit)
+{
+    if (changes.isEmpty())
+        return true;
+    const auto isLocked = [&](const Change &change) { return !store.isWritable(change.key); };
+    if (std::ranges::any_of(changes, isLocked))
+        return false;
+    for (const Change &change : changes)
+        store.setValue(change.key, change.after);
+    if (store.finishWrites(limit)) {
+        Shared::send(Shared::Command::applySettings);
+        return true;
+    }
+    for (const Change &change : changes)
+        store.setValue(change.key, change.before);
+    store.finishWrites(limit);
+    return false;
+}
