@@ -23,3 +23,11 @@ function(corvane_bundle target folder plist)
         install(FILES ${ARG_RESOURCES} DESTINATION "${place}/Contents/Resources")
     endif()
 endfunction()
+
+# corvane_bundle_program(target other): the program lies beside that of an INSTALLED bundle, and is installed with it.
+function(corvane_bundle_program target other)
+    get_target_property(folder ${other} RUNTIME_OUTPUT_DIRECTORY)
+    get_target_property(place ${other} CORVANE_INSTALL_FOLDER)
+    set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${folder}" CORVANE_INSTALL_FOLDER "${place}")
+    install(TARGETS ${target} RUNTIME DESTINATION "${place}/Contents/MacOS")
+endfunction()

@@ -21,6 +21,7 @@ function(corvane_install_command target)
 endfunction()
 corvane_install_command(corvane-settings)
 corvane_install_command(corvane-agent)
+corvane_install_command(corvane-ctl)
 
 # The entries of desktop and session bus name the commands by their full paths, which are only known when the prefix is.
 set(bindir "${CMAKE_INSTALL_BINDIR}")

@@ -49,6 +49,19 @@ bool tellBus(const QString &method, const QVariantList &arguments = {})
     return QDBusConnection::sessionBus().call(call).type() == QDBusMessage::ReplyMessage;
 }
 
+/// The long options that a program's help names.
+QStringList optionsOf(const QString &program, const QStringList &arguments)
+{
+    QProcess help;
+    help.start(program, arguments);
+    help.waitForFinished();
+    QStringList options;
+    static const QRegularExpression option(u"--([a-z-]+)"_s);
+    for (auto hit = option.globalMatch(QString::fromUtf8(help.readAllStandardOutput())); hit.hasNext();)
+        options.append(hit.next().captured(1));
+    return options;
+}
+
 /// How far apart two pictures are, as a mean over all channels of all pixels, from 0 to 255.
 double distance(const QImage &one, const QImage &other)
 {
@@ -99,6 +112,8 @@ private slots:
     void desktopsAcceptTheEntries();
     void manualsAndCompletionsNameEveryOption_data();
     void manualsAndCompletionsNameEveryOption();
+    void theShellsCompleteCommandsKeysAndValues_data();
+    void theShellsCompleteCommandsKeysAndValues();
     void theIconsShowTheDrawing();
 };
 
@@ -304,7 +319,7 @@ void TestInstall::desktopsAcceptTheEntries()
     const QString metainfo = tree.path(u"share/metainfo/com.vexmoor.corvane.settings.metainfo.xml"_s);
     QCOMPARE(faults(u"desktop-file-validate"_s, {tree.path(settingsEntry), tree.path(agentEntry)}), QString());
     QCOMPARE(faults(u"appstreamcli"_s, {u"validate"_s, u"--no-net"_s, u"--strict"_s, metainfo}), QString());
-    for (const char *command : {"corvane-settings", "corvane-agent"}) {
+    for (const char *command : {"corvane-settings", "corvane-agent", "corvane-ctl"}) {
         const QString page = tree.path(u"share/man/man1/%1.1"_s.arg(QLatin1String(command)));
         QCOMPARE(faults(u"man"_s, {u"--warnings"_s, u"-Tutf8"_s, u"-l"_s, page}), QString());
     }
@@ -316,14 +331,9 @@ void TestInstall::manualsAndCompletionsNameEveryOption_data()
     QTest::addColumn<QStringList>("options");
     QTest::newRow("settings") << u"corvane-settings"_s << QStringList{u"about"_s, u"onboarding"_s, u"replay"_s};
 
-    QProcess help;
-    help.start(QStringLiteral(PROGRAM_CORVANE_AGENT), {u"--headless"_s, u"--help"_s});
-    help.waitForFinished();
-    QStringList options;
-    static const QRegularExpression option(u"--([a-z-]+)"_s);
-    for (auto hit = option.globalMatch(QString::fromUtf8(help.readAllStandardOutput())); hit.hasNext();)
-        options.append(hit.next().captured(1));
-    QTest::newRow("agent") << u"corvane-agent"_s << options;
+    QTest::newRow("agent") << u"corvane-agent"_s
+                           << optionsOf(QStringLiteral(PROGRAM_CORVANE_AGENT), {u"--headless"_s, u"--help"_s});
+    QTest::newRow("ctl") << u"corvane-ctl"_s << optionsOf(QStringLiteral(PROGRAM_CORVANE_CTL), {u"--help"_s});
 }
 
 void TestInstall::manualsAndCompletionsNameEveryOption()
@@ -342,6 +352,46 @@ void TestInstall::manualsAndCompletionsNameEveryOption()
         QVERIFY2(bash.contains(u"--"_s + option), qPrintable(option));
         QVERIFY2(zsh.contains(u"--"_s + option), qPrintable(option));
         QVERIFY2(fish.contains(u"-l "_s + option), qPrintable(option));
+    }
+}
+
+void TestInstall::theShellsCompleteCommandsKeysAndValues_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QStringList>("offered");
+    QTest::newRow("commands") << u"re"_s << QStringList{u"reset"_s};
+    QTest::newRow("keys") << u"get button"_s << QStringList{u"buttonSizeOption"_s, u"buttonTheme"_s};
+    QTest::newRow("choices") << u"set buttonTheme m"_s << QStringList{u"mono"_s};
+    QTest::newRow("Booleans") << u"--json set layouts.shelf "_s << QStringList{u"false"_s, u"true"_s};
+    QTest::newRow("the agent's commands") << u"send set"_s << QStringList{u"setLaunchAtLogin"_s};
+    QTest::newRow("actions") << u"layouts re"_s << QStringList{u"rename"_s};
+    QTest::newRow("layouts") << u"layouts show 3F"_s << QStringList{u"3F2504E0-4F89-41D3-9A0C-0305E82C3301"_s};
+}
+
+void TestInstall::theShellsCompleteCommandsKeysAndValues()
+{
+    QFETCH(QString, typed);
+    const InstalledTree tree;
+    QVERIFY(tree.isValid());
+    store().write(u"layouts.saved"_s,
+                  uR"([{"created":1,"id":"3F2504E0-4F89-41D3-9A0C-0305E82C3301","name":"","windows":[]}])"_s);
+    const QString bash =
+        u"source '%1'; read -ra COMP_WORDS <<<'corvane-ctl %2'; [[ '%2' == *' ' ]] && COMP_WORDS+=(''); "
+        "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _corvane_ctl; printf '%s\\n' \"${COMPREPLY[@]}\""_s.arg(
+            tree.path(u"share/bash-completion/completions/corvane-ctl"_s), typed);
+    const QString fish = u"source '%1'; complete -C 'corvane-ctl %2' | string split -f1 \\t"_s.arg(
+        tree.path(u"share/fish/vendor_completions.d/corvane-ctl.fish"_s), typed);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"PATH"_s, tree.path(u"bin:"_s) + environment.value(u"PATH"_s));
+    for (const QStringList &shell :
+         {QStringList{u"bash"_s, u"-c"_s, bash}, QStringList{u"fish"_s, u"-N"_s, u"-c"_s, fish}}) {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(shell.first(), shell.mid(1));
+        QVERIFY2(process.waitForFinished(), qPrintable(shell.first()));
+        QStringList offered = QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        offered.sort();
+        QTEST(offered, "offered");
     }
 }
 

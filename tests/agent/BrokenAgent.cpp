@@ -1,0 +1,74 @@
+#include "DconfUserDefaults.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+
+/// An agent that keeps to the contract but for the one rule that its argument names.
+class BrokenAgent : public QObject {
+    Q_OBJECT
+public:
+    explicit BrokenAgent(const QString &rule) : m_rule(rule)
+    {
+        auto bus = QDBusConnection::sessionBus();
+        if (!breaks("name") && !bus.interface()->registerService("com.vexmoor.corvane").value()) {
+            m_isSecond = true;
+            return;
+        }
+        bus.connect(QString(), "/com/vexmoor/corvane", "com.vexmoor.corvane", "command", this,
+                    SLOT(hear(QDBusMessage)));
+        report("agent.launchAtLogin", false);
+    }
+
+    /// Whether it has nothing to do, as another one runs.
+    bool ends() const { return m_isSecond && !breaks("one"); }
+
+private slots:
+    void hear(const QDBusMessage &message)
+    {
+        const QVariantList arguments = message.arguments();
+        const bool isCommand = arguments.size() == 1 && message.signature() == "a{sv}";
+        if (!isCommand) {
+            if (breaks("strangers"))
+                QCoreApplication::exit(1);
+            return;
+        }
+        perform(qdbus_cast<QVariantMap>(arguments.constFirst()));
+    }
+
+private:
+    bool breaks(const char *rule) const { return m_rule == QLatin1String(rule); }
+    void report(const QString &key, const QVariant &value) { m_store.setValue(key, value); }
+
+    void perform(const QVariantMap &userInfo)
+    {
+        const QVariant command = userInfo.value("command");
+        const QVariant value = userInfo.value("value");
+        if (command == QVariant("setLaunchAtLogin")) {
+            if (value.typeId() == QMetaType::Bool || breaks("value"))
+                report("agent.launchAtLogin", value.toBool() && !breaks("login"));
+        } else if (command == QVariant("requestAccessibility")) {
+            report("agent.accessibilityTrusted", breaks("types") ? QVariant("yes") : QVariant(true));
+        } else if (command == QVariant("applySettings")) {
+            if (breaks("settings") && m_store.value("buttonTheme") != QVariant("classic"))
+                m_store.setValue("buttonTheme", "classic");
+            const QString layouts = m_store.value("layouts.saved").toString();
+            if (breaks("layouts") && !layouts.isEmpty())
+                m_store.setValue("layouts.saved", QString(layouts).remove("\"colour\":\"blue\","));
+        }
+    }
+
+    const QString m_rule;
+    bool m_isSecond = false;
+    DconfUserDefaults m_store{"com.vexmoor.corvane"};
+};
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const BrokenAgent agent(QCoreApplication::arguments().value(1));
+    return agent.ends() ? 0 : QCoreApplication::exec();
+}
+
+#include "BrokenAgent.moc"

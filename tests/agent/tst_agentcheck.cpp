@@ -1,0 +1,92 @@
+#include "AgentCheck.h"
+
+#include "NativePlatform.h"
+#include "Platform.h"
+#include "PrivateSession.h"
+#include "Shared.h"
+#include "TestProgram.h"
+#include "UserDefaults.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The rules that the agent falls short of.
+QStringList broken(const QList<AgentCheck::Rule> &rules)
+{
+    QStringList names;
+    for (const AgentCheck::Rule &rule : rules) {
+        if (!rule.faults.isEmpty())
+            names.append(rule.name);
+    }
+    return names;
+}
+
+QString faults(const QList<AgentCheck::Rule> &rules)
+{
+    QStringList all;
+    for (const AgentCheck::Rule &rule : rules)
+        all += rule.faults;
+    return all.join(u'\n');
+}
+
+}
+
+/// What the trial says of agents: of the reference, and of one that is broken on purpose, one rule at a time.
+class AgentCheckTest : public QObject {
+    Q_OBJECT
+public:
+    explicit AgentCheckTest(PrivateSession &) { }
+
+private slots:
+    void initTestCase() { Platform::install(NativePlatform::make()); }
+    void cleanup();
+
+    void anAgentThatBreaksNoRulePasses();
+    void anAgentThatBreaksARuleFailsOnThatOne_data();
+    void anAgentThatBreaksARuleFailsOnThatOne();
+    void aProgramThatEndsIsNoAgent();
+};
+
+void AgentCheckTest::cleanup()
+{
+    for (const Contract::StoreKey &key : Contract::storeKeys())
+        Shared::store().setValue(key.name, QVariant());
+    QVERIFY(Shared::store().finishWrites(5s));
+}
+
+void AgentCheckTest::anAgentThatBreaksNoRulePasses()
+{
+    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {}, 20s).run();
+    QCOMPARE(rules.size(), 8);
+    QCOMPARE(faults(rules), QString());
+}
+
+void AgentCheckTest::anAgentThatBreaksARuleFailsOnThatOne_data()
+{
+    QTest::addColumn<QString>("rule");
+    // Whether the agent breaks it by what it does not do.
+    QTest::addColumn<bool>("isWaitedFor");
+    for (const char *rule : {"name", "one", "login"})
+        QTest::newRow(rule) << QString(rule) << true;
+    for (const char *rule : {"value", "strangers", "settings", "layouts", "types"})
+        QTest::newRow(rule) << QString(rule) << false;
+}
+
+void AgentCheckTest::anAgentThatBreaksARuleFailsOnThatOne()
+{
+    QFETCH(QString, rule);
+    QFETCH(bool, isWaitedFor);
+    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {rule}, isWaitedFor ? 2s : 20s).run({rule});
+    QCOMPARE(broken(rules), QStringList{rule});
+}
+
+void AgentCheckTest::aProgramThatEndsIsNoAgent()
+{
+    const auto rules = AgentCheck("/bin/true", {}, 20s).run();
+    QCOMPARE(rules.size(), 1);
+    QCOMPARE(faults(rules), "it ended before it held the name");
+}
+
+CORVANE_TEST(AgentCheckTest, runInPrivateSession)
+#include "tst_agentcheck.moc"

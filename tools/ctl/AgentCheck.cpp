@@ -1,0 +1,323 @@
+#include "AgentCheck.h"
+
+#include "Shared.h"
+#include "UserDefaults.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString commandEntry = QStringLiteral("command");
+const QString valueEntry = QStringLiteral("value");
+
+void store(const QString &key, const QVariant &value)
+{
+    Shared::store().setValue(key, value);
+}
+
+/// Takes what has come over the bus, and waits a moment for more.
+void lookAround()
+{
+    QEventLoop loop;
+    QTimer::singleShot(10ms, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QVariantMap command(const QString &name)
+{
+    return {{commandEntry, name}};
+}
+
+}
+
+AgentCheck::AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience)
+    : m_program(std::move(program)),
+      m_arguments(std::move(arguments)),
+      m_patience(patience),
+      m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("corvane-check")))
+{
+}
+
+AgentCheck::~AgentCheck()
+{
+    QDBusConnection::disconnectFromBus(QStringLiteral("corvane-check"));
+}
+
+QList<AgentCheck::Rule> AgentCheck::run(const QStringList &only)
+{
+    m_rules.clear();
+    checkName();
+    const QList<std::pair<const char *, void (AgentCheck::*)()>> checks = {
+        {"one", &AgentCheck::checkOne},           {"login", &AgentCheck::checkLogin},
+        {"value", &AgentCheck::checkValue},       {"strangers", &AgentCheck::checkStrangers},
+        {"settings", &AgentCheck::checkSettings}, {"layouts", &AgentCheck::checkLayouts},
+        {"types", &AgentCheck::checkTypes}};
+    for (const auto &[name, check] : checks) {
+        if (!m_rules.constFirst().faults.isEmpty())
+            break;
+        if (!only.isEmpty() && !only.contains(QLatin1String(name)))
+            continue;
+        revive();
+        (this->*check)();
+    }
+    m_agent.reset();
+    return m_rules;
+}
+
+void AgentCheck::End::operator()(QProcess *process) const
+{
+    constexpr int patience = 2000; // milliseconds
+    process->terminate();
+    if (!process->waitForFinished(patience))
+        process->kill();
+    process->waitForFinished(patience);
+    delete process;
+}
+
+AgentCheck::Process AgentCheck::start() const
+{
+    Process process(new QProcess);
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->start(m_program, m_arguments);
+    return process;
+}
+
+void AgentCheck::revive()
+{
+    if (m_agent && m_agent->state() != QProcess::NotRunning && owner() == m_owner)
+        return;
+    m_agent = start();
+    waitFor([this] { return !owner().isEmpty() || m_agent->state() == QProcess::NotRunning; });
+    m_owner = owner();
+}
+
+void AgentCheck::begin(const char *name, const char *demand)
+{
+    m_rules.append({QString::fromLatin1(name), QString::fromLatin1(demand), {}});
+}
+
+void AgentCheck::expect(bool isTrue, const QString &fault)
+{
+    if (!isTrue)
+        m_rules.last().faults.append(fault);
+}
+
+void AgentCheck::expectAlive(const QString &after)
+{
+    expect(m_agent->state() != QProcess::NotRunning && owner() == m_owner,
+           QStringLiteral("it has ended, or lost its name, after %1").arg(after));
+}
+
+void AgentCheck::checkName()
+{
+    begin("name", "holds the name com.vexmoor.corvane while it runs");
+    revive();
+    expect(!m_owner.isEmpty(),
+           m_agent->state() == QProcess::NotRunning ? QStringLiteral("it ended before it held the name")
+                                                    : QStringLiteral("nobody holds the name"));
+}
+
+void AgentCheck::checkOne()
+{
+    begin("one", "a second one ends, and the first keeps the name");
+    const Process second = start();
+    expect(waitFor([&] { return second->state() == QProcess::NotRunning; }), QStringLiteral("the second one runs on"));
+    settle();
+    expectAlive(QStringLiteral("a second one was started"));
+}
+
+void AgentCheck::checkLogin()
+{
+    begin("login", "does what setLaunchAtLogin asks for, and reports it");
+    const QVariantMap extra = {{QStringLiteral("note"), QStringLiteral("from a newer application")}};
+    if (!setLogin(true))
+        expect(false, QStringLiteral("asked for, no login item is reported, nor one that waits for approval"));
+    else if (!setLogin(false))
+        expect(false, QStringLiteral("asked to take it away, a login item is still reported"));
+    else
+        expect(setLogin(true, extra), QStringLiteral("an extra entry keeps it from doing what is asked for"));
+    expectAlive(QStringLiteral("setLaunchAtLogin"));
+}
+
+void AgentCheck::checkValue()
+{
+    begin("value", "takes no value for none: only a Boolean registers or unregisters it");
+    setLogin(true);
+    const bool before = isRegistered();
+    const QString name = Shared::Command::setLaunchAtLogin;
+    post(command(name));
+    for (const QVariant &value : {QVariant(QStringLiteral("false")), QVariant(0), QVariant(0.0)})
+        post({{commandEntry, name}, {valueEntry, value}});
+    settle();
+    expect(isRegistered() == before,
+           QStringLiteral("without a value, or with a text or a number for one, it unregisters itself"));
+    expectAlive(QStringLiteral("a value that is no Boolean"));
+}
+
+void AgentCheck::checkStrangers()
+{
+    begin("strangers", "passes over what it does not know");
+    const bool before = setLogin(true) && isRegistered();
+    const QList<QVariantMap> strangers = {
+        {},
+        command(QStringLiteral("fly")),
+        command(QString()),
+        command(QStringLiteral("SETLAUNCHATLOGIN")),
+        {{commandEntry, 7}},
+        {{valueEntry, false}},
+        {{commandEntry, QStringLiteral("fly")}, {valueEntry, false}},
+    };
+    for (const QVariantMap &stranger : strangers)
+        post(stranger);
+    postBroken({});
+    postBroken({QStringLiteral("applySettings")});
+    postBroken({7, false});
+    settle();
+    expectAlive(QStringLiteral("commands that nobody knows"));
+    expect(isRegistered() == before, QStringLiteral("a command that nobody knows changes its login item"));
+}
+
+void AgentCheck::checkSettings()
+{
+    begin("settings", "leaves a person's settings as they are, those that it does not understand too");
+    QVariantMap chosen;
+    QVariantMap strange;
+    QVariantMap none;
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        if (key.writer != u"application")
+            continue;
+        none.insert(key.name, QVariant());
+        if (key.defaultValue.typeId() == QMetaType::Bool) {
+            chosen.insert(key.name, !key.defaultValue.toBool());
+            strange.insert(key.name, QStringLiteral("neither"));
+        } else if (key.defaultValue.typeId() == QMetaType::Double) {
+            chosen.insert(key.name, 12.0);
+            strange.insert(key.name, QStringLiteral("wide"));
+        } else {
+            chosen.insert(key.name, key.choices.constLast());
+            strange.insert(key.name, QStringLiteral("one of a newer version"));
+        }
+    }
+    for (const auto &[values, what] : {std::pair(chosen, "a choice"), std::pair(strange, "a value that nobody knows"),
+                                       std::pair(none, "a key that is not set")}) {
+        const QStringList changed = changedAfter(values);
+        expect(changed.isEmpty(),
+               QStringLiteral("%1 is changed: %2").arg(QLatin1String(what), changed.join(QStringLiteral(", "))));
+        expectAlive(QLatin1String(what));
+    }
+}
+
+void AgentCheck::checkLayouts()
+{
+    begin("layouts", "leaves saved layouts as they are, with fields that it does not know");
+    const QString text = QStringLiteral(
+        R"([{"colour":"blue","created":816923962.5,"id":"A79EFA8C-62E2-4EF0-BEDE-D88F6F452152","name":"Work\/Home",)"
+        R"("windows":[{"app":"Browser","bundleID":"org.example.Browser","rect":{"h":1,"w":0.5,"x":0,"y":0},)"
+        R"("title":"Start page"}]}])");
+    expect(changedAfter({{Shared::Key::layoutsSaved, text}}).isEmpty(), QStringLiteral("the text is written anew"));
+    expectAlive(QStringLiteral("a layout with a field that nobody knows"));
+    // Such a text the agent may mend.
+    changedAfter({{Shared::Key::layoutsSaved, QStringLiteral("[{\"windows\":")}});
+    expectAlive(QStringLiteral("a text that holds no layouts"));
+}
+
+void AgentCheck::checkTypes()
+{
+    begin("types", "reports Booleans and nothing else in its keys");
+    post(command(Shared::Command::requestAccessibility));
+    post(command(Shared::Command::checkForUpdates));
+    settle();
+    expectAlive(QStringLiteral("requestAccessibility and checkForUpdates"));
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        const QVariant value = Shared::store().value(key.name);
+        expect(!Contract::isAgentState(key.name) || !value.isValid() || value.typeId() == QMetaType::Bool,
+               QStringLiteral("%1 is no Boolean").arg(key.name));
+    }
+}
+
+void AgentCheck::post(const QVariantMap &userInfo) const
+{
+    postBroken({userInfo});
+}
+
+void AgentCheck::postBroken(const QVariantList &arguments) const
+{
+    const QString interface = Shared::Command::name.section(u'.', 0, -2);
+    QDBusMessage signal = QDBusMessage::createSignal(u'/' + QString(interface).replace(u'.', u'/'), interface,
+                                                     Shared::Command::name.section(u'.', -1));
+    signal.setArguments(arguments);
+    m_bus.send(signal);
+}
+
+bool AgentCheck::setLogin(bool on, const QVariantMap &extras) const
+{
+    // What is reported already would say nothing: so the agent is asked for the opposite of what is stored.
+    store(Shared::Key::agentLaunchAtLogin, !on);
+    store(Shared::Key::agentLaunchAtLoginNeedsApproval, false);
+    Shared::store().finishWrites(m_patience);
+    QVariantMap userInfo = {{commandEntry, Shared::Command::setLaunchAtLogin}, {valueEntry, on}};
+    userInfo.insert(extras);
+    post(userInfo);
+    return waitFor([&] { return isRegistered() == on; });
+}
+
+bool AgentCheck::isRegistered() const
+{
+    return Shared::value(Shared::Key::agentLaunchAtLogin).toBool()
+        || Shared::value(Shared::Key::agentLaunchAtLoginNeedsApproval).toBool();
+}
+
+QStringList AgentCheck::changedAfter(const QVariantMap &values) const
+{
+    UserDefaults &settings = Shared::store();
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        settings.setValue(value.key(), value.value());
+    settings.finishWrites(m_patience);
+    post(command(Shared::Command::applySettings));
+    settle();
+    QStringList changed;
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        if (settings.value(value.key()) != value.value())
+            changed.append(value.key());
+    }
+    return changed;
+}
+
+QString AgentCheck::owner() const
+{
+    return m_bus.interface()->serviceOwner(Contract::agentName).value();
+}
+
+bool AgentCheck::waitFor(const std::function<bool()> &condition) const
+{
+    const QDeadlineTimer deadline(m_patience);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        lookAround();
+    }
+    return true;
+}
+
+void AgentCheck::settle() const
+{
+    constexpr int slowest = 500; // milliseconds
+    // Whoever answers has most likely done what was sent before.
+    m_bus.call(QDBusMessage::createMethodCall(m_owner, QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer"),
+                                              QStringLiteral("Ping")),
+               QDBus::Block, slowest);
+    const QDeadlineTimer deadline(150ms);
+    while (!deadline.hasExpired()) {
+        lookAround();
+    }
+}

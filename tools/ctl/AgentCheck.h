@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QProcess>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+/// Runs an agent in the session of this process and holds it against the contract (docs/contract.md), from outside
+/// only: by its name on the bus, its "agent." keys, and what it leaves alone. The session's store is used up by that.
+class AgentCheck {
+public:
+    struct Rule {
+        QString name;
+        /// What the contract asks for.
+        QString demand;
+        /// What falls short; empty when nothing does.
+        QStringList faults;
+    };
+
+    /// `patience` is how long the agent may take for a thing that it has to do.
+    AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience);
+    ~AgentCheck();
+
+    /// Starts the agent, tries every rule, or only those of these names, and ends the agent. The rule "name" comes
+    /// first, and without it there is no other.
+    QList<Rule> run(const QStringList &only = {});
+
+private:
+    /// Asks the agent to end, and ends it when it does not.
+    struct End {
+        void operator()(QProcess *process) const;
+    };
+    using Process = std::unique_ptr<QProcess, End>;
+
+    Process start() const;
+    /// Starts it once more where a rule before has ended it.
+    void revive();
+    void begin(const char *name, const char *demand);
+    /// Notes a fault of the rule that is being tried.
+    void expect(bool isTrue, const QString &fault);
+    /// Whether the agent still runs under its name; otherwise a fault of what was done to it.
+    void expectAlive(const QString &after);
+
+    void checkName();
+    void checkOne();
+    void checkLogin();
+    void checkValue();
+    void checkStrangers();
+    void checkSettings();
+    void checkLayouts();
+    void checkTypes();
+
+    void post(const QVariantMap &userInfo) const;
+    /// Posts the signal with other arguments than a command has.
+    void postBroken(const QVariantList &arguments) const;
+    /// Has the login item registered or not, and waits until the agent says so.
+    bool setLogin(bool on, const QVariantMap &extras = {}) const;
+    bool isRegistered() const;
+    /// Stores the values, an invalid one removes its key, posts "applySettings", and says which are not as they were
+    /// left.
+    QStringList changedAfter(const QVariantMap &values) const;
+    QString owner() const;
+    bool waitFor(const std::function<bool()> &condition) const;
+    /// Gives the agent time to do what it should not.
+    void settle() const;
+
+    const QString m_program;
+    const QStringList m_arguments;
+    const std::chrono::milliseconds m_patience;
+    QDBusConnection m_bus;
+    Process m_agent;
+    QString m_owner;
+    QList<Rule> m_rules;
+};

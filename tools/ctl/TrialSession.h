@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+/// A login session with folders and a message bus of its own, that is there as long as this object. The environment of
+/// this process is changed to it, so it is made before anything asks for the bus or a folder.
+class TrialSession {
+public:
+    TrialSession();
+    ~TrialSession();
+    TrialSession(const TrialSession &) = delete;
+    TrialSession &operator=(const TrialSession &) = delete;
+
+    /// False when there is no bus.
+    bool isValid() const { return m_isValid; }
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_bus;
+    bool m_isValid = false;
+};
