@@ -1,5 +1,6 @@
 #include "ButtonChoices.h"
 #include "ButtonSize.h"
+#include "Contract.h"
 #include "TestProgram.h"
 #include "Theme.h"
 
@@ -15,6 +16,7 @@ private slots:
     void aButtonOrThemeThatDoesNotExistIsAProgrammingError();
     void aTextThatIsNoColorIsPlainGrey();
     void viewsAreOfferedTheSameChoices();
+    void theContractHasTheSameChoices();
     void viewsReadUnknownTextsAsTheDefault();
 };
 
@@ -113,6 +115,18 @@ void ThemeTest::viewsAreOfferedTheSameChoices()
     QCOMPARE(ButtonChoices::diameter("large"), 32.0);
     QCOMPARE(ButtonChoices::theme("outline"), "outline");
     QCOMPARE(ButtonChoices::size("small"), "small");
+}
+
+void ThemeTest::theContractHasTheSameChoices()
+{
+    QStringList themes;
+    for (const Theme theme : Themes::allCases)
+        themes.append(Themes::rawValue(theme));
+    QCOMPARE(Contract::storeKey("buttonTheme")->choices, themes);
+    QStringList sizes;
+    for (const ButtonSize size : ButtonSizes::allCases)
+        sizes.append(ButtonSizes::rawValue(size));
+    QCOMPARE(Contract::storeKey("buttonSizeOption")->choices, sizes);
 }
 
 void ThemeTest::viewsReadUnknownTextsAsTheDefault()

@@ -83,6 +83,8 @@ class TestContract : public QObject {
 private slots:
     void thePageListsTheKeysOfTheCodeAndNoOthers();
     void thePageListsTheCommandsOfTheCodeAndNoOthers();
+    void thePageListsTheKeysThatACommandFollows();
+    void theMeaningOfAKeyNamesItsChoices();
     void thePageListsTheShortcutsOfTheCodeAndNoOthers();
     void thePageNamesTheSuiteTheAgentAndTheSignal();
 
@@ -110,6 +112,33 @@ void TestContract::thePageListsTheCommandsOfTheCodeAndNoOthers()
         expected.append({code(command.name), value, QStringLiteral("none"), posted, command.meaning});
     }
     QCOMPARE(table({"Command", "\"value\"", "Extra entries", "Posted", "Asks the agent to"}), expected);
+}
+
+void TestContract::thePageListsTheKeysThatACommandFollows()
+{
+    QList<Row> expected;
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        if (!key.announcement.isEmpty())
+            expected.append({code(key.name), code(key.announcement)});
+    }
+    QCOMPARE(expected.size(), 7);
+    // In the order of the table of keys.
+    QCOMPARE(table({"Key", "Followed by"}), expected);
+}
+
+void TestContract::theMeaningOfAKeyNamesItsChoices()
+{
+    int keys = 0;
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        if (key.choices.isEmpty())
+            continue;
+        ++keys;
+        const QString named = key.choices.first(key.choices.size() - 1).join(QStringLiteral(", "))
+            + QStringLiteral(" or ") + key.choices.constLast() + u'.';
+        QVERIFY2(key.meaning.endsWith(named), qPrintable(named));
+        QVERIFY(key.choices.contains(key.defaultValue.toString()));
+    }
+    QCOMPARE(keys, 3);
 }
 
 void TestContract::thePageListsTheShortcutsOfTheCodeAndNoOthers()
