@@ -8,6 +8,7 @@
 #include "EBType.h"
 #include "GeneralActions.h"
 #include "GuideWindowController.h"
+#include "ImportDrop.h"
 #include "LaunchFlags.h"
 #include "Platform.h"
 #include "SettingsModel.h"
@@ -194,6 +195,8 @@ void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
     platform.appearance();
     const QString version = platform.mainBundle().string(QStringLiteral("CFBundleShortVersionString"));
     m_settings = std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, pages, initial);
+    // The window owns it.
+    new ImportDrop(m_engine, *m_settings->window());
     connect(&Shared::store(), &UserDefaults::troubleChanged, m_settings->model(),
             [model = m_settings->model()] { model->setNotice(StoreTrouble::text()); });
     platform.appearance().settle();
