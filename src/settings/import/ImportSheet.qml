@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Embera.Tokens
 import Embera.Controls
 import Embera.Rows
@@ -134,6 +135,16 @@ FocusScope {
                 interactive: clip
                 boundsBehavior: Flickable.StopAtBounds
 
+                T.ScrollBar.vertical: T.ScrollBar {
+                    width: 10
+                    padding: 2
+                    visible: list.clip
+                    interactive: true
+                    contentItem: Rectangle {
+                        radius: width / 2
+                        color: EB.lineStrong
+                    }
+                }
                 EBGroup {
                     id: group
 
