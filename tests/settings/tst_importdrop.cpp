@@ -1,5 +1,6 @@
 #include "ExportFile.h"
 #include "ImportDrop.h"
+#include "SettingWords.h"
 #include "SettingsWindow.h"
 #include "TestProgram.h"
 
@@ -58,6 +59,7 @@ private slots:
     void aFileThatMayOnlyBeMovedIsRefused();
     void aFileThatLeavesAgainLeavesNothingBehind();
     void theSheetListsWhatChanges();
+    void settingsAreCalledAsOnTheirPages();
     void importStoresAndAnnouncesOnceAndCloses_data();
     void importStoresAndAnnouncesOnceAndCloses();
     void cancelChangesNothing_data();
@@ -160,6 +162,28 @@ void ImportDropTest::theSheetListsWhatChanges()
     }
     // Setting what is the default already changes nothing that shows, but the key: it was not set, and stays so.
     QVERIFY(NamedItems::all(window.sheet(), u"Minimize button"_s).isEmpty());
+}
+
+void ImportDropTest::settingsAreCalledAsOnTheirPages()
+{
+    QSet<QString> names;
+    DropWindow window;
+    for (const char *page : {"general", "buttons", "layouts"}) {
+        window.controller.model()->setSelection(QLatin1String(page));
+        window.waitForFrame();
+        for (QQuickItem *item : window.visibleItems(window.window().contentItem()))
+            names.insert(item->property("text").toString());
+    }
+    for (const Contract::StoreKey &key : Contract::storeKeys()) {
+        const bool isCalledOtherwise = key.name == u"buttonTheme" || key.name.startsWith(u"hotkey.");
+        if (!Contract::isAgentState(key.name) && !isCalledOtherwise)
+            QVERIFY2(names.contains(SettingWords::title(key.name)), qPrintable(key.name));
+    }
+    for (const auto &[key, value] : {std::pair(u"layouts.gap"_s, QVariant(12.0)),
+                                     {u"maximizeMode"_s, u"fill"_s},
+                                     {u"maximizeMode"_s, u"fullscreen"_s},
+                                     {u"layouts.gap"_s, QVariant()}})
+        QVERIFY2(names.contains(SettingWords::value(key, value)), qPrintable(key));
 }
 
 void ImportDropTest::importStoresAndAnnouncesOnceAndCloses_data()

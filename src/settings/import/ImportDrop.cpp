@@ -102,6 +102,7 @@ void ImportDrop::ask(std::unique_ptr<ImportOffer> offer)
     m_focus = m_window.activeFocusItem();
     m_view->setEnabled(false);
     m_sheet->setProperty("offer", QVariant::fromValue(m_offer.get()));
+    QMetaObject::invokeMethod(m_sheet.get(), "begin");
     m_window.requestActivate();
 }
 

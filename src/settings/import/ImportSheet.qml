@@ -17,7 +17,7 @@ FocusScope {
     signal accepted
     signal cancelled
 
-    /// Once it is known what there is to press.
+    /// To be called once the offer is there.
     function begin() {
         (importButton.enabled ? importButton : cancelButton).forceActiveFocus(Qt.OtherFocusReason);
         Announcer.announce(title);
@@ -30,8 +30,6 @@ FocusScope {
     Keys.onDownPressed: list.scrollBy(40)
     // The search behind must not take the focus.
     Keys.onShortcutOverride: event => event.accepted = event.matches(StandardKey.Find)
-    onOfferChanged: if (offer)
-        Qt.callLater(begin)
 
     ContinuousRectangle {
         anchors {

@@ -11,36 +11,29 @@
 
 namespace {
 
-/// A text of a page: where it is translated, and what it is.
+/// A text of a page, which is translated there.
 struct PageText {
-    const char *context;
+    const char *page;
     const char *text;
 
-    QString translated() const { return QCoreApplication::translate(context, text); }
+    QString translated() const { return QCoreApplication::translate(page, text); }
 };
-
-#define PAGE_TEXT(context, text)                                                                                       \
-    PageText                                                                                                           \
-    {                                                                                                                  \
-        context, QT_TRANSLATE_NOOP(context, text)                                                                      \
-    }
 
 const QHash<QString, PageText> &titles()
 {
     using namespace Shared;
     static const QHash<QString, PageText> texts = {
-        {Key::menuBarIconHidden, PAGE_TEXT("GeneralPane", "Show in the menu bar")},
-        {Key::onboardingCompleted, PAGE_TEXT("GeneralPane", "Welcome guide")},
-        {Key::buttonTheme, PAGE_TEXT("SettingWords", "Look")},
-        {Key::buttonSizeOption, PAGE_TEXT("ButtonsPane", "Size")},
-        {Key::showMinimizeButton, PAGE_TEXT("ButtonsPane", "Minimize button")},
-        {Key::showMaximizeButton, PAGE_TEXT("ButtonsPane", "Full screen button")},
-        {Key::maximizeMode, PAGE_TEXT("ButtonsPane", "Full screen")},
-        {Key::layoutsEnabled, PAGE_TEXT("LayoutsPane", "Snap and arrange windows")},
-        {Key::layoutsShelf, PAGE_TEXT("LayoutsPane", "Layouts shelf")},
-        {Key::layoutsGap, PAGE_TEXT("LayoutsPane", "Gaps")},
-        {Key::layoutsLaunchApps, PAGE_TEXT("LayoutsPane", "Open apps that aren't running")},
-        {Key::layoutsSaved, PAGE_TEXT("LayoutsPane", "Saved layouts")},
+        {Key::menuBarIconHidden, {"GeneralPane", "Show in the menu bar"}},
+        {Key::onboardingCompleted, {"GeneralPane", "Welcome guide"}},
+        {Key::buttonSizeOption, {"ButtonsPane", "Size"}},
+        {Key::showMinimizeButton, {"ButtonsPane", "Minimize button"}},
+        {Key::showMaximizeButton, {"ButtonsPane", "Full screen button"}},
+        {Key::maximizeMode, {"ButtonsPane", "Full screen"}},
+        {Key::layoutsEnabled, {"LayoutsPane", "Snap and arrange windows"}},
+        {Key::layoutsShelf, {"LayoutsPane", "Layouts shelf"}},
+        {Key::layoutsGap, {"LayoutsPane", "Gaps"}},
+        {Key::layoutsLaunchApps, {"LayoutsPane", "Open apps that aren't running"}},
+        {Key::layoutsSaved, {"LayoutsPane", "Saved layouts"}},
     };
     return texts;
 }
@@ -48,11 +41,11 @@ const QHash<QString, PageText> &titles()
 QString gap(double points)
 {
     if (points == 0)
-        return PAGE_TEXT("LayoutsPane", "None").translated();
+        return PageText{"LayoutsPane", "None"}.translated();
     if (points == 6)
-        return PAGE_TEXT("LayoutsPane", "Small").translated();
+        return PageText{"LayoutsPane", "Small"}.translated();
     if (points == 12)
-        return PAGE_TEXT("LayoutsPane", "Large").translated();
+        return PageText{"LayoutsPane", "Large"}.translated();
     return QLocale().toString(points);
 }
 
@@ -61,7 +54,7 @@ QString names(const QString &layouts)
     QStringList names;
     for (const SavedLayout &layout : LayoutCoder::decode(layouts).value_or(QList<SavedLayout>()))
         names.append(layout.name);
-    return names.isEmpty() ? PAGE_TEXT("LayoutsPane", "None").translated() : names.join(QStringLiteral(", "));
+    return names.isEmpty() ? PageText{"LayoutsPane", "None"}.translated() : names.join(QStringLiteral(", "));
 }
 
 /// Whether the page shows the opposite of what is stored.
@@ -74,6 +67,8 @@ bool isNegated(const QString &key)
 
 QString SettingWords::title(const QString &key)
 {
+    if (key == Shared::Key::buttonTheme)
+        return QCoreApplication::translate("SettingWords", "Look");
     for (const Hotkey hotkey : Hotkeys::allCases) {
         //: %1 is the keys of a shortcut.
         if (key == Shared::Key::hotkeyDisabled(hotkey))
@@ -98,7 +93,7 @@ QString SettingWords::value(const QString &key, const QVariant &value)
     if (key == Shared::Key::buttonSizeOption)
         return ButtonSizes::title(ButtonSizes::fromRawValue(text).value_or(ButtonSizes::fallback));
     if (key == Shared::Key::maximizeMode)
-        return text == u"fill" ? PAGE_TEXT("ButtonsPane", "Fill Screen").translated()
-                               : PAGE_TEXT("ButtonsPane", "Own Space").translated();
+        return text == u"fill" ? PageText{"ButtonsPane", "Fill Screen"}.translated()
+                               : PageText{"ButtonsPane", "Own Space"}.translated();
     return names(text);
 }
