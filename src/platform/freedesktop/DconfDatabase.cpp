@@ -12,7 +12,12 @@
 
 #include <sys/stat.h>
 
+#include <utility>
+
 namespace {
+
+/// In bytes.
+constexpr gsize longValue = 256 * 1024;
 
 // A database that cannot be read reads as empty; the library's warnings about it help nobody.
 void silenceLibrary()
@@ -115,7 +120,12 @@ DConfClient *DconfDatabase::client() const
 QVariant DconfDatabase::value(const QByteArray &path) const
 {
     const Value stored(dconf_client_read(client(), path.constData()));
-    return stored ? fromGVariant(stored.get()) : QVariant();
+    if (!stored)
+        return {};
+    // What was read stays in memory as long as the client.
+    if (g_variant_get_size(stored.get()) > longValue)
+        g_object_unref(std::exchange(m_client, nullptr));
+    return fromGVariant(stored.get());
 }
 
 bool DconfDatabase::holds(const QByteArray &path, const QVariant &value) const
