@@ -128,18 +128,26 @@ def moves_by_its_strip(checks):
     checks.moved(GENERAL, frame, STRIP, (120, 60))
 
 
+def with_a_higher_page(checks, frame):
+    """What becomes of the window; nothing where it hangs off the screen."""
+    checks.screen.click(frame, LAYOUTS)
+    now = checks.screen.grown(GENERAL, frame)
+    if now.height and now.height < PAGES["layouts"]:
+        return "scrolls"
+    return now.height and ("moved up" if now.y < frame.y else True)
+
+
+def grows_on_the_screen(checks):
+    _, frame = checks.open()
+    hangs_off = "NO: hangs off" if checks.desktop.places_windows else "the compositor's place"
+    return with_a_higher_page(checks, frame) or hangs_off
+
+
 def stays_on_the_screen(checks):
     _, frame = checks.open()
     low = checks.moved(GENERAL, frame, STRIP, (60, HEIGHT - 340 - frame.y))
-    height = PAGES["layouts"]
-    checks.screen.click(low, LAYOUTS)
-    try:
-        now = checks.screen.frame(GENERAL, height)
-    except NotSeen:
-        now = checks.screen.frame(GENERAL)
-    if not now.height:
-        return f"NO: hangs off by {now.y + height - HEIGHT}"
-    return "moved up" if now.height == height else "scrolls"
+    hangs_off = "hangs off: is told no place" if checks.desktop.is_wayland else "NO: hangs off"
+    return with_a_higher_page(checks, low) or hangs_off
 
 
 def minimizes(checks):
@@ -275,7 +283,8 @@ ROWS = [
     ("icon", has_its_icon),
     ("no second decoration", has_one_decoration),
     ("moved by its strip", moves_by_its_strip),
-    ("low window, General to Layouts: all on the screen", stays_on_the_screen),
+    ("General to Layouts: all on the screen", grows_on_the_screen),
+    ("the same, moved down before", stays_on_the_screen),
     ("minimised by its button, back with a second start", minimizes),
     ("closed by its button", closes),
     ("About: 460x380, moved by its background, closed by Escape", about),

@@ -3,6 +3,7 @@
 import json
 import subprocess
 
+import speech
 from checks import ROWS
 from desktops import DESKTOPS
 from session import SIZE
@@ -28,8 +29,14 @@ Where the answer is neither yes nor no:
 - **The front on Wayland.** Who comes to the front is the compositor's decision, by the token that a launcher gives to what
   it starts. A second start hands it over to the running window. From a terminal there is none. Weston knows no tokens.
 - **Scale.** Everything was seen at scale 1. What Qt does at others stands in the [README](../README.md#what-works-today).
+  Mutter on Wayland, unless it scales by fractions, tells programs at scale 2 a screen of twice its height in points: a page
+  may then grow off a low screen.
 - **picom** runs with the rule of its example settings that spares windows with a shadow of their own
   (`_GTK_FRAME_EXTENTS@:c`); without it, it draws a second, square shadow around the tile.
+
+What Orca {orca} says, under Openbox, of what is done by the keyboard:
+
+{heard}
 
 Not seen: the shells of GNOME and Plasma around Mutter and KWin, real System Settings, graphics cards, touch, and several
 monitors.
@@ -42,11 +49,12 @@ def version(package):
     return text.split(":")[-1].split("-")[0].split("+")[0]
 
 
+def line(cells):
+    return "| " + " | ".join(cells) + " |"
+
+
 def table(seen):
     """A row a check, a column a desktop."""
-    def line(cells):
-        return "| " + " | ".join(cells) + " |"
-
     heads = [f"{name} {version(DESKTOPS[name].package)}" for name in seen]
     rows = [row for row, _ in ROWS]
     return "\n".join([line(["", *heads]), line(["---"] * (len(seen) + 1)),
@@ -66,12 +74,16 @@ def montage(root, names, picture):
     return f"{PICTURES[picture]}:\n\n![{PICTURES[picture]}](pictures/{target.name})\n"
 
 
+def answers(root, name):
+    """What the last run has seen there, by row; None before there was one."""
+    file = root / "build" / "field" / name / "seen.json"
+    return json.loads(file.read_text()) if file.exists() else None
+
+
 def write(root):
-    seen = {}
-    for name in DESKTOPS:
-        file = root / "build" / "field" / name / "seen.json"
-        if file.exists():
-            seen[name] = json.loads(file.read_text())
+    seen = {name: rows for name in DESKTOPS if (rows := answers(root, name))}
+    heard = [line(["done", "said"]), line(["---", "---"]), *map(line, (answers(root, speech.NAME) or {}).items())]
     pictures = "\n".join(montage(root, list(seen), picture) for picture in PICTURES)
     (root / "docs" / "field.md").write_text(PAGE.format(
-        count=len(seen), width=SIZE[0], height=SIZE[1], table=table(seen), pictures=pictures))
+        count=len(seen), width=SIZE[0], height=SIZE[1], table=table(seen), pictures=pictures,
+        orca=version(speech.NAME), heard="\n".join(heard)))

@@ -55,6 +55,15 @@ class Picture:
         bottom = [y for other, y in lines[1:] if other == x and y > top]
         return Frame(x, top, len(edge) // 3, bottom[0] - top + 1 if bottom else 0)
 
+    def scrolled_frame(self, edge):
+        """The same, also where the page scrolls and shows through the lower edge: the left one ends there as well."""
+        frame = self.frame(edge)
+        if not frame or frame.height:
+            return frame
+        color = self.pixel(frame.x, frame.y)
+        end = next((y for y in range(frame.y, HEIGHT) if self.pixel(frame.x, y) != color), None)
+        return frame._replace(height=end - frame.y) if end else frame
+
 
 class Screen:
     def __init__(self, session):
@@ -84,6 +93,16 @@ class Screen:
         except NotSeen:
             seen = f", but {before}" if before else ""
             raise NotSeen(f"no {what} {len(edge) // 3}x{height or '…'}{seen}") from None
+
+    def grown(self, edge, before):
+        """Waits until that window is another one, and has been so for a moment."""
+        seen = [before]
+
+        def stands():
+            seen.append(self.picture().scrolled_frame(edge))
+            return seen[-1] != before and len(set(seen[-4:])) == 1 and seen[-1]
+
+        return until(stands, "stays as it is")
 
     def gone(self, edge, what="window"):
         until(lambda: not self.picture().frame(edge), f"{what} stays")
