@@ -52,7 +52,7 @@ bool isPage(const QString &id)
 void startAgent()
 {
     if (AgentBundle::bundle())
-        Platform::current().instances().start(Contract::agentName);
+        Platform::current().instances().start(Contract::agentName, {});
 }
 
 /// Opens another role, which has a process of its own.

@@ -11,6 +11,7 @@ EBStepScreen {
     id: screen
 
     required property OnboardingFlow flow
+    readonly property string missing: flow.agentMissing && !flow.trusted ? qsTr("Corvane is not running.") : ""
 
     app: "corvane"
     steps: flow.steps
@@ -20,10 +21,18 @@ EBStepScreen {
     text: flow.trusted ? qsTr("Corvane can now see which window you point at.") : longestText
     longestText: qsTr("macOS asks you first before Corvane can tell which window the pointer is on. Nothing is recorded or sent anywhere.")
 
+    onMissingChanged: announcement.say(missing)
+
+    // Not among the rows, between which there are rules.
+    data: Announcement {
+        id: announcement
+    }
+
     EBRow {
         glyph: "key"
         title: qsTr("Accessibility")
-        detail: screen.flow.trusted ? qsTr("Allowed in System Settings.")
+        detail: screen.missing ? screen.missing
+              : screen.flow.trusted ? qsTr("Allowed in System Settings.")
               : screen.flow.accessRequested ? longestDetail
               : qsTr("Opens Privacy & Security in System Settings.")
         longestDetail: screen.flow.carriesTile ? qsTr("Switch on Corvane in the list in System Settings.")
@@ -50,7 +59,7 @@ EBStepScreen {
 
         EBButton {
             visible: !screen.flow.trusted
-            text: screen.flow.accessRequested ? qsTr("Open Again") : qsTr("Open System Settings")
+            text: screen.missing ? qsTr("Try Again") : screen.flow.accessRequested ? qsTr("Open Again") : qsTr("Open System Settings")
             size: "sm"
             onClicked: screen.flow.requestAccess()
         }

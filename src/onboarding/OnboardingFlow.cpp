@@ -4,6 +4,10 @@
 #include "Platform.h"
 #include "Shared.h"
 
+#include <QPointer>
+
+#include <utility>
+
 namespace {
 
 constexpr double tileDelay = 0.8; // seconds, in which System Settings comes up
@@ -108,6 +112,25 @@ void OnboardingFlow::skipSetup()
 
 void OnboardingFlow::requestAccess()
 {
+    if (std::exchange(m_isStartingAgent, true))
+        return;
+    Platform::current().instances().start(Contract::agentName, [flow = QPointer(this)](Instances::Start start) {
+        if (flow)
+            flow->askAgent(start);
+    });
+}
+
+void OnboardingFlow::askAgent(Instances::Start start)
+{
+    m_isStartingAgent = false;
+    const bool isMissing = start == Instances::Start::failed;
+    if (isMissing != m_agentMissing) {
+        m_agentMissing = isMissing;
+        emit agentMissingChanged();
+    }
+    // Whoever has moved on while the agent was started is not interrupted.
+    if (isMissing || m_step != OnboardingStep::access)
+        return;
     if (!m_accessRequested) {
         m_accessRequested = true;
         emit accessRequestedChanged();

@@ -2,6 +2,7 @@
 
 #include "DemoModel.h"
 #include "DragTileController.h"
+#include "Instances.h"
 #include "OnboardingStep.h"
 #include "OverlayLook.h"
 
@@ -28,6 +29,8 @@ class OnboardingFlow : public QObject {
     /// The agent has the Accessibility permission.
     Q_PROPERTY(bool trusted READ trusted NOTIFY trustedChanged)
     Q_PROPERTY(bool accessRequested READ accessRequested NOTIFY accessRequestedChanged)
+    /// The agent could not be asked for the permission: it is installed, but neither runs nor starts.
+    Q_PROPERTY(bool agentMissing READ agentMissing NOTIFY agentMissingChanged)
     /// Nobody can tell where System Settings stands, so the tile to drag is part of the permission step, and the guide
     /// stays where it is.
     Q_PROPERTY(bool carriesTile READ carriesTile CONSTANT)
@@ -52,6 +55,7 @@ public:
     QString hint() const { return m_hint; }
     bool trusted() const { return m_trusted.value().toBool(); }
     bool accessRequested() const { return m_accessRequested; }
+    bool agentMissing() const { return m_agentMissing; }
     bool carriesTile() const { return m_carriesTile; }
     const QUrl &appURL() const { return m_dragTile.appURL(); }
     bool launchAtLogin() const { return m_launchAtLogin; }
@@ -70,8 +74,9 @@ public:
     /// Ends the flow at once: nothing is stored and nothing is sent.
     Q_INVOKABLE void skipSetup();
 
-    /// Asks the agent for the permission. The guide steps aside for that, and a moment later the tile to drag is shown,
-    /// unless the guide carries it.
+    /// Asks the agent for the permission, which is started if it does not run. The guide steps aside for that, and a
+    /// moment later the tile to drag is shown, unless the guide carries it. An agent that does not start is missing:
+    /// the guide stays where it is. One that is not installed for being started may run all the same, and is asked.
     Q_INVOKABLE void requestAccess();
 
     /// The two ways on from the choice of a look: with what was chosen, or with the defaults.
@@ -87,8 +92,10 @@ signals:
     void hintChanged();
     void trustedChanged();
     void accessRequestedChanged();
+    void agentMissingChanged();
 
 private:
+    void askAgent(Instances::Start start);
     void goBy(int steps);
     void updateHint();
     QString nextHint() const;
@@ -102,6 +109,8 @@ private:
     QString m_hint;
     AppStorage m_trusted;
     bool m_accessRequested = false;
+    bool m_isStartingAgent = false;
+    bool m_agentMissing = false;
     const bool m_carriesTile;
     const bool m_launchAtLogin;
     const bool m_reduceMotion;

@@ -24,6 +24,14 @@ public:
     /// may claim it.
     using Handler = std::function<bool(const Request &)>;
 
+    /// What became of a start.
+    enum class Start {
+        running, ///< It runs by now, or did so before.
+        notInstalled, ///< None is installed under that name, or there is no session.
+        failed, ///< It did not start, or not within five seconds.
+    };
+    using Started = std::function<void(Start)>;
+
     virtual ~Instances() = default;
 
     /// Claims `name`, a dotted name such as "com.vexmoor.corvane.settings", until this process ends. True when no other
@@ -39,6 +47,6 @@ public:
     virtual bool ask(const QString &name, const Request &request) = 0;
 
     /// Has the desktop start the program that is installed under `name`, unless a process holds it. Nothing waits for
-    /// that, and where none is installed nothing happens.
-    virtual void start(const QString &name) = 0;
+    /// that, and where none is installed nothing happens. `started`, which may be empty, is told on the main thread.
+    virtual void start(const QString &name, const Started &started) = 0;
 };

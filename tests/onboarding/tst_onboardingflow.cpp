@@ -35,6 +35,8 @@ private slots:
     void askingForAccessStepsAsideSendsAndShowsTheTileLater();
     void theGuideIsAsideBeforeTheAgentIsAsked();
     void askingAgainAsksTheAgentAgain();
+    void withoutAnAgentTheGuideStaysAndItCanBeTriedAgain();
+    void whoeverHasMovedOnWhileTheAgentStartsIsNotInterrupted();
     void theTileIsNotShownToWhomeverHasMovedOn();
     void theTileIsNotShownOnceThePermissionIsThere();
     void permissionBringsTheGuideBackAndAdvancesAfterASecond();
@@ -292,6 +294,45 @@ void TestOnboardingFlow::askingAgainAsksTheAgentAgain()
     QCOMPARE(changes.size(), 1);
     QCOMPARE(commands(), (QStringList{"requestAccessibility", "requestAccessibility"}));
     QCOMPARE(m_visibilities, (QList<bool>{false, false}));
+}
+
+void TestOnboardingFlow::withoutAnAgentTheGuideStaysAndItCanBeTriedAgain()
+{
+    OnboardingFlow &flow = makeAt(OnboardingStep::access);
+    m_platform->programs.outcome = Instances::Start::failed;
+    flow.requestAccess();
+    QCOMPARE(m_platform->programs.started, QStringList{"com.vexmoor.corvane"});
+    QVERIFY(flow.agentMissing());
+    QVERIFY(!flow.accessRequested());
+    m_platform->queue.advance(20);
+    QVERIFY(!flow.dragTile().panel());
+    QCOMPARE(m_visibilities, QList<bool>());
+    QCOMPARE(commands(), QStringList());
+
+    m_platform->programs.outcome = Instances::Start::running;
+    flow.requestAccess();
+    QVERIFY(!flow.agentMissing());
+    QVERIFY(flow.accessRequested());
+    QCOMPARE(m_visibilities, QList<bool>{false});
+    QCOMPARE(commands(), QStringList{"requestAccessibility"});
+}
+
+void TestOnboardingFlow::whoeverHasMovedOnWhileTheAgentStartsIsNotInterrupted()
+{
+    OnboardingFlow &flow = makeAt(OnboardingStep::access);
+    m_platform->programs.answersLater = true;
+    flow.requestAccess();
+    flow.requestAccess();
+    QCOMPARE(m_platform->programs.started.size(), 1);
+    flow.next();
+    m_platform->programs.answer();
+    QCOMPARE(m_visibilities, QList<bool>());
+    QCOMPARE(commands(), QStringList());
+    // It can be asked for anew.
+    flow.back();
+    flow.requestAccess();
+    m_platform->programs.answer();
+    QCOMPARE(commands(), QStringList{"requestAccessibility"});
 }
 
 void TestOnboardingFlow::theTileIsNotShownToWhomeverHasMovedOn()

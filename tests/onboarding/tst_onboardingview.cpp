@@ -53,6 +53,7 @@ private slots:
     void aNewHintIsReadOut();
     void theAccessStepExplainsThePermission();
     void theAccessStepChangesOnceThePermissionWasAskedFor();
+    void theAccessStepSaysThatTheAgentIsMissing();
     void theAccessStepShowsThePermission();
     void whereWindowsAreUnknownTheAccessStepCarriesTheTile();
     void whereTheTileFloatsTheAccessStepHasNone();
@@ -303,6 +304,21 @@ void TestOnboardingView::theAccessStepChangesOnceThePermissionWasAskedFor()
     QVERIFY(!control("Open System Settings"));
     click(control("Open Again"));
     QCOMPARE(commands(), (QStringList{"requestAccessibility", "requestAccessibility"}));
+}
+
+void TestOnboardingView::theAccessStepSaysThatTheAgentIsMissing()
+{
+    m_platform->programs.outcome = Instances::Start::failed;
+    make(OnboardingStep::access);
+    click(control("Open System Settings"));
+    QVERIFY(shows("Corvane is not running."));
+    QVERIFY(control("Corvane is not running.", QAccessible::Notification));
+    QCOMPARE(commands(), QStringList());
+    m_platform->programs.outcome = Instances::Start::running;
+    click(control("Try Again"));
+    QVERIFY(!shows("Corvane is not running."));
+    QVERIFY(control("Open Again"));
+    QCOMPARE(commands(), QStringList{"requestAccessibility"});
 }
 
 void TestOnboardingView::theAccessStepShowsThePermission()

@@ -102,7 +102,10 @@ void InstancesTest::withoutAHandlerARequestIsDone()
 
 void InstancesTest::whatIsNotInstalledIsNotStarted()
 {
-    instances().start(name());
+    std::optional<Instances::Start> outcome;
+    instances().start(name(), [&](Instances::Start start) { outcome = start; });
+    QTRY_COMPARE(outcome, Instances::Start::notInstalled);
+    instances().start(name(), {});
     QVERIFY(instances().claim(name()));
 }
 

@@ -5,9 +5,11 @@ import Embera.Controls
 Item {
     id: announcement
 
+    /// An empty text only takes back what was said before.
     function say(text: string) {
         Accessible.name = text;
-        Announcer.announce(announcement);
+        if (text)
+            Announcer.announce(announcement);
     }
 
     width: 1

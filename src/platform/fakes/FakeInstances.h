@@ -17,6 +17,12 @@ public:
     /// What was to be started, each time anew.
     QStringList started;
 
+    /// What becomes of a start.
+    Start outcome = Start::notInstalled;
+
+    /// True: that is told when `answer` is called.
+    bool answersLater = false;
+
     bool claim(const QString &name) override
     {
         if (others.contains(name))
@@ -36,7 +42,20 @@ public:
         return isDone;
     }
 
-    void start(const QString &name) override { started.append(name); }
+    void start(const QString &name, const Started &told) override
+    {
+        started.append(name);
+        m_told = told;
+        if (!answersLater)
+            answer();
+    }
+
+    /// Tells what became of the last start.
+    void answer()
+    {
+        if (m_told)
+            m_told(outcome);
+    }
 
     /// Another process asks this one; false when it would not.
     bool receive(const Request &request)
@@ -49,4 +68,5 @@ public:
 
 private:
     Handler m_handler;
+    Started m_told;
 };

@@ -3,15 +3,27 @@
 #include "SessionBus.h"
 #include "X11Connection.h"
 
+#include <QDBusError>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 
 namespace {
+
+constexpr int startLimit = 5000; // milliseconds
 
 const QString interface = QStringLiteral("org.freedesktop.Application");
 
 QString path(const QString &name)
 {
     return u'/' + QString(name).replace(u'.', u'/');
+}
+
+Instances::Start outcomeOf(const QDBusMessage &answer)
+{
+    if (answer.type() == QDBusMessage::ReplyMessage)
+        return Instances::Start::running;
+    const bool isUnknown = QDBusError(answer).type() == QDBusError::ServiceUnknown;
+    return isUnknown ? Instances::Start::notInstalled : Instances::Start::failed;
 }
 
 }
@@ -46,17 +58,28 @@ bool DBusInstances::ask(const QString &name, const Request &request)
     return bus->call(call).type() == QDBusMessage::ReplyMessage;
 }
 
-void DBusInstances::start(const QString &name)
+void DBusInstances::start(const QString &name, const Started &started)
 {
     const auto bus = SessionBus::connection();
-    if (!bus)
+    if (!bus) {
+        if (started)
+            started(Start::notInstalled);
         return;
+    }
     QDBusMessage call =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                                        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("StartServiceByName"));
     constexpr uint noFlags = 0;
     call << name << noFlags;
-    bus->send(call);
+    if (!started) {
+        bus->send(call);
+        return;
+    }
+    auto *answer = new QDBusPendingCallWatcher(bus->asyncCall(call, startLimit), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, started] {
+        answer->deleteLater();
+        started(outcomeOf(answer->reply()));
+    });
 }
 
 void DBusInstances::ActivateAction(const QString &action, const QVariantList &parameters,

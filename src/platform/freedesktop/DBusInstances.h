@@ -18,7 +18,7 @@ public:
     bool claim(const QString &name) override;
     void setHandler(Handler handler) override { m_handler = std::move(handler); }
     bool ask(const QString &name, const Request &request) override;
-    void start(const QString &name) override;
+    void start(const QString &name, const Started &started) override;
 
 public slots:
     // The interface on the bus, with its names.
