@@ -14,6 +14,7 @@
 #include "SettingsModel.h"
 #include "SettingsPages.h"
 #include "Shared.h"
+#include "StoreKeeper.h"
 #include "StoreTrouble.h"
 #include "UserDefaults.h"
 #include "WindowIcon.h"
@@ -134,6 +135,17 @@ void SettingsAppDelegate::showSettings(const Instances::Request &request)
     m_settings->showWindow();
 }
 
+void SettingsAppDelegate::tell()
+{
+    if (!m_settings)
+        return;
+    const QString trouble = StoreTrouble::text();
+    if (trouble.isEmpty() && m_keeper && m_keeper->hasLost())
+        m_settings->model()->setNotice(tr("Your settings are gone."), {tr("Restore"), tr("Start Fresh")});
+    else
+        m_settings->model()->setNotice(trouble);
+}
+
 EBWindow *SettingsAppDelegate::window() const
 {
     if (m_guide)
@@ -149,11 +161,22 @@ void SettingsAppDelegate::present(EBWindow &window)
         QGuiApplication::setWindowIcon(windowIcon());
         Platform::current().appearance().wake();
         startAgent();
+        keepSettings();
         emit opened();
     };
     connect(&window, &QQuickWindow::frameSwapped, this, finish,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     window.makeKeyAndOrderFront();
+}
+
+// About changes no settings.
+void SettingsAppDelegate::keepSettings()
+{
+    if (m_about)
+        return;
+    m_keeper = std::make_unique<StoreKeeper>();
+    connect(m_keeper.get(), &StoreKeeper::lostChanged, this, &SettingsAppDelegate::tell);
+    tell();
 }
 
 void SettingsAppDelegate::openOnboarding()
@@ -197,8 +220,9 @@ void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
     m_settings = std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, pages, initial);
     // The window owns it.
     new ImportDrop(m_engine, *m_settings->window());
-    connect(&Shared::store(), &UserDefaults::troubleChanged, m_settings->model(),
-            [model = m_settings->model()] { model->setNotice(StoreTrouble::text()); });
+    connect(&Shared::store(), &UserDefaults::troubleChanged, this, &SettingsAppDelegate::tell);
+    connect(m_settings->model(), &EBSettingsWindowController::Model::answered, this,
+            [this](int answer) { answer == 0 ? m_keeper->restore() : m_keeper->startFresh(); });
     platform.appearance().settle();
     present(*m_settings->window());
 }

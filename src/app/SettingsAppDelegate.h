@@ -12,6 +12,7 @@ class AboutWindow;
 class EBWindow;
 class EBSettingsWindowController;
 class GuideWindowController;
+class StoreKeeper;
 
 /// Decides at launch which window this process is for, opens it and owns it.
 class SettingsAppDelegate : public QObject {
@@ -51,12 +52,19 @@ private:
     /// What a later start, or the desktop, wants of this process. False when its window is closed and it only has to
     /// end.
     bool perform(const Instances::Request &request);
+    void keepSettings();
+
+    /// The line in the settings window: why changes are not saved, else the question what becomes of lost settings.
+    void tell();
+
     void showSettings(const Instances::Request &request);
 
     /// However the onboarding ended: it is not shown by itself again, and the agent applies what was chosen.
     static void finishOnboarding();
 
     ViewEngine m_engine;
+    /// Made once the window is shown.
+    std::unique_ptr<StoreKeeper> m_keeper;
     std::unique_ptr<GuideWindowController> m_guide;
     std::unique_ptr<AboutWindow> m_about;
     std::unique_ptr<EBSettingsWindowController> m_settings;

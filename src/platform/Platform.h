@@ -32,6 +32,9 @@ public:
     /// The suite of that name; null when it cannot be opened.
     virtual UserDefaults *userDefaults(const QString &suiteName) = 0;
 
+    /// The folder for what this application keeps for itself alone, which need not exist yet; empty when there is none.
+    virtual QString stateFolder() const = 0;
+
     virtual DistributedNotificationCenter &distributedNotificationCenter() = 0;
     virtual Workspace &workspace() = 0;
     virtual Appearance &appearance() = 0;

@@ -3,12 +3,14 @@
 #include "NamedItems.h"
 #include "SettingsAppDelegate.h"
 #include "SettingsModel.h"
+#include "StoreKeeper.h"
 #include "TestProgram.h"
 #include "Views.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 
 class TestAppDelegate : public QObject {
     Q_OBJECT
@@ -21,6 +23,8 @@ private slots:
     void theTabVariableNamesTheFirstPage();
     void theWindowShowsTheShortVersionAlone();
     void theWindowTellsWhyChangesAreNotSaved();
+    void theWindowOffersToRestoreLostSettings_data();
+    void theWindowOffersToRestoreLostSettings();
     void closingTheLastWindowEndsTheProcess();
     void theGuideIsThisApplicationStartedAgain();
     void aRequestGoesToThePageItNames_data();
@@ -141,6 +145,46 @@ void TestAppDelegate::theWindowTellsWhyChangesAreNotSaved()
         QTRY_VERIFY(NamedItems::all(window()->contentItem(), *text).isEmpty());
         store.setValue("showMinimizeButton", QVariant());
     }
+}
+
+void TestAppDelegate::theWindowOffersToRestoreLostSettings_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QVariantMap>("values");
+    const QVariantMap lost = {{"layouts.gap", 6.0}, {"showMinimizeButton", true}};
+    QTest::newRow("restore") << "Restore" << lost;
+    QTest::newRow("start fresh") << "Start Fresh" << QVariantMap();
+}
+
+void TestAppDelegate::theWindowOffersToRestoreLostSettings()
+{
+    QFETCH(QString, answer);
+    QFETCH(QVariantMap, values);
+    const QTemporaryDir state;
+    m_platform->main.info = QVariantMap{{"CFBundleShortVersionString", "1.4"}};
+    m_platform->state = state.path();
+    FakeUserDefaults &store = m_platform->suite("com.vexmoor.corvane");
+    store.values = {{"layouts.gap", 6.0}, {"showMinimizeButton", true}};
+    StoreKeeper();
+    store.values.clear();
+    SettingsAppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    const QString offer = "Your settings are gone.";
+    QQuickItem *content = window()->contentItem();
+    QTRY_VERIFY(NamedItems::first(content, offer, QAccessible::Notification));
+    // Whatever keeps changes from being saved comes first.
+    store.obstacle = UserDefaults::Trouble::noRoom;
+    store.setValue("showMinimizeButton", true);
+    QTRY_VERIFY(!NamedItems::first(content, offer, QAccessible::Notification));
+    store.obstacle = UserDefaults::Trouble::none;
+    store.setValue("showMinimizeButton", QVariant());
+    QQuickItem *button = nullptr;
+    QTRY_VERIFY(button = NamedItems::first(content, answer, QAccessible::Button));
+    QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    QTRY_VERIFY(!NamedItems::first(content, offer, QAccessible::Notification));
+    QCOMPARE(store.values, values);
+    QVERIFY(NamedItems::first(content, "Corvane\nVersion 1.4", QAccessible::StaticText));
 }
 
 void TestAppDelegate::closingTheLastWindowEndsTheProcess()

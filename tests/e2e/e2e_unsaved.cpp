@@ -26,6 +26,7 @@ private slots:
     void theProcessEndsSoonWhileTheServiceHangs();
     void theGuidesCustomizeStepTells();
     void aLockedSettingIsDisabled();
+    void lostSettingsAreRestoredWhenThePersonSaysSo();
 };
 
 void TestUnsaved::cleanup()
@@ -132,6 +133,28 @@ void TestUnsaved::aLockedSettingIsDisabled()
     const Accessible fullScreen = find(ATSPI_ROLE_CHECK_BOX, u"Full screen button"_s);
     QVERIFY(becomes(minimize, ATSPI_STATE_ENABLED, false));
     QVERIFY(fullScreen.has(ATSPI_STATE_ENABLED));
+}
+
+void TestUnsaved::lostSettingsAreRestoredWhenThePersonSaysSo()
+{
+    store().write(u"layouts.gap"_s, 6.0);
+    QVERIFY(open());
+    QTRY_VERIFY(QFile::exists(desktop().session().stateFolder() + u"/corvane-settings/settings.copy"_s));
+    closeWindow();
+    QVERIFY(program().waitForExit());
+    store().removeAll();
+
+    QVERIFY(open());
+    const QString question = u"Your settings are gone."_s;
+    QVERIFY(shows(question));
+    QCOMPARE(store().readAll(), QVariantMap());
+    FIND(restore, ATSPI_ROLE_PUSH_BUTTON, "Restore");
+    QVERIFY(restore.doAction(u"Press"_s));
+    QVERIFY(doesNotShow(question));
+    QCOMPARE(store().readAll(), (QVariantMap{{u"layouts.gap"_s, 6.0}}));
+    QVERIFY(commands().waitForCount(1));
+    QCOMPARE(commands().heard().constFirst().command, u"applySettings"_s);
+    QCOMPARE(commands().heard().constFirst().stored.size(), 1);
 }
 
 CORVANE_TEST(TestUnsaved, runInCore)

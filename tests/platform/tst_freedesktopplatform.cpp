@@ -3,6 +3,8 @@
 #include "TestProgram.h"
 #include "Tool.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDir>
 #include <QWindow>
 
@@ -18,6 +20,8 @@ private slots:
     void aProgramOutsideABundleHasStandardDefaultsUnderItsName();
     void theMainBundleIsTheFolderOfTheExecutable();
     void aBundleIsNullWhereThereIsNoFolder();
+    void stateIsKeptInTheStateFolder();
+    void anInstalledProgramThatDoesNotStartHasFailed();
     void everyServiceIsThereAndStaysTheSame();
     void withoutAnXServerNobodyTellsOfWindows();
 
@@ -63,6 +67,47 @@ void FreedesktopPlatformTest::aBundleIsNullWhereThereIsNoFolder()
     QVERIFY(!platform.bundle(QUrl::fromLocalFile(QCoreApplication::applicationFilePath())));
     QVERIFY(!platform.bundle(QUrl(QStringLiteral("https://example.com/"))));
     QVERIFY(!platform.bundle(QUrl()));
+}
+
+void FreedesktopPlatformTest::stateIsKeptInTheStateFolder()
+{
+    const Platform &platform = Platform::current();
+    const QByteArray home = qgetenv("HOME");
+    const auto restored = qScopeGuard([&] {
+        qputenv("HOME", home);
+        qputenv("XDG_STATE_HOME", m_session.stateFolder().toLocal8Bit());
+    });
+    QCOMPARE(platform.stateFolder(), m_session.stateFolder() + QStringLiteral("/corvane-settings"));
+    qputenv("HOME", "/home/somebody");
+    for (const char *none : {"", "relative"}) {
+        qputenv("XDG_STATE_HOME", none);
+        QCOMPARE(platform.stateFolder(), QStringLiteral("/home/somebody/.local/state/corvane-settings"));
+    }
+    qunsetenv("HOME");
+    QCOMPARE(platform.stateFolder(), QString());
+}
+
+void FreedesktopPlatformTest::anInstalledProgramThatDoesNotStartHasFailed()
+{
+    const QString services = m_session.dataFolder() + QStringLiteral("/dbus-1/services/");
+    QVERIFY(QDir().mkpath(services));
+    QFile file(services + QStringLiteral("org.example.broken.service"));
+    QVERIFY(file.open(QFile::WriteOnly));
+    file.write("[D-BUS Service]\nName=org.example.broken\nExec=/bin/false\n");
+    file.close();
+    QDBusConnection::sessionBus().call(
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ReloadConfig")));
+    QHash<QString, Instances::Start> outcomes;
+    for (const char *name : {"org.example.broken", "org.example.nowhere", "ca.desrt.dconf"}) {
+        Platform::current().instances().start(QString::fromLatin1(name), [&outcomes, name](Instances::Start outcome) {
+            outcomes.insert(QString::fromLatin1(name), outcome);
+        });
+    }
+    QTRY_COMPARE(outcomes.size(), 3);
+    QCOMPARE(outcomes.value(QStringLiteral("org.example.broken")), Instances::Start::failed);
+    QCOMPARE(outcomes.value(QStringLiteral("org.example.nowhere")), Instances::Start::notInstalled);
+    QCOMPARE(outcomes.value(QStringLiteral("ca.desrt.dconf")), Instances::Start::running);
 }
 
 void FreedesktopPlatformTest::everyServiceIsThereAndStaysTheSame()

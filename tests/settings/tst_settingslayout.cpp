@@ -1,8 +1,10 @@
 #include "EBKit.h"
+#include "SettingsModel.h"
 #include "SettingsWindow.h"
 #include "TestProgram.h"
 
 #include <QFont>
+#include <QSignalSpy>
 
 /// What the settings window shows around a page. Where it all stands is what the golden pictures of it hold.
 class TestSettingsLayout : public QObject {
@@ -11,6 +13,7 @@ class TestSettingsLayout : public QObject {
 private slots:
     void theProductsMarkStandsBesideItsNameInItsColour();
     void aNoticeStandsInTheFootsPlaceAndMovesNothing();
+    void whatCanBeAnsweredStandsBelowTheNotice();
     void theSelectedEntryIsSetApart_data();
     void theSelectedEntryIsSetApart();
 
@@ -50,6 +53,28 @@ void TestSettingsLayout::aNoticeStandsInTheFootsPlaceAndMovesNothing()
     settings.controller.model()->setNotice(QString());
     settings.waitForFrame();
     QVERIFY(settings.label("Corvane\nVersion 1.4"));
+}
+
+void TestSettingsLayout::whatCanBeAnsweredStandsBelowTheNotice()
+{
+    SettingsWindow settings;
+    const QSize size = settings.window().size();
+    const QString notice = "Your settings are gone.";
+    QSignalSpy spy(settings.controller.model(), &EBSettingsWindowController::Model::answered);
+    settings.controller.model()->setNotice(notice, {"Restore", "Start Fresh"});
+    settings.waitForFrame();
+    QCOMPARE(settings.window().size(), size);
+    const FoundItem fresh = settings.item("Start Fresh", QAccessible::Button);
+    const QRectF frame = SettingsWindow::frame(fresh);
+    QVERIFY(frame.top() >= SettingsWindow::frame(settings.item(notice, QAccessible::Notification)).bottom());
+    QVERIFY(frame.bottom() <= size.height() - 8);
+    QVERIFY(frame.right() <= 8 + 178 - 10);
+    settings.click(fresh);
+    settings.click(settings.item("Restore", QAccessible::Button));
+    QCOMPARE(spy, (QList<QVariantList>{{1}, {0}}));
+    settings.controller.model()->setNotice(notice);
+    settings.waitForFrame();
+    QVERIFY(!settings.item("Restore", QAccessible::Button));
 }
 
 void TestSettingsLayout::theSelectedEntryIsSetApart_data()

@@ -20,6 +20,7 @@ PrivateSession::PrivateSession()
     makeFolder(configFolder(), "XDG_CONFIG_HOME");
     makeFolder(dataFolder(), "XDG_DATA_HOME");
     makeFolder(runtimeFolder(), "XDG_RUNTIME_DIR");
+    makeFolder(stateFolder(), "XDG_STATE_HOME");
     makeFolder(m_folder.filePath(QStringLiteral("cache")), "XDG_CACHE_HOME");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qunsetenv("XDG_CURRENT_DESKTOP");

@@ -9,7 +9,7 @@
 
 class BusDaemon;
 
-/// A login session of the test's own: new folders for settings, data, caches and run-time files, and a
+/// A login session of the test's own: new folders for settings, data, state, caches and run-time files, and a
 /// message bus once it is started. The environment of this process is changed to it, so it is made first in
 /// main(), before the application object, and one process has one of them. Children inherit it. Everything
 /// ends with this object, and with the test however that one ends.
@@ -35,6 +35,7 @@ public:
     QString configFolder() const { return m_folder.filePath(QStringLiteral("config")); }
     QString dataFolder() const { return m_folder.filePath(QStringLiteral("data")); }
     QString runtimeFolder() const { return m_folder.filePath(QStringLiteral("run")); }
+    QString stateFolder() const { return m_folder.filePath(QStringLiteral("state")); }
 
 private:
     QTemporaryDir m_folder;

@@ -39,6 +39,9 @@ public:
     /// False: no suite can be opened by name.
     bool suitesCanBeOpened = true;
 
+    /// Where state is kept; empty for nowhere.
+    QString state;
+
     /// The suite of that name, empty until it is written to, and there even while it cannot be opened.
     FakeUserDefaults &suite(const QString &name) { return m_suites[name]; }
 
@@ -46,6 +49,7 @@ public:
     std::unique_ptr<Bundle> bundle(const QUrl &url) override;
     UserDefaults &standardUserDefaults() override { return standard; }
     UserDefaults *userDefaults(const QString &suiteName) override;
+    QString stateFolder() const override { return state; }
     DistributedNotificationCenter &distributedNotificationCenter() override { return notifications; }
     Workspace &workspace() override { return space; }
     Appearance &appearance() override { return look; }

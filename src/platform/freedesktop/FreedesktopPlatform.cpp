@@ -23,6 +23,7 @@ public:
     std::unique_ptr<Bundle> bundle(const QUrl &url) override;
     UserDefaults &standardUserDefaults() override;
     UserDefaults *userDefaults(const QString &suiteName) override;
+    QString stateFolder() const override;
     DistributedNotificationCenter &distributedNotificationCenter() override { return m_notifications; }
     Workspace &workspace() override;
     Appearance &appearance() override;
@@ -76,6 +77,16 @@ UserDefaults *FreedesktopPlatform::userDefaults(const QString &suiteName)
 UserDefaults &FreedesktopPlatform::suite(const QString &name)
 {
     return m_suites.try_emplace(name, name).first->second;
+}
+
+// A path that is not absolute counts as none, as everywhere in XDG's folders.
+QString FreedesktopPlatform::stateFolder() const
+{
+    const QString named = qEnvironmentVariable("XDG_STATE_HOME");
+    if (named.startsWith(u'/'))
+        return named + QStringLiteral("/corvane-settings");
+    const QString home = qEnvironmentVariable("HOME");
+    return home.startsWith(u'/') ? home + QStringLiteral("/.local/state/corvane-settings") : QString();
 }
 
 Workspace &FreedesktopPlatform::workspace()

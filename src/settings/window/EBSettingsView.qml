@@ -32,6 +32,8 @@ FocusScope {
         pages: view.pages
         selection: view.model.selection
         notice: view.model.notice
+        answers: view.model.answers
+        onAnswered: index => view.model.answered(index)
         onPicked: id => view.model.selection = id
     }
     PageArea {

@@ -16,11 +16,12 @@ void EBSettingsWindowController::Model::setSelection(const QString &id)
     emit selectionChanged();
 }
 
-void EBSettingsWindowController::Model::setNotice(const QString &notice)
+void EBSettingsWindowController::Model::setNotice(const QString &notice, const QStringList &answers)
 {
-    if (m_notice == notice)
+    if (m_notice == notice && m_answers == answers)
         return;
     m_notice = notice;
+    m_answers = answers;
     emit noticeChanged();
 }
 

@@ -16,7 +16,9 @@ class EBSettingsWindowController::Model : public QObject {
     /// The shown page's position among all pages, from 1.
     Q_PROPERTY(int number READ number NOTIFY selectionChanged)
     /// What the person is told whatever page is shown; usually nothing.
-    Q_PROPERTY(QString notice READ notice WRITE setNotice NOTIFY noticeChanged)
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+    /// What the person can answer to that, if anything.
+    Q_PROPERTY(QStringList answers READ answers NOTIFY noticeChanged)
 public:
     Model(QList<EBSettingsPage> pages, const std::optional<QString> &initial, QObject *parent);
 
@@ -26,11 +28,15 @@ public:
     QUrl content() const { return m_pages.at(current()).content; }
     int number() const { return int(current()) + 1; }
     QString notice() const { return m_notice; }
-    void setNotice(const QString &notice);
+    QStringList answers() const { return m_answers; }
+    void setNotice(const QString &notice, const QStringList &answers = {});
 
 signals:
     void selectionChanged();
     void noticeChanged();
+
+    /// The person gave the answer of that index.
+    void answered(int index);
 
 private:
     qsizetype current() const;
@@ -38,4 +44,5 @@ private:
     const QList<EBSettingsPage> m_pages;
     QString m_selection;
     QString m_notice;
+    QStringList m_answers;
 };

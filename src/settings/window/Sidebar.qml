@@ -15,7 +15,11 @@ Item {
     required property string selection
     /// A line for the person in the foot's place, read out when it comes up; usually empty.
     property string notice
+    /// What can be answered to it.
+    property list<string> answers
 
+    /// The person gave the answer of that index.
+    signal answered(index: int)
     /// The person chose the page with this id.
     signal picked(id: string)
 
@@ -33,7 +37,7 @@ Item {
     }
 
     implicitWidth: 178
-    implicitHeight: list.y + list.implicitHeight + 8 + Math.max(footer.height, notice ? noticeText.implicitHeight : 0) + 12
+    implicitHeight: list.y + list.implicitHeight + 8 + Math.max(footer.height, notice ? noticePlace.implicitHeight : 0) + 12
 
     ContinuousRectangle {
         anchors.fill: parent
@@ -96,32 +100,58 @@ Item {
             }
         }
     }
-    EBText {
-        id: noticeText
+    Column {
+        id: noticePlace
         anchors {
             left: parent.left
             right: parent.right
             bottom: parent.bottom
-            leftMargin: 18
-            rightMargin: 14
+            leftMargin: 10
+            rightMargin: 10
             bottomMargin: 12
         }
         visible: sidebar.notice !== ""
-        text: sidebar.notice
-        role: "caption"
-        color: EB.inkMuted
-        horizontalAlignment: Text.AlignLeft
-        wrapMode: Text.Wrap
-        Accessible.role: Accessible.Notification
-        Accessible.name: text
-        Accessible.ignored: !visible
-        Accessible.onNameChanged: if (visible)
-            Announcer.announce(noticeText)
+        spacing: 6
+
+        EBText {
+            id: noticeText
+            x: 8
+            width: parent.width - x - 4
+            text: sidebar.notice
+            role: "caption"
+            color: EB.inkMuted
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.Notification
+            Accessible.name: text
+            Accessible.ignored: !visible
+            Accessible.onNameChanged: if (visible)
+                Announcer.announce(noticeText)
+        }
+        Flow {
+            width: parent.width
+            spacing: 4
+            visible: sidebar.answers.length > 0
+
+            Repeater {
+                model: sidebar.answers
+
+                EBButton {
+                    required property int index
+                    required property string modelData
+
+                    text: modelData
+                    variant: "secondary"
+                    size: "xs"
+                    onClicked: sidebar.answered(index)
+                }
+            }
+        }
     }
     // As high as the two lines beside it, and in line with the pages' glyphs.
     Mark {
         id: mark
-        visible: !noticeText.visible
+        visible: !noticePlace.visible
         anchors {
             left: parent.left
             leftMargin: 18

@@ -3,6 +3,8 @@
 #include "FailureReport.h"
 #include "ReferenceAgent.h"
 
+#include <QDir>
+
 namespace {
 
 constexpr int startTime = 30000; // milliseconds; the sanitizers and a busy machine make it long
@@ -43,6 +45,7 @@ void EndToEndTest::init()
     m_expectedLog.clear();
     commands().clear();
     store().removeAll();
+    QDir(desktop().session().stateFolder()).removeRecursively();
 }
 
 void EndToEndTest::cleanup()

@@ -25,7 +25,7 @@ class ReferenceAgent;
     QVERIFY2(variable, "no " #role " \"" name "\"")
 
 /// What every test of the running program has: a desktop session for all its functions, and for each function
-/// an empty store and a program that must end well and leave nothing in its log that was not expected.
+/// an empty store without a copy, and a program that must end well and leave nothing in its log that was not expected.
 class EndToEndTest : public QObject {
     Q_OBJECT
 public:

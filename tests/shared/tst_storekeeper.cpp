@@ -1,0 +1,256 @@
+#include "FakePlatform.h"
+#include "Shared.h"
+#include "StoreCopy.h"
+#include "StoreKeeper.h"
+#include "TestProgram.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using Trouble = UserDefaults::Trouble;
+
+class TestStoreKeeper : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void theCopyFollowsEveryChangeAndIsForThePersonAlone();
+    void theCopyIsWrittenAWhileAfterTheChangeAndOnce();
+    void whatTheAgentReportsIsNotCopied();
+    void whileChangesCannotBeStoredTheCopyStays();
+    void aStoreThatIsEmptyAlthoughThereIsACopyIsLost();
+    void aStoreWithAnythingOfOursIsNotLost();
+    void aStoreThatWasEmptiedWhileSomebodyCopiedIsNotLost();
+    void aDamagedCopyCountsAsNone();
+    void withoutAStateFolderNothingIsKept();
+    void lostSettingsStayLostUntilThePersonDecides();
+    void restoringStoresEveryValueAndTellsTheAgentOnce();
+    void settingsThatCannotBeRestoredStayLost();
+    void startingFreshForgetsTheLost();
+    void anotherProcessMayHaveDecided();
+
+private:
+    FakeUserDefaults &store() { return m_platform->suite("com.vexmoor.corvane"); }
+    QString file(const QString &name) const { return m_platform->state + '/' + name; }
+    QByteArray bytes(const QString &name) const;
+    std::optional<QVariantMap> copy() const { return StoreCopy::decode(bytes("settings.copy")); }
+    void lose(const QVariantMap &values);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    FakePlatform *m_platform = nullptr;
+};
+
+void TestStoreKeeper::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_platform = &FakePlatform::install();
+    m_platform->state = m_folder->filePath("state/of ours");
+}
+
+QByteArray TestStoreKeeper::bytes(const QString &name) const
+{
+    QFile content(file(name));
+    return content.open(QFile::ReadOnly) ? content.readAll() : QByteArray();
+}
+
+/// Leaves a copy of these values and a store without any.
+void TestStoreKeeper::lose(const QVariantMap &values)
+{
+    store().values = values;
+    StoreKeeper();
+    store().values.clear();
+}
+
+void TestStoreKeeper::theCopyFollowsEveryChangeAndIsForThePersonAlone()
+{
+    const QVariantMap before = {{"buttonTheme", "soft"}};
+    store().values = before;
+    {
+        const StoreKeeper keeper;
+        QTRY_COMPARE(copy(), before);
+        store().setValue("layouts.gap", 6.0);
+        // The end comes before the time to write.
+    }
+    const QVariantMap after = {{"buttonTheme", "soft"}, {"layouts.gap", 6.0}};
+    QCOMPARE(copy(), after);
+    const auto owners = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QCOMPARE(QFile::permissions(file("settings.copy")), owners);
+    QCOMPARE(QDir(m_platform->state).entryList(QDir::Files), QStringList{"settings.copy"});
+}
+
+void TestStoreKeeper::theCopyIsWrittenAWhileAfterTheChangeAndOnce()
+{
+    const StoreKeeper keeper;
+    QTRY_COMPARE(copy(), QVariantMap());
+    for (const char *theme : {"soft", "mono", "outline"})
+        store().setValue("buttonTheme", theme);
+    m_platform->queue.advance(1.9);
+    QCOMPARE(copy(), QVariantMap());
+    m_platform->queue.advance(0.1);
+    QTRY_COMPARE(copy(), (QVariantMap{{"buttonTheme", "outline"}}));
+    store().setValue("buttonTheme", "mono");
+    m_platform->queue.advance(2);
+    QTRY_COMPARE(copy(), (QVariantMap{{"buttonTheme", "mono"}}));
+}
+
+void TestStoreKeeper::whatTheAgentReportsIsNotCopied()
+{
+    store().values = {{"agent.accessibilityTrusted", true}, {"agent.launchAtLogin", true}, {"maximizeMode", "fill"}};
+    StoreKeeper();
+    QCOMPARE(copy(), (QVariantMap{{"maximizeMode", "fill"}}));
+}
+
+void TestStoreKeeper::whileChangesCannotBeStoredTheCopyStays()
+{
+    const QVariantMap before = {{"buttonTheme", "soft"}};
+    store().values = before;
+    for (const Trouble trouble : {Trouble::noRoom, Trouble::noStore}) {
+        const StoreKeeper keeper;
+        store().obstacle = trouble;
+        store().setValue("buttonTheme", "mono");
+    }
+    QCOMPARE(copy(), before);
+    const StoreKeeper keeper;
+    store().obstacle = Trouble::none;
+    store().retry();
+    m_platform->queue.advance(2);
+    QTRY_COMPARE(copy(), (QVariantMap{{"buttonTheme", "mono"}}));
+}
+
+void TestStoreKeeper::aStoreThatIsEmptyAlthoughThereIsACopyIsLost()
+{
+    QVERIFY(!StoreKeeper().hasLost());
+    lose({{"buttonTheme", "soft"}});
+    QVERIFY(StoreKeeper().hasLost());
+    QVERIFY(store().values.isEmpty());
+    QVERIFY(m_platform->notifications.posts.isEmpty());
+}
+
+void TestStoreKeeper::aStoreWithAnythingOfOursIsNotLost()
+{
+    lose({{"buttonTheme", "soft"}, {"layouts.gap", 6.0}});
+    store().values = {{"layouts.gap", 6.0}};
+    QVERIFY(!StoreKeeper().hasLost());
+    QCOMPARE(copy(), store().values);
+    // What the agent reports of itself is no setting.
+    store().values = {{"agent.accessibilityTrusted", true}};
+    QVERIFY(StoreKeeper().hasLost());
+}
+
+void TestStoreKeeper::aStoreThatWasEmptiedWhileSomebodyCopiedIsNotLost()
+{
+    store().values = {{"buttonTheme", "soft"}};
+    {
+        const StoreKeeper keeper;
+        store().values.clear();
+        store().storedChanged(QString());
+        QVERIFY(!keeper.hasLost());
+    }
+    QVERIFY(!StoreKeeper().hasLost());
+}
+
+void TestStoreKeeper::aDamagedCopyCountsAsNone()
+{
+    for (const QString name : {"settings.copy", "settings.lost"}) {
+        lose({{"buttonTheme", "soft"}});
+        if (name == "settings.lost")
+            StoreKeeper();
+        QVERIFY(QFile::resize(file(name), 90));
+        QVERIFY(!StoreKeeper().hasLost());
+    }
+    // A damaged one that was put aside hides no whole one.
+    lose({{"buttonTheme", "soft"}});
+    QVERIFY(StoreKeeper().hasLost());
+}
+
+void TestStoreKeeper::withoutAStateFolderNothingIsKept()
+{
+    m_platform->state.clear();
+    const QDir current;
+    const QStringList before = current.entryList();
+    lose({{"buttonTheme", "soft"}});
+    StoreKeeper keeper;
+    QVERIFY(!keeper.hasLost());
+    keeper.restore();
+    QVERIFY(store().values.isEmpty());
+    QCOMPARE(QDir().entryList(), before);
+}
+
+void TestStoreKeeper::lostSettingsStayLostUntilThePersonDecides()
+{
+    lose({{"buttonTheme", "soft"}});
+    {
+        const StoreKeeper keeper;
+        store().setValue("layouts.gap", 6.0);
+    }
+    StoreKeeper keeper;
+    QVERIFY(keeper.hasLost());
+    QCOMPARE(copy(), (QVariantMap{{"layouts.gap", 6.0}}));
+    keeper.restore();
+    QCOMPARE(store().values, (QVariantMap{{"buttonTheme", "soft"}, {"layouts.gap", 6.0}}));
+    QVERIFY(!StoreKeeper().hasLost());
+}
+
+void TestStoreKeeper::restoringStoresEveryValueAndTellsTheAgentOnce()
+{
+    const QVariantMap values = {{"buttonTheme", "soft"}, {"layouts.gap", 6.0}, {"onboardingCompleted", true}};
+    lose(values);
+    StoreKeeper keeper;
+    QSignalSpy spy(&keeper, &StoreKeeper::lostChanged);
+    store().isHanging = true;
+    keeper.restore();
+    QVERIFY(keeper.hasLost());
+    QVERIFY(m_platform->notifications.posts.isEmpty());
+    store().isHanging = false;
+    store().answer();
+    QCOMPARE(store().values, values);
+    QCOMPARE(m_platform->notifications.posts.size(), 1);
+    QCOMPARE(m_platform->notifications.posts.constFirst().userInfo, (QVariantMap{{"command", "applySettings"}}));
+    QVERIFY(!keeper.hasLost());
+    QCOMPARE(spy.size(), 1);
+    QVERIFY(!QFile::exists(file("settings.lost")));
+}
+
+void TestStoreKeeper::settingsThatCannotBeRestoredStayLost()
+{
+    lose({{"buttonTheme", "soft"}});
+    {
+        StoreKeeper keeper;
+        store().obstacle = Trouble::noRoom;
+        keeper.restore();
+        QVERIFY(keeper.hasLost());
+    }
+    QVERIFY(m_platform->notifications.posts.isEmpty());
+    QVERIFY(StoreKeeper().hasLost());
+    store().obstacle = Trouble::none;
+    store().retry();
+    QCOMPARE(store().values, (QVariantMap{{"buttonTheme", "soft"}}));
+}
+
+void TestStoreKeeper::startingFreshForgetsTheLost()
+{
+    lose({{"buttonTheme", "soft"}});
+    StoreKeeper keeper;
+    QSignalSpy spy(&keeper, &StoreKeeper::lostChanged);
+    keeper.startFresh();
+    QCOMPARE(spy.size(), 1);
+    QVERIFY(!keeper.hasLost());
+    QVERIFY(!StoreKeeper().hasLost());
+    QVERIFY(store().values.isEmpty());
+}
+
+void TestStoreKeeper::anotherProcessMayHaveDecided()
+{
+    lose({{"buttonTheme", "soft"}});
+    StoreKeeper keeper;
+    StoreKeeper other;
+    other.startFresh();
+    keeper.restore();
+    QVERIFY(!keeper.hasLost());
+    QVERIFY(store().values.isEmpty());
+}
+
+CORVANE_TEST(TestStoreKeeper, runInCore)
+#include "tst_storekeeper.moc"
