@@ -1,7 +1,12 @@
+#include "FakePlatform.h"
 #include "FakeUserDefaults.h"
 #include "LayoutStore.h"
 #include "Sample.h"
 #include "TestProgram.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QTemporaryDir>
 
 #include <functional>
 
@@ -79,6 +84,8 @@ class LayoutStoreTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init();
+
     void anAbsentValueIsAnEmptyListAndNothingIsWritten();
     void anotherTypeIsAnEmptyListAndNothingIsWritten_data();
     void anotherTypeIsAnEmptyListAndNothingIsWritten();
@@ -123,7 +130,41 @@ private slots:
     void theAgentOverwritesARename();
     void tenThousandLayoutsWithAMegabyteOfNameAreRenamedAndRemoved();
     void noOtherKeyIsTouched();
+
+    void aTextOfOthersIsKeptBeforeItIsReplaced_data();
+    void aTextOfOthersIsKeptBeforeItIsReplaced();
+    void aTextOfOursIsNotKept();
+    void aTextOfOthersIsKeptOnce();
+    void theLastFiveAreKept();
+    void withoutAStateFolderNothingIsKept();
+
+private:
+    QDir archive() const { return QDir(m_folder->filePath("state/layouts")); }
+    QStringList kept() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    FakePlatform *m_platform = nullptr;
 };
+
+void LayoutStoreTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_platform = &FakePlatform::install();
+    m_platform->state = m_folder->filePath("state");
+}
+
+/// The kept texts, the oldest first.
+QStringList LayoutStoreTest::kept() const
+{
+    QStringList texts;
+    const QDir archive = this->archive();
+    const QStringList names = archive.entryList({"*.json"}, QDir::Files, QDir::Name);
+    for (const QString &name : names) {
+        QFile file(archive.filePath(name));
+        texts.append(file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString());
+    }
+    return texts;
+}
 
 void LayoutStoreTest::anAbsentValueIsAnEmptyListAndNothingIsWritten()
 {
@@ -489,6 +530,74 @@ void LayoutStoreTest::noOtherKeyIsTouched()
     LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
     LayoutStore::remove(Sample::id, store);
     QCOMPARE(store.values, (QVariantMap{{key, QStringLiteral("[]")}, {QStringLiteral("layouts.gap"), 6.0}}));
+}
+
+void LayoutStoreTest::aTextOfOthersIsKeptBeforeItIsReplaced_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("fields of a newer agent") << textOf({a}).replace("[{", "[{\"hotkey\":5,");
+    QTest::newRow("a newer form") << R"({"version":2,"layouts":["é \" ' \\ 🦊"]})";
+    QTest::newRow("cut off") << Sample::text.chopped(10);
+    QTest::newRow("in our form") << textOf({a, b});
+}
+
+void LayoutStoreTest::aTextOfOthersIsKeptBeforeItIsReplaced()
+{
+    QFETCH(QString, stored);
+    WatchedStore store(stored);
+    const QDateTime before = QDateTime::currentDateTimeUtc();
+    LayoutStore::remove(Sample::id, store);
+    QCOMPARE(kept(), QStringList{stored});
+    const QString name = archive().entryList({"*.json"}).constFirst();
+    QDateTime moment = QDateTime::fromString(name.chopped(5), "yyyy-MM-dd-HHmmss-zzz");
+    moment.setTimeSpec(Qt::UTC);
+    QVERIFY(before <= moment && moment <= QDateTime::currentDateTimeUtc());
+    const auto owners = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QCOMPARE(QFile::permissions(archive().filePath(name)), owners);
+}
+
+void LayoutStoreTest::aTextOfOursIsNotKept()
+{
+    WatchedStore store;
+    LayoutStore::remove(Sample::id, store);
+    LayoutStore::restore({{0, a}, {1, b}}, store);
+    LayoutStore::rename(Sample::id, "new", store);
+    LayoutStore::remove(Sample::otherId, store);
+    QCOMPARE(kept(), QStringList());
+}
+
+void LayoutStoreTest::aTextOfOthersIsKeptOnce()
+{
+    const QString stored = u' ' + textOf({a});
+    WatchedStore store(stored);
+    store.obstacle = UserDefaults::Trouble::noRoom;
+    LayoutStore::load(store);
+    LayoutStore::load(store);
+    QCOMPARE(kept(), QStringList{stored});
+}
+
+void LayoutStoreTest::theLastFiveAreKept()
+{
+    QStringList texts;
+    WatchedStore store;
+    for (int i = 0; i < 7; ++i) {
+        texts.append(QString(i + 1, u' ') + textOf({a}));
+        store.values.insert(key, texts.constLast());
+        LayoutStore::load(store);
+        // Two of the same thousandth of a second would be one.
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        QTRY_VERIFY(QDateTime::currentDateTimeUtc() > now.addMSecs(1));
+    }
+    QCOMPARE(kept(), texts.sliced(2));
+}
+
+void LayoutStoreTest::withoutAStateFolderNothingIsKept()
+{
+    m_platform->state.clear();
+    WatchedStore store(QString(u' ' + textOf({a})));
+    LayoutStore::load(store);
+    QCOMPARE(store.saved(), textOf({a}));
+    QVERIFY(!QDir(m_folder->filePath("state")).exists());
 }
 
 CORVANE_TEST(LayoutStoreTest, runInCore)

@@ -1,5 +1,6 @@
 #include "LayoutStore.h"
 
+#include "LayoutArchive.h"
 #include "LayoutCoder.h"
 #include "Shared.h"
 #include "UserDefaults.h"
@@ -29,8 +30,11 @@ Stored read(const UserDefaults &store)
 bool replace(const Stored &before, const QList<SavedLayout> &layouts, UserDefaults &store)
 {
     const auto text = LayoutStore::encode(layouts);
-    if (text && before.value != *text)
+    if (text && before.value != *text) {
+        const bool isText = before.value.typeId() == QMetaType::QString;
+        LayoutArchive::beforeReplacing(isText ? before.value.toString() : QString(), *text);
         store.setValue(Shared::Key::layoutsSaved, *text);
+    }
     return text.has_value();
 }
 

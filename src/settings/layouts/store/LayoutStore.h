@@ -8,7 +8,8 @@ class UserDefaults;
 /// deletion back.
 ///
 /// Each write replaces the whole list: what the agent writes between a read and a write here is lost, the last writer
-/// wins. A list that cannot be encoded is not written, and the stored one stays as it is. Main thread only.
+/// wins. A text of others that is replaced is kept (LayoutArchive). A list that cannot be encoded is not written, and
+/// the stored one stays as it is. Main thread only.
 namespace LayoutStore {
 
 /// The stored layouts; none when nothing, another type or an unreadable text is stored, and that stays byte for byte.
