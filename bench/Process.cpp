@@ -51,8 +51,21 @@ Process::Process(const QString &program, const QStringList &arguments)
 
 Process::~Process()
 {
-    kill(m_pid, SIGKILL);
+    end(SIGKILL);
+}
+
+void Process::terminate()
+{
+    end(SIGTERM);
+}
+
+void Process::end(int signal)
+{
+    if (m_pid < 0)
+        return;
+    kill(m_pid, signal);
     waitpid(m_pid, nullptr, 0);
+    m_pid = -1;
 }
 
 double Process::memory() const

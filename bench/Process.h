@@ -14,6 +14,9 @@ public:
     Process(const Process &) = delete;
     Process &operator=(const Process &) = delete;
 
+    /// Asks it to end, and waits until it has.
+    void terminate();
+
     /// Proportional set size in MiB; 0 once the process has ended.
     double memory() const;
 
@@ -26,5 +29,7 @@ public:
     Activity activity() const;
 
 private:
+    void end(int signal);
+
     pid_t m_pid = -1;
 };
