@@ -509,6 +509,11 @@
         <source>Delete %1</source>
         <translation>حذف %1</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a layout in the list, and how many there are.</extracomment>
+        <translation>%1 من %2</translation>
+    </message>
 </context>
 <context>
     <name>LayoutsModel</name>
@@ -872,6 +877,29 @@ Version %2</source>
         <extracomment>%1 is the product&apos;s name, %2 its version.</extracomment>
         <translation>%1
 الإصدار %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreTrouble</name>
+    <message>
+        <source>Changes last only until you close this window: there is nothing to save them in.</source>
+        <translation>تدوم التغييرات حتى إغلاق هذه النافذة فقط: لا مكان لحفظها.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service doesn&apos;t answer.</source>
+        <translation>لا يمكن حفظ التغييرات: خدمة الإعدادات لا تستجيب.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the disk is full or read-only.</source>
+        <translation>لا يمكن حفظ التغييرات: القرص ممتلئ أو للقراءة فقط.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be changed: your administrator has locked it.</source>
+        <translation>لا يمكن تغيير هذا: قفله مسؤول النظام.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service stores them elsewhere.</source>
+        <translation>لا يمكن حفظ التغييرات: تخزّنها خدمة الإعدادات في مكان آخر.</translation>
     </message>
 </context>
 <context>

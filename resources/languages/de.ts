@@ -505,6 +505,11 @@
         <source>Delete %1</source>
         <translation>%1 löschen</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a layout in the list, and how many there are.</extracomment>
+        <translation>%1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>LayoutsModel</name>
@@ -868,6 +873,29 @@ Version %2</source>
         <extracomment>%1 is the product&apos;s name, %2 its version.</extracomment>
         <translation>%1
 Version %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreTrouble</name>
+    <message>
+        <source>Changes last only until you close this window: there is nothing to save them in.</source>
+        <translation>Änderungen gelten nur, bis Sie dieses Fenster schließen: Es gibt nichts, worin sie gesichert werden könnten.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service doesn&apos;t answer.</source>
+        <translation>Änderungen können nicht gesichert werden: Der Einstellungsdienst antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the disk is full or read-only.</source>
+        <translation>Änderungen können nicht gesichert werden: Der Datenträger ist voll oder schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be changed: your administrator has locked it.</source>
+        <translation>Das kann nicht geändert werden: Ihre Systemverwaltung hat es gesperrt.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service stores them elsewhere.</source>
+        <translation>Änderungen können nicht gesichert werden: Der Einstellungsdienst legt sie anderswo ab.</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,11 @@
         <source>Delete %1</source>
         <translation>Eliminar %1</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a layout in the list, and how many there are.</extracomment>
+        <translation>%1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>LayoutsModel</name>
@@ -868,6 +873,29 @@ Version %2</source>
         <extracomment>%1 is the product&apos;s name, %2 its version.</extracomment>
         <translation>%1
 Versión %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreTrouble</name>
+    <message>
+        <source>Changes last only until you close this window: there is nothing to save them in.</source>
+        <translation>Los cambios solo duran hasta que cierre esta ventana: no hay dónde guardarlos.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service doesn&apos;t answer.</source>
+        <translation>No se pueden guardar los cambios: el servicio de configuración no responde.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the disk is full or read-only.</source>
+        <translation>No se pueden guardar los cambios: el disco está lleno o es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be changed: your administrator has locked it.</source>
+        <translation>Esto no se puede cambiar: su administrador lo ha bloqueado.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service stores them elsewhere.</source>
+        <translation>No se pueden guardar los cambios: el servicio de configuración los guarda en otro lugar.</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,11 @@
         <source>Delete %1</source>
         <translation>Supprimer %1</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a layout in the list, and how many there are.</extracomment>
+        <translation>%1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>LayoutsModel</name>
@@ -868,6 +873,29 @@ Version %2</source>
         <extracomment>%1 is the product&apos;s name, %2 its version.</extracomment>
         <translation>%1
 Version %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreTrouble</name>
+    <message>
+        <source>Changes last only until you close this window: there is nothing to save them in.</source>
+        <translation>Les modifications ne durent que jusqu’à la fermeture de cette fenêtre&#xa0;: il n’y a rien où les enregistrer.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service doesn&apos;t answer.</source>
+        <translation>Impossible d’enregistrer les modifications&#xa0;: le service des paramètres ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the disk is full or read-only.</source>
+        <translation>Impossible d’enregistrer les modifications&#xa0;: le disque est plein ou en lecture seule.</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be changed: your administrator has locked it.</source>
+        <translation>Cela ne peut pas être modifié&#xa0;: votre administrateur l’a verrouillé.</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service stores them elsewhere.</source>
+        <translation>Impossible d’enregistrer les modifications&#xa0;: le service des paramètres les stocke ailleurs.</translation>
     </message>
 </context>
 <context>

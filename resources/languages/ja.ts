@@ -504,6 +504,11 @@
         <source>Delete %1</source>
         <translation>%1を削除</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a layout in the list, and how many there are.</extracomment>
+        <translation>%1/%2</translation>
+    </message>
 </context>
 <context>
     <name>LayoutsModel</name>
@@ -867,6 +872,29 @@ Version %2</source>
         <extracomment>%1 is the product&apos;s name, %2 its version.</extracomment>
         <translation>%1
 バージョン%2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreTrouble</name>
+    <message>
+        <source>Changes last only until you close this window: there is nothing to save them in.</source>
+        <translation>変更はこのウィンドウを閉じるまでの間だけ有効です。保存先がありません。</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service doesn&apos;t answer.</source>
+        <translation>変更を保存できません。設定サービスが応答しません。</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the disk is full or read-only.</source>
+        <translation>変更を保存できません。ディスクがいっぱいか、読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be changed: your administrator has locked it.</source>
+        <translation>これは変更できません。管理者がロックしています。</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service stores them elsewhere.</source>
+        <translation>変更を保存できません。設定サービスが別の場所に保存しています。</translation>
     </message>
 </context>
 <context>

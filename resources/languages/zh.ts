@@ -504,6 +504,11 @@
         <source>Delete %1</source>
         <translation>删除%1</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a layout in the list, and how many there are.</extracomment>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
 </context>
 <context>
     <name>LayoutsModel</name>
@@ -867,6 +872,29 @@ Version %2</source>
         <extracomment>%1 is the product&apos;s name, %2 its version.</extracomment>
         <translation>%1
 版本 %2</translation>
+    </message>
+</context>
+<context>
+    <name>StoreTrouble</name>
+    <message>
+        <source>Changes last only until you close this window: there is nothing to save them in.</source>
+        <translation>更改仅在关闭此窗口前有效：没有可保存的位置。</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service doesn&apos;t answer.</source>
+        <translation>无法保存更改：设置服务没有响应。</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the disk is full or read-only.</source>
+        <translation>无法保存更改：磁盘已满或为只读。</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be changed: your administrator has locked it.</source>
+        <translation>无法更改此项：管理员已将其锁定。</translation>
+    </message>
+    <message>
+        <source>Changes can&apos;t be saved: the settings service stores them elsewhere.</source>
+        <translation>无法保存更改：设置服务将其存储在别处。</translation>
     </message>
 </context>
 <context>
