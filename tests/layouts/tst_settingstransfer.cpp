@@ -88,14 +88,14 @@ void SettingsTransferTest::exportResetAndImportGiveTheSameStore()
         store.setValue(key.name, value);
         before.insert(key.name, value);
     }
-    QVERIFY(store.finishWrites(5s));
+    QVERIFY(store.finishWrites(60s));
     const auto taken = SettingsTransfer::exportFrom(store);
     QCOMPARE(taken.omitted.size(), 0);
     for (const Contract::StoreKey &key : Contract::storeKeys()) {
         if (!Contract::isAgentState(key.name))
             store.setValue(key.name, QVariant());
     }
-    QVERIFY(SettingsTransfer::apply(SettingsTransfer::changes(carried(taken.settings), store), store, 5s));
+    QVERIFY(SettingsTransfer::apply(SettingsTransfer::changes(carried(taken.settings), store), store, 60s));
     const DconfUserDefaults reader(Shared::suiteName);
     for (const Contract::StoreKey &key : Contract::storeKeys()) {
         const QVariant value = reader.value(key.name);

@@ -316,7 +316,7 @@ void AgentCheck::settle() const
     m_bus.call(QDBusMessage::createMethodCall(m_owner, QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer"),
                                               QStringLiteral("Ping")),
                QDBus::Block, slowest);
-    const QDeadlineTimer deadline(150ms);
+    const QDeadlineTimer deadline(300ms);
     while (!deadline.hasExpired()) {
         lookAround();
     }
