@@ -57,7 +57,7 @@ void AgentCheckTest::cleanup()
 
 void AgentCheckTest::anAgentThatBreaksNoRulePasses()
 {
-    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {}, 20s).run();
+    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {}, 20s, 20s).run();
     QCOMPARE(rules.size(), 8);
     QCOMPARE(faults(rules), QString());
 }
@@ -78,13 +78,13 @@ void AgentCheckTest::anAgentThatBreaksARuleFailsOnThatOne()
 {
     QFETCH(QString, rule);
     QFETCH(std::chrono::milliseconds, patience);
-    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {rule}, patience).run({rule});
+    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {rule}, patience, rule == "name" ? patience : 20s).run({rule});
     QCOMPARE(broken(rules), QStringList{rule});
 }
 
 void AgentCheckTest::aProgramThatEndsIsNoAgent()
 {
-    const auto rules = AgentCheck("/bin/true", {}, 20s).run();
+    const auto rules = AgentCheck("/bin/true", {}, 20s, 20s).run();
     QCOMPARE(rules.size(), 1);
     QCOMPARE(faults(rules), "it ended before it held the name");
 }

@@ -38,10 +38,12 @@ QVariantMap command(const QString &name)
 
 }
 
-AgentCheck::AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience)
+AgentCheck::AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience,
+                       std::chrono::milliseconds startPatience)
     : m_program(std::move(program)),
       m_arguments(std::move(arguments)),
       m_patience(patience),
+      m_startPatience(startPatience),
       m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("corvane-check")))
 {
 }
@@ -97,7 +99,7 @@ void AgentCheck::revive()
     if (m_agent && m_agent->state() != QProcess::NotRunning && owner() == m_owner)
         return;
     m_agent = start();
-    waitFor([this] { return !owner().isEmpty() || m_agent->state() == QProcess::NotRunning; });
+    waitFor([this] { return !owner().isEmpty() || m_agent->state() == QProcess::NotRunning; }, m_startPatience);
     m_owner = owner();
 }
 
@@ -131,7 +133,8 @@ void AgentCheck::checkOne()
 {
     begin("one", "a second one ends, and the first keeps the name");
     const Process second = start();
-    expect(waitFor([&] { return second->state() == QProcess::NotRunning; }), QStringLiteral("the second one runs on"));
+    expect(waitFor([&] { return second->state() == QProcess::NotRunning; }, m_patience),
+           QStringLiteral("the second one runs on"));
     settle();
     expectAlive(QStringLiteral("a second one was started"));
 }
@@ -268,7 +271,7 @@ bool AgentCheck::setLogin(bool on, const QVariantMap &extras) const
     QVariantMap userInfo = {{commandEntry, Shared::Command::setLaunchAtLogin}, {valueEntry, on}};
     userInfo.insert(extras);
     post(userInfo);
-    return waitFor([&] { return isRegistered() == on; });
+    return waitFor([&] { return isRegistered() == on; }, m_patience);
 }
 
 bool AgentCheck::isRegistered() const
@@ -298,9 +301,9 @@ QString AgentCheck::owner() const
     return m_bus.interface()->serviceOwner(Contract::agentName).value();
 }
 
-bool AgentCheck::waitFor(const std::function<bool()> &condition) const
+bool AgentCheck::waitFor(const std::function<bool()> &condition, std::chrono::milliseconds limit)
 {
-    const QDeadlineTimer deadline(m_patience);
+    const QDeadlineTimer deadline(limit);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;

@@ -21,8 +21,9 @@ public:
         QStringList faults;
     };
 
-    /// `patience` is how long the agent may take for a thing that it has to do.
-    AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience);
+    /// `patience` is how long the agent may take for a thing that it has to do, `startPatience` for its start.
+    AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience,
+               std::chrono::milliseconds startPatience);
     ~AgentCheck();
 
     /// Starts the agent, tries every rule, or only those of these names, and ends the agent. The rule "name" comes
@@ -64,13 +65,14 @@ private:
     /// left.
     QStringList changedAfter(const QVariantMap &values) const;
     QString owner() const;
-    bool waitFor(const std::function<bool()> &condition) const;
+    static bool waitFor(const std::function<bool()> &condition, std::chrono::milliseconds limit);
     /// Gives the agent time to do what it should not.
     void settle() const;
 
     const QString m_program;
     const QStringList m_arguments;
     const std::chrono::milliseconds m_patience;
+    const std::chrono::milliseconds m_startPatience;
     QDBusConnection m_bus;
     Process m_agent;
     QString m_owner;

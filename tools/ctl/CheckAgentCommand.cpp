@@ -34,7 +34,7 @@ int CheckAgentCommand::run(const Call &call)
     const TrialSession session;
     if (!session.isValid())
         return Output::failure(call, QStringLiteral("no session can be made: dbus-daemon does not start"));
-    const QList<AgentCheck::Rule> rules = AgentCheck(program, call.operands.sliced(1), 10s).run();
+    const QList<AgentCheck::Rule> rules = AgentCheck(program, call.operands.sliced(1), 10s, 30s).run();
 
     QJsonArray array;
     for (const AgentCheck::Rule &rule : rules) {
