@@ -471,6 +471,38 @@
     </message>
 </context>
 <context>
+    <name>ImportSheet</name>
+    <message>
+        <source>Import these settings?</source>
+        <translation>هل تريد استيراد هذه الإعدادات؟</translation>
+    </message>
+    <message>
+        <source>Nothing to import</source>
+        <translation>لا شيء للاستيراد</translation>
+    </message>
+    <message>
+        <source>Everything in this file is set already.</source>
+        <translation>كل ما في هذا الملف مضبوط بالفعل.</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <extracomment>%1 is the value that a setting has before an import.</extracomment>
+        <translation>الآن: %1</translation>
+    </message>
+    <message>
+        <source>The settings can&apos;t be saved. Nothing was imported.</source>
+        <translation>يتعذر حفظ الإعدادات. لم يتم استيراد أي شيء.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استيراد</translation>
+    </message>
+</context>
+<context>
     <name>KeySymbols</name>
     <message>
         <source> to </source>
@@ -744,6 +776,26 @@
     <message>
         <source>In Mission Control, click Save current, or a template.</source>
         <translation>في Mission Control، انقر «حفظ الحالي» أو أحد القوالب.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Look</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>Shortcut %1</source>
+        <extracomment>%1 is the keys of a shortcut.</extracomment>
+        <translation>الاختصار %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>مشغّل</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>متوقف</translation>
     </message>
 </context>
 <context>

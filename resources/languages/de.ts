@@ -471,6 +471,38 @@
     </message>
 </context>
 <context>
+    <name>ImportSheet</name>
+    <message>
+        <source>Import these settings?</source>
+        <translation>Diese Einstellungen importieren?</translation>
+    </message>
+    <message>
+        <source>Nothing to import</source>
+        <translation>Nichts zu importieren</translation>
+    </message>
+    <message>
+        <source>Everything in this file is set already.</source>
+        <translation>Alles aus dieser Datei ist schon eingestellt.</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <extracomment>%1 is the value that a setting has before an import.</extracomment>
+        <translation>Jetzt: %1</translation>
+    </message>
+    <message>
+        <source>The settings can&apos;t be saved. Nothing was imported.</source>
+        <translation>Die Einstellungen lassen sich nicht sichern. Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+</context>
+<context>
     <name>KeySymbols</name>
     <message>
         <source> to </source>
@@ -740,6 +772,26 @@
     <message>
         <source>In Mission Control, click Save current, or a template.</source>
         <translation>Klicken Sie in Mission Control auf „Aktuelle sichern“ oder auf eine Vorlage.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Shortcut %1</source>
+        <extracomment>%1 is the keys of a shortcut.</extracomment>
+        <translation>Tastenkürzel %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
     </message>
 </context>
 <context>

@@ -471,6 +471,38 @@
     </message>
 </context>
 <context>
+    <name>ImportSheet</name>
+    <message>
+        <source>Import these settings?</source>
+        <translation>¿Importar estos ajustes?</translation>
+    </message>
+    <message>
+        <source>Nothing to import</source>
+        <translation>Nada que importar</translation>
+    </message>
+    <message>
+        <source>Everything in this file is set already.</source>
+        <translation>Todo lo que contiene este archivo ya está ajustado.</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <extracomment>%1 is the value that a setting has before an import.</extracomment>
+        <translation>Ahora: %1</translation>
+    </message>
+    <message>
+        <source>The settings can&apos;t be saved. Nothing was imported.</source>
+        <translation>No se pueden guardar los ajustes. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+</context>
+<context>
     <name>KeySymbols</name>
     <message>
         <source> to </source>
@@ -740,6 +772,26 @@
     <message>
         <source>In Mission Control, click Save current, or a template.</source>
         <translation>En Mission Control, haga clic en «Guardar la actual» o en una plantilla.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Look</source>
+        <translation>Aspecto</translation>
+    </message>
+    <message>
+        <source>Shortcut %1</source>
+        <extracomment>%1 is the keys of a shortcut.</extracomment>
+        <translation>Atajo %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
     </message>
 </context>
 <context>

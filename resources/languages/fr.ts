@@ -471,6 +471,38 @@
     </message>
 </context>
 <context>
+    <name>ImportSheet</name>
+    <message>
+        <source>Import these settings?</source>
+        <translation>Importer ces réglages&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Nothing to import</source>
+        <translation>Rien à importer</translation>
+    </message>
+    <message>
+        <source>Everything in this file is set already.</source>
+        <translation>Tout ce que contient ce fichier est déjà réglé.</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <extracomment>%1 is the value that a setting has before an import.</extracomment>
+        <translation>Actuellement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The settings can&apos;t be saved. Nothing was imported.</source>
+        <translation>Impossible d’enregistrer les réglages. Rien n’a été importé.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+</context>
+<context>
     <name>KeySymbols</name>
     <message>
         <source> to </source>
@@ -740,6 +772,26 @@
     <message>
         <source>In Mission Control, click Save current, or a template.</source>
         <translation>Dans Mission Control, cliquez sur «&#xa0;Enregistrer l’actuelle&#xa0;» ou sur un modèle.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Look</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Shortcut %1</source>
+        <extracomment>%1 is the keys of a shortcut.</extracomment>
+        <translation>Raccourci %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
     </message>
 </context>
 <context>

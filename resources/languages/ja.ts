@@ -471,6 +471,38 @@
     </message>
 </context>
 <context>
+    <name>ImportSheet</name>
+    <message>
+        <source>Import these settings?</source>
+        <translation>これらの設定を読み込みますか？</translation>
+    </message>
+    <message>
+        <source>Nothing to import</source>
+        <translation>読み込むものはありません</translation>
+    </message>
+    <message>
+        <source>Everything in this file is set already.</source>
+        <translation>このファイルの内容はすべて設定済みです。</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <extracomment>%1 is the value that a setting has before an import.</extracomment>
+        <translation>現在：%1</translation>
+    </message>
+    <message>
+        <source>The settings can&apos;t be saved. Nothing was imported.</source>
+        <translation>設定を保存できません。何も読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>読み込む</translation>
+    </message>
+</context>
+<context>
     <name>KeySymbols</name>
     <message>
         <source> to </source>
@@ -739,6 +771,26 @@
     <message>
         <source>In Mission Control, click Save current, or a template.</source>
         <translation>Mission Controlで「現在の配置を保存」またはテンプレートをクリックします。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Look</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>Shortcut %1</source>
+        <extracomment>%1 is the keys of a shortcut.</extracomment>
+        <translation>ショートカット %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
     </message>
 </context>
 <context>

@@ -471,6 +471,38 @@
     </message>
 </context>
 <context>
+    <name>ImportSheet</name>
+    <message>
+        <source>Import these settings?</source>
+        <translation>要导入这些设置吗？</translation>
+    </message>
+    <message>
+        <source>Nothing to import</source>
+        <translation>没有可导入的内容</translation>
+    </message>
+    <message>
+        <source>Everything in this file is set already.</source>
+        <translation>此文件中的所有内容均已设置。</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <extracomment>%1 is the value that a setting has before an import.</extracomment>
+        <translation>当前：%1</translation>
+    </message>
+    <message>
+        <source>The settings can&apos;t be saved. Nothing was imported.</source>
+        <translation>无法存储设置。未导入任何内容。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+</context>
+<context>
     <name>KeySymbols</name>
     <message>
         <source> to </source>
@@ -739,6 +771,26 @@
     <message>
         <source>In Mission Control, click Save current, or a template.</source>
         <translation>在 Mission Control 中，点按“保存当前布局”或一个模板。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingWords</name>
+    <message>
+        <source>Look</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Shortcut %1</source>
+        <extracomment>%1 is the keys of a shortcut.</extracomment>
+        <translation>快捷键 %1</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
