@@ -63,6 +63,14 @@
         <source>Continue</source>
         <translation>متابعة</translation>
     </message>
+    <message>
+        <source>Corvane is not running.</source>
+        <translation>‏Corvane لا يعمل.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>أعد المحاولة</translation>
+    </message>
 </context>
 <context>
     <name>BackButton</name>
@@ -796,6 +804,21 @@
     <message>
         <source>Off</source>
         <translation>متوقف</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppDelegate</name>
+    <message>
+        <source>Your settings are gone.</source>
+        <translation>فُقدت إعداداتك.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>استعادة</translation>
+    </message>
+    <message>
+        <source>Start Fresh</source>
+        <translation>بدء جديد</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,14 @@
         <source>Continue</source>
         <translation>Weiter</translation>
     </message>
+    <message>
+        <source>Corvane is not running.</source>
+        <translation>Corvane läuft nicht.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
 </context>
 <context>
     <name>BackButton</name>
@@ -792,6 +800,21 @@
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppDelegate</name>
+    <message>
+        <source>Your settings are gone.</source>
+        <translation>Ihre Einstellungen sind weg.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Start Fresh</source>
+        <translation>Neu beginnen</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,14 @@
         <source>Continue</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>Corvane is not running.</source>
+        <translation>Corvane no está en ejecución.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
 </context>
 <context>
     <name>BackButton</name>
@@ -792,6 +800,21 @@
     <message>
         <source>Off</source>
         <translation>Desactivado</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppDelegate</name>
+    <message>
+        <source>Your settings are gone.</source>
+        <translation>Sus ajustes han desaparecido.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Start Fresh</source>
+        <translation>Empezar de nuevo</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,14 @@
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
+    <message>
+        <source>Corvane is not running.</source>
+        <translation>Corvane n’est pas en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
 </context>
 <context>
     <name>BackButton</name>
@@ -792,6 +800,21 @@
     <message>
         <source>Off</source>
         <translation>Désactivé</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppDelegate</name>
+    <message>
+        <source>Your settings are gone.</source>
+        <translation>Vos réglages ont disparu.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Start Fresh</source>
+        <translation>Repartir de zéro</translation>
     </message>
 </context>
 <context>

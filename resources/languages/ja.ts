@@ -63,6 +63,14 @@
         <source>Continue</source>
         <translation>続ける</translation>
     </message>
+    <message>
+        <source>Corvane is not running.</source>
+        <translation>Corvane は実行されていません。</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
 </context>
 <context>
     <name>BackButton</name>
@@ -791,6 +799,21 @@
     <message>
         <source>Off</source>
         <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppDelegate</name>
+    <message>
+        <source>Your settings are gone.</source>
+        <translation>設定が失われています。</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>Start Fresh</source>
+        <translation>最初から始める</translation>
     </message>
 </context>
 <context>

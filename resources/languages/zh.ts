@@ -63,6 +63,14 @@
         <source>Continue</source>
         <translation>继续</translation>
     </message>
+    <message>
+        <source>Corvane is not running.</source>
+        <translation>Corvane 未在运行。</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
 </context>
 <context>
     <name>BackButton</name>
@@ -791,6 +799,21 @@
     <message>
         <source>Off</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsAppDelegate</name>
+    <message>
+        <source>Your settings are gone.</source>
+        <translation>您的设置已丢失。</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Start Fresh</source>
+        <translation>重新开始</translation>
     </message>
 </context>
 <context>
