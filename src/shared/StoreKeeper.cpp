@@ -88,7 +88,10 @@ void StoreKeeper::write()
     // One after the other, or an older copy might come last.
     if (m_writing.valid())
         m_writing.wait();
-    m_writing = std::async(std::launch::async, [copy = m_copy, values = values()] {
+    const QVariantMap values = StoreKeeper::values();
+    if (values.isEmpty() && !m_copy.exists())
+        return;
+    m_writing = std::async(std::launch::async, [copy = m_copy, values] {
         const QByteArray content = StoreCopy::encode(values);
         if (copy.read() != content)
             copy.write(content);

@@ -18,7 +18,7 @@ class EBSettingsWindowController::Model : public QObject {
     /// What the person is told whatever page is shown; usually nothing.
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
     /// What the person can answer to that, if anything.
-    Q_PROPERTY(QStringList answers READ answers NOTIFY noticeChanged)
+    Q_PROPERTY(QList<QString> answers READ answers NOTIFY noticeChanged)
 public:
     Model(QList<EBSettingsPage> pages, const std::optional<QString> &initial, QObject *parent);
 
