@@ -4,6 +4,7 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDBusServer>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
@@ -131,16 +132,25 @@ public:
         while (!m_theirs)
             QCoreApplication::processEvents();
         m_thread.start();
+        // The new connection is only heard once the server's thread, which is this one, has run some more events.
+        const QDBusPendingCall first = m_ours->asyncCall(question());
+        while (!first.isFinished())
+            QCoreApplication::processEvents();
     }
 
     QDBusMessage ask(const QVariantList &answer)
     {
         m_portal.answer = answer;
-        return m_ours->call(QDBusMessage::createMethodCall(QString(), QStringLiteral("/"), QStringLiteral("a.b"),
-                                                           QStringLiteral("Ask")));
+        return m_ours->call(question());
     }
 
 private:
+    static QDBusMessage question()
+    {
+        return QDBusMessage::createMethodCall(QString(), QStringLiteral("/"), QStringLiteral("a.b"),
+                                              QStringLiteral("Ask"));
+    }
+
     QThread m_thread;
     Portal m_portal;
     QDBusServer m_server{QStringLiteral("unix:tmpdir=/tmp")};
