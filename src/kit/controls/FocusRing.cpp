@@ -39,6 +39,6 @@ void FocusRing::fit()
 
 void FocusRing::paint(QPainter *painter)
 {
-    const QColor color = m_onLoud ? m_environment->onLoud() : m_environment->accent();
+    const QColor color = m_loud ? m_environment->onLoud() : m_environment->accent();
     paintContinuousRect(painter, pixelBounds(), m_radius, Qt::transparent, color, KitMetric::ringWidth);
 }

@@ -14,7 +14,7 @@ class FocusRing : public CrispItem {
     /// Of the ring's outer edge, in points; half the short side and beyond gives half circles, as unless it is set.
     Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY changed)
     /// It stands on the product's loud colour, where the accent would be lost.
-    Q_PROPERTY(bool onLoud MEMBER m_onLoud NOTIFY changed)
+    Q_PROPERTY(bool loud MEMBER m_loud NOTIFY changed)
 public:
     explicit FocusRing(QQuickItem *parent = nullptr);
 
@@ -35,5 +35,5 @@ private:
     FocusItem *m_control = nullptr;
     EBEnvironment *m_environment = nullptr;
     qreal m_radius = std::numeric_limits<qreal>::infinity();
-    bool m_onLoud = false;
+    bool m_loud = false;
 };

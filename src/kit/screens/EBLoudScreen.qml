@@ -159,7 +159,7 @@ FocusScope {
             FocusRing {
                 z: 1
                 control: main
-                onLoud: true
+                loud: true
             }
         }
         QuietButton {

@@ -18,6 +18,6 @@ Pressable {
     FocusRing {
         control: button
         radius: 6
-        onLoud: true
+        loud: true
     }
 }

@@ -25,7 +25,7 @@ Pressable {
 
         FocusRing {
             control: button
-            onLoud: button.loudGround
+            loud: button.loudGround
         }
     }
     contentItem: Glyph {
