@@ -44,8 +44,8 @@ private:
     /// Turns a switch on, and returns the different pictures of it that were seen until it was `accent` all over.
     QList<QImage> picturesOfAFlip(const QColor &accent);
 
-    /// Makes the page grow by a row and shrink again, and returns every height the window had while it shrank.
-    QSet<int> heightsWhileARowGoes();
+    /// Makes the page grow by a row and shrink again, and returns every height the window had until it was small again.
+    QSet<int> heightsWhileARowGoes(int small);
 
 private slots:
     void isLightWithoutAPortal();
@@ -216,10 +216,9 @@ void TestAppearance::reducedMotionIsReadAtTheMomentOfTheFlip()
     QCOMPARE(picturesOfAFlip(darkIndigo).size(), 2);
 }
 
-QSet<int> TestAppearance::heightsWhileARowGoes()
+QSet<int> TestAppearance::heightsWhileARowGoes(int small)
 {
     const QString needsApproval = u"agent.launchAtLoginNeedsApproval"_s;
-    const int small = window()->geometry().height();
     const auto isAtRest = [this] { return window()->minimumSize() == window()->geometry().size(); };
     store().write(needsApproval, true);
     // A rule and a row of their own, of 40 points at least.
@@ -237,8 +236,9 @@ void TestAppearance::theWindowShrinksByDegrees()
 {
     QVERIFY(open());
     const QPoint corner = window()->geometry().topLeft();
+    const int small = window()->geometry().height();
     // A busy machine may skip the frames in between, though not every time.
-    QVERIFY(QTest::qWaitFor([this] { return heightsWhileARowGoes().size() > 2; }));
+    QVERIFY(QTest::qWaitFor([&] { return heightsWhileARowGoes(small).size() > 2; }));
     QCOMPARE(window()->geometry().topLeft(), corner);
 }
 
@@ -247,7 +247,7 @@ void TestAppearance::theWindowShrinksAtOnceWithReducedMotion()
     const SettingsPortal portal(settings({{reducedMotion, on}}));
     QVERIFY(open());
     const QPoint corner = window()->geometry().topLeft();
-    QCOMPARE(heightsWhileARowGoes().size(), 2);
+    QCOMPARE(heightsWhileARowGoes(window()->geometry().height()).size(), 2);
     QCOMPARE(window()->geometry().topLeft(), corner);
 }
 
