@@ -126,7 +126,7 @@ def monsters(world, random, share):
     process, window = world.open()
     for key, text in texts.items():
         world.load(f"[/]\n{key}='{text}'\n")
-        world.answers(process, window, 5)
+        world.answers(process, window)
     world.kill(process)
     for page in ("buttons", "layouts"):
         process, _ = world.open(page=page)
@@ -168,7 +168,7 @@ def no_bus(world, _random, _share):
         begin = time.monotonic()
         process, window = world.open(DBUS_SESSION_BUS_ADDRESS=address)
         slow.append(f"{name} {time.monotonic() - begin:.1f} s")
-        world.answers(process, window, 5)
+        world.answers(process, window)
         world.kill(process)
     mute.close()
     return "a window with " + ", ".join(slow)
@@ -186,7 +186,7 @@ def bus_killed(world, random, share):
         time.sleep(random.uniform(0, 0.4))
         bus.kill()
         window = world.window(process)
-        world.answers(process, window, 5)
+        world.answers(process, window)
         world.kill(process)
     world.environment["DBUS_SESSION_BUS_ADDRESS"] = address
     return f"{count} times within 0.4 s of the start: {count} windows, which answer"
@@ -201,7 +201,7 @@ def false_portal(world, random, share):
         anybody.setting_changed("org.freedesktop.appearance", "color-scheme", "u", struct.pack("<I", random.randint(0, 2)))
     for number in range(large):
         anybody.setting_changed("org.example", f"key{number}", "s", string("x" * 5_000_000))
-    world.answers(process, window, 5)
+    world.answers(process, window)
     more = memory(process) - before
     if more > 40:
         raise Lost(f"{more:.0f} MiB more")
@@ -214,7 +214,7 @@ def closed_streams(world, _random, share):
         for _ in range(tries(6, share)):
             process = world.start("sh", "-c", f'exec {closed}; exec "$0"', str(APPLICATION / PROGRAM), CV_TAB="buttons",
                                   QT_LOGGING_RULES="*.debug=true", QT_MESSAGE_PATTERN="x")
-            world.answers(process, world.window(process), 5)
+            world.answers(process, world.window(process))
             world.kill(process)
             count += 1
     return f"{count} starts without standard streams, all of Qt's messages on: {count} windows"
@@ -226,7 +226,7 @@ def signals(world, _random, _share):
         process, window = world.open()
         before = world.stored()
         world.click(window, SWITCH)
-        until(lambda: world.stored() != before, "the flip is not stored", 10)
+        until(lambda: world.stored() != before, "the flip is not stored", 20)
         world.kill(process, getattr(signal, name))
     process, window = world.open()
     for name in ("SIGPIPE", "SIGCONT", "SIGWINCH"):
@@ -245,7 +245,7 @@ def starts_at_once(world, _random, share):
     except NotSeen:
         raise Lost(f"{sum(process.poll() is None for process in processes)} run") from None
     last = next(process for process in processes if process.poll() is None)
-    world.answers(last, world.window(last), 5)
+    world.answers(last, world.window(last))
     if any(process.returncode for process in processes):
         raise Lost(f"ended with {[process.returncode for process in processes]}")
     return f"{count} starts: one window, the others end well"
@@ -266,7 +266,7 @@ def pipes_and_giants(world, _random, _share):
                for i in range(3)]
     world.load("[/]\nlayouts.saved='%s'\n" % json.dumps(layouts))
     process, window = world.open(page="layouts")
-    world.answers(process, window, 5)
+    world.answers(process, window)
     return "an icon and an entry that are pipes, an entry of 3 GB: the window answers"
 
 
@@ -277,7 +277,7 @@ def odd_bundles(world, _random, _share):
         shutil.copytree(os.fsencode(BUNDLE), bundle + b"/Contents", symlinks=True)
         inside = os.fsencode(pathlib.Path("Contents", "Helpers", "Corvane Settings.app") / PROGRAM)
         process, window = world.open(program=os.fsdecode(bundle + b"/" + inside))
-        world.answers(process, window, 5)
+        world.answers(process, window)
         world.kill(process)
         shutil.rmtree(bundle)
     return f"{len(names)} names of bundles, one of them no UTF-8: {len(names)} windows"
@@ -291,8 +291,8 @@ def display_killed(world, _random, _share):
             other.window(process)
             begin = time.monotonic()
             other.processes[1].kill()
-            code = process.wait(10)
-            if code != 1 or time.monotonic() - begin > 2:
+            code = process.wait(20)
+            if code != 1 or time.monotonic() - begin > 5:
                 raise Lost(f"{' '.join(arguments)} ends with {code} after {time.monotonic() - begin:.1f} s")
     return "settings, About and guide end with 1 at once"
 

@@ -7,7 +7,7 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "field"))
+sys.path.append(str(pathlib.Path(__file__).parents[1] / "field"))
 
 from session import NotSeen, Session, until  # noqa: E402
 
@@ -33,6 +33,8 @@ class World(Session):
     def __enter__(self):
         super().__enter__()
         self.start("openbox")
+        # A window that comes while the window manager starts may be overlooked by it.
+        until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no window manager")
         return self
 
     def __exit__(self, *fault):
@@ -45,7 +47,7 @@ class World(Session):
     def application(self, *arguments, program=APPLICATION / PROGRAM, page="buttons", **variables):
         return self.start(str(program), *arguments, log="application", CV_TAB=page, **variables)
 
-    def window(self, process, seconds=20):
+    def window(self, process, seconds=60):
         """Waits for the window of a process; what xdotool calls it."""
         def find():
             if process.poll() is not None:
@@ -84,14 +86,14 @@ class World(Session):
         subprocess.run(["dconf", "load", FOLDER], input=text, env=self.environment, text=True,
                        stderr=subprocess.DEVNULL, check=False)
 
-    def agrees(self, window, seconds=8):
+    def agrees(self, window, seconds=20):
         """Waits until the switch shows what is stored."""
         try:
             until(lambda: self.shown(window) == (self.stored() == "true"), "", seconds)
         except NotSeen:
             raise Lost(f"shown {self.shown(window)}, stored {self.stored() or 'nothing'}") from None
 
-    def answers(self, process, window, seconds=2):
+    def answers(self, process, window, seconds=10):
         """Waits until the window follows the pointer to another page and back; how long that took."""
         begin = time.monotonic()
         before = self.pixel(window, GENERAL)
