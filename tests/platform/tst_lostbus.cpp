@@ -20,6 +20,10 @@ public:
 private slots:
     void theApplicationOutlivesItsBusAndUsesTheNext();
     void nobodyIsTakenForThePortalOfTheBusBefore();
+    void anAnswerThatDoesNotComeIsNotWaitedForForEver();
+
+public slots:
+    void answer() { }
 
 private:
     PrivateSession &m_session;
@@ -54,6 +58,25 @@ void LostBusTest::theApplicationOutlivesItsBusAndUsesTheNext()
     QCOMPARE(dconf({QStringLiteral("read"), path}), "'memory'");
     dconf({QStringLiteral("write"), path, QStringLiteral("'outside'")});
     QTRY_COMPARE(defaults.value(key), QVariant("outside"));
+}
+
+// Whoever is asked can only answer once the waiting is over.
+void LostBusTest::anAnswerThatDoesNotComeIsNotWaitedForForEver()
+{
+    QTRY_VERIFY(SessionBus::connectionNow());
+    const QString name = QStringLiteral("silent");
+    QDBusConnection silent =
+        QDBusConnection::connectToBus(QString::fromLocal8Bit(qgetenv("DBUS_SESSION_BUS_ADDRESS")), name);
+    const auto disconnected = qScopeGuard([&name] { QDBusConnection::disconnectFromBus(name); });
+    QVERIFY(silent.registerObject(QStringLiteral("/"), this, QDBusConnection::ExportAllSlots));
+    const QDBusMessage question =
+        QDBusMessage::createMethodCall(silent.baseService(), QStringLiteral("/"), QString(), QStringLiteral("answer"));
+    constexpr int forEver = std::numeric_limits<int>::max();
+    QDBusPendingCall call = SessionBus::connectionNow()->asyncCall(question, forEver);
+    SessionBus::waitFor(call, 50ms);
+    QVERIFY(!call.isFinished());
+    QTRY_VERIFY(call.isFinished());
+    QVERIFY(!call.isError());
 }
 
 // Every bus numbers its connections from the first on.

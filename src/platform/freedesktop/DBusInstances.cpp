@@ -7,15 +7,30 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 constexpr int startLimit = 5000; // milliseconds
+
+/// How long the bus may take to give a name.
+constexpr std::chrono::seconds claimLimit = 5s;
+/// How long another instance may take to come to the front.
+constexpr std::chrono::seconds askLimit = 25s;
 
 const QString interface = QStringLiteral("org.freedesktop.Application");
 
 QString path(const QString &name)
 {
     return u'/' + QString(name).replace(u'.', u'/');
+}
+
+QDBusMessage busCall(const QString &method, const QVariantList &arguments)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(SessionBus::busName, SessionBus::busPath, SessionBus::busName, method);
+    call.setArguments(arguments);
+    return call;
 }
 
 Instances::Start outcomeOf(const QDBusMessage &answer)
@@ -40,7 +55,11 @@ bool DBusInstances::claim(const QString &name)
         ActivationToken::clearEnvironment();
     // Requests come as soon as the bus knows the name.
     bus->registerObject(path(name), this, QDBusConnection::ExportAllSlots);
-    return bus->registerService(name);
+    constexpr uint doNotQueue = 4;
+    constexpr uint isAnothers = 3;
+    const QDBusMessage answer =
+        SessionBus::answer(*bus, busCall(QStringLiteral("RequestName"), {name, doNotQueue}), claimLimit);
+    return answer.arguments().value(0).toUInt() != isAnothers;
 }
 
 bool DBusInstances::ask(const QString &name, const Request &request)
@@ -55,7 +74,7 @@ bool DBusInstances::ask(const QString &name, const Request &request)
         call << request.action << (request.argument.isEmpty() ? QVariantList() : QVariantList{request.argument});
     call << m_given.platformData();
     call.setAutoStartService(false);
-    return bus->call(call).type() == QDBusMessage::ReplyMessage;
+    return SessionBus::answer(*bus, call, askLimit).type() == QDBusMessage::ReplyMessage;
 }
 
 void DBusInstances::start(const QString &name, const Started &started)
@@ -66,11 +85,8 @@ void DBusInstances::start(const QString &name, const Started &started)
             started(Start::notInstalled);
         return;
     }
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("StartServiceByName"));
     constexpr uint noFlags = 0;
-    call << name << noFlags;
+    const QDBusMessage call = busCall(QStringLiteral("StartServiceByName"), {name, noFlags});
     if (!started) {
         bus->send(call);
         return;
@@ -94,6 +110,6 @@ void DBusInstances::perform(const Request &request, const QVariantMap &platformD
     if (!m_handler || m_handler(request))
         return;
     // Before the answer: whoever asked claims the name as soon as it comes.
-    connection().unregisterService(m_name);
+    connection().send(busCall(QStringLiteral("ReleaseName"), {m_name}));
     sendErrorReply(QDBusError::Failed, QStringLiteral("The application is about to end."));
 }

@@ -7,10 +7,12 @@
 
 #include <algorithm>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 /// Long enough for any bus that works, short enough for a person not to notice one that does not.
-constexpr int flushLimit = 250; // milliseconds
+constexpr std::chrono::milliseconds flushLimit = 250ms;
 
 constexpr int longestName = 255;
 
@@ -44,7 +46,7 @@ std::optional<Signal> signalNamed(const QString &name)
 // the message, and this process may end without losing it.
 void flush(const QDBusConnection &bus)
 {
-    bus.call(SessionBus::question(), QDBus::Block, flushLimit);
+    SessionBus::answer(bus, SessionBus::question(), flushLimit);
 }
 
 }

@@ -50,7 +50,11 @@ void PortalAppearance::settle()
 {
     if (!m_question && m_isFirstQuestion)
         SessionBus::connectionWithin(std::chrono::milliseconds(m_settled.remainingTime()));
-    if (m_question && m_isFirstQuestion)
+    if (!m_question || !m_isFirstQuestion)
+        return;
+    SessionBus::waitFor(*m_question, std::chrono::milliseconds(m_settled.remainingTime()));
+    // Its answer is taken now, and not when events are.
+    if (m_question->isFinished())
         m_question->waitForFinished();
 }
 

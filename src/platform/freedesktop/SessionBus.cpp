@@ -114,6 +114,25 @@ QDBusMessage SessionBus::question()
     return QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetId"));
 }
 
+QDBusMessage SessionBus::answer(const QDBusConnection &bus, const QDBusMessage &call, std::chrono::milliseconds limit)
+{
+    const QDBusPendingCall pending = bus.asyncCall(call, int(limit.count()));
+    waitFor(pending, limit);
+    return pending.reply();
+}
+
+void SessionBus::waitFor(QDBusPendingCall call, std::chrono::milliseconds limit)
+{
+    if (call.isFinished())
+        return;
+    const auto ended = std::make_shared<std::promise<void>>();
+    std::thread([call, ended]() mutable {
+        call.waitForFinished();
+        ended->set_value();
+    }).detach();
+    ended->get_future().wait_for(limit);
+}
+
 std::optional<QDBusConnection> SessionBus::current() const
 {
     return m_bus && m_bus->isConnected() ? m_bus : std::nullopt;

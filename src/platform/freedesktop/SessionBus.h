@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QFileSystemWatcher>
 #include <QObject>
 
@@ -50,6 +51,12 @@ public:
 
     /// A call that any bus answers, after it has taken everything sent before.
     static QDBusMessage question();
+
+    /// What came back, or no reply once that long has passed. Qt's own waiting has no end where the bus dies in the
+    /// moment of the call.
+    static QDBusMessage answer(const QDBusConnection &bus, const QDBusMessage &call, std::chrono::milliseconds limit);
+    /// Waits until the call has ended, at most that long.
+    static void waitFor(QDBusPendingCall call, std::chrono::milliseconds limit);
 
 signals:
     /// There is a connection, after there was none.

@@ -5,10 +5,12 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 
+using namespace std::chrono_literals;
+
 namespace {
 
-/// How long the bus may take to say who is there, in milliseconds. It needs none of the desktops for that.
-constexpr int patience = 1000;
+/// How long the bus may take to say who is there. It needs none of the desktops for that.
+constexpr std::chrono::seconds patience = 1s;
 
 /// A desktop that shows its overview while a property is true; the property's interface is the service's name.
 struct Switch {
@@ -48,7 +50,7 @@ QStringList runningServices(QDBusConnection &bus)
     const QDBusMessage question =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                                        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
-    return bus.call(question, QDBus::Block, patience).arguments().value(0).toStringList();
+    return SessionBus::answer(bus, question, patience).arguments().value(0).toStringList();
 }
 
 }
