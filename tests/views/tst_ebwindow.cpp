@@ -20,6 +20,7 @@ private slots:
     void aHairlineRunsInsideItsEdgesOverTheContent();
     void theEdgeTakesNoClicksAndIsNoElement();
     void afterAShrinkItHasTheHeightItWasGiven();
+    void itGrowsByDegreesEachTime();
     void whenItComesBackItIsBroughtToTheFront();
     void aMinimizedWindowThatTheDesktopKeepsIsShownAnew();
 
@@ -95,6 +96,18 @@ void EBWindowTest::afterAShrinkItHasTheHeightItWasGiven()
     m_window->setFrame(m_window->y(), 80, true);
     QTRY_COMPARE(m_window->maximumHeight(), 80);
     QCOMPARE(m_window->minimumHeight(), 80);
+}
+
+void EBWindowTest::itGrowsByDegreesEachTime()
+{
+    QList<int> heights;
+    connect(m_window.get(), &QWindow::heightChanged, this, [&heights](int height) { heights.append(height); });
+    for (const int height : {300, 500}) {
+        m_window->setFrame(m_window->y(), height, true);
+        QTRY_COMPARE(m_window->minimumHeight(), height);
+    }
+    QVERIFY(heights.size() > 2);
+    QVERIFY2(std::is_sorted(heights.cbegin(), heights.cend()), "it jumped");
 }
 
 void EBWindowTest::whenItComesBackItIsBroughtToTheFront()

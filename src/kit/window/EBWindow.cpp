@@ -38,8 +38,11 @@ EBWindow::EBWindow(EBApp app, QSize contentSize, Style style) : m_app(app), m_st
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     fixSize(contentSize);
     m_resize.setEasingCurve(QEasingCurve::InOutQuad);
-    connect(&m_resize, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &frame) { setGeometry(frame.toRect()); });
+    // It tells of a value as well when it is given its ends, and then of the last one.
+    connect(&m_resize, &QVariantAnimation::valueChanged, this, [this](const QVariant &frame) {
+        if (m_resize.state() == QAbstractAnimation::Running)
+            setGeometry(frame.toRect());
+    });
     connect(&m_resize, &QVariantAnimation::finished, this, [this] { fixSize(m_resize.endValue().toRect().size()); });
     // Some desktops minimise a window without its state telling so afterwards.
     connect(this, &QWindow::windowStateChanged, this,
