@@ -1,5 +1,6 @@
 import QtQuick
 import Embera.Tokens
+import Embera.Controls
 import Embera.Marks
 import Embera.Rows
 import Embera.Screens

@@ -1,6 +1,5 @@
 import QtQuick
-import QtQuick.Templates as T
-import Embera.Tokens
+import Embera.Controls
 
 /// Content that scrolls where it is higher than the room there is: by the wheel, the bar and a finger, never by dragging
 /// with the mouse. It follows the focus. `contentHeight` is set by whoever puts the content in.
@@ -8,7 +7,9 @@ Flickable {
     id: area
 
     /// What is on whole points may be measured between them.
-    readonly property bool scrolls: contentHeight > height + 1
+    property bool scrolls: contentHeight > height + 1
+    /// The content as a whole. It gets the focus when what had it has gone, and is then not scrolled to.
+    property Item whole: null
     readonly property Item focusItem: Window.activeFocusItem
 
     function scrollTo(y: real) {
@@ -29,18 +30,18 @@ Flickable {
     interactive: false
     clip: scrolls
     onScrollsChanged: scrollTo(scrolls ? contentY : 0)
-    onFocusItemChanged: if (scrolls && holds(focusItem))
+    onFocusItemChanged: if (scrolls && focusItem !== whole && holds(focusItem))
         reveal(focusItem)
 
-    T.ScrollBar.vertical: T.ScrollBar {
-        width: 10
-        padding: 2
-        visible: area.scrolls
-        interactive: true
-        contentItem: Rectangle {
-            radius: width / 2
-            color: EB.lineStrong
+    Loader {
+        parent: area
+        active: area.scrolls
+        anchors {
+            right: parent.right
+            top: parent.top
+            bottom: parent.bottom
         }
+        Component.onCompleted: setSource("ScrollBar.qml", {area: area})
     }
     WheelHandler {
         enabled: area.scrolls

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Embera.Tokens
 
-/// The bar of a page that scrolls.
+/// The bar of an area that scrolls.
 T.ScrollBar {
     id: bar
 
