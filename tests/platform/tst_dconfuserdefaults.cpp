@@ -78,7 +78,10 @@ void writeManyKeys(const QString &prefix)
 class DconfUserDefaultsTest : public QObject {
     Q_OBJECT
 public:
-    explicit DconfUserDefaultsTest(PrivateSession &) { }
+    explicit DconfUserDefaultsTest(PrivateSession &session)
+        : m_database(session.configFolder() + QStringLiteral("/dconf/user"))
+    {
+    }
 
 private slots:
     void cleanup() { dconf({QStringLiteral("reset"), QStringLiteral("-f"), QStringLiteral("/")}); }
@@ -93,6 +96,7 @@ private slots:
     void aWholeNumberIsStoredAsADouble();
     void aValueNoSuiteHoldsIsIgnored();
     void anInvalidValueRemovesTheKey();
+    void aLongValueIsNotKeptInMemory();
     void aChangeByAnotherProcessIsAnnounced();
     void severalKeysChangedAtOnceAreAnnouncedOneByOne();
     void removingAFolderAroundTheSuiteAnnouncesThatEverythingMayHaveChanged();
@@ -106,6 +110,11 @@ private slots:
     void aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory_data();
     void aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory();
     void processesThatWriteAtTheSameTimeLoseNothing();
+
+private:
+    qint64 mappedPages() const;
+
+    QString m_database;
 };
 
 void DconfUserDefaultsTest::aValueIsStoredWithItsType_data()
@@ -197,6 +206,34 @@ void DconfUserDefaultsTest::anInvalidValueRemovesTheKey()
     set(defaults, QStringLiteral("layouts.saved"), QVariant());
     QVERIFY(!defaults.value(QStringLiteral("layouts.saved")).isValid());
     QCOMPARE(readFromOutside(QStringLiteral("layouts.saved")), QString());
+}
+
+/// How much of the database's file lies in the memory of this process, in KiB.
+qint64 DconfUserDefaultsTest::mappedPages() const
+{
+    QFile maps(QStringLiteral("/proc/self/smaps"));
+    REQUIRE(maps.open(QFile::ReadOnly));
+    qint64 pages = 0;
+    bool isDatabase = false;
+    for (const QByteArray &line : maps.readAll().split('\n')) {
+        if (line.contains('-') && line.contains('/'))
+            isDatabase = line.contains(QFile::encodeName(m_database));
+        else if (isDatabase && line.startsWith("Rss:"))
+            pages += line.simplified().split(' ').at(1).toLongLong();
+    }
+    return pages;
+}
+
+void DconfUserDefaultsTest::aLongValueIsNotKeptInMemory()
+{
+    const QString key = QStringLiteral("layouts.saved");
+    DconfUserDefaults defaults(suiteName);
+    set(defaults, QStringLiteral("buttonTheme"), QStringLiteral("a"));
+    QVERIFY(mappedPages() > 0);
+    set(defaults, key, QString(1'000'000, u'a'));
+    QVERIFY(mappedPages() < 100);
+    QCOMPARE(defaults.value(key).toString().size(), 1'000'000);
+    QVERIFY(mappedPages() < 100);
 }
 
 void DconfUserDefaultsTest::aChangeByAnotherProcessIsAnnounced()

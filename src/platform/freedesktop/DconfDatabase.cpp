@@ -70,11 +70,11 @@ GVariant *toGVariant(const QVariant &value)
     }
 }
 
-struct Unref {
-    void operator()(GVariant *value) const { g_variant_unref(value); }
-};
-using Value = std::unique_ptr<GVariant, Unref>;
+}
 
+void DconfDatabase::Unref::operator()(GVariant *value) const
+{
+    g_variant_unref(value);
 }
 
 DconfDatabase::DconfDatabase()
@@ -117,20 +117,24 @@ DConfClient *DconfDatabase::client() const
     return m_client;
 }
 
+DconfDatabase::Value DconfDatabase::read(const QByteArray &path) const
+{
+    Value stored(dconf_client_read(client(), path.constData()));
+    // What was read stays in memory as long as the client.
+    if (stored && g_variant_get_size(stored.get()) > longValue)
+        g_object_unref(std::exchange(m_client, nullptr));
+    return stored;
+}
+
 QVariant DconfDatabase::value(const QByteArray &path) const
 {
-    const Value stored(dconf_client_read(client(), path.constData()));
-    if (!stored)
-        return {};
-    // What was read stays in memory as long as the client.
-    if (g_variant_get_size(stored.get()) > longValue)
-        g_object_unref(std::exchange(m_client, nullptr));
-    return fromGVariant(stored.get());
+    const Value stored = read(path);
+    return stored ? fromGVariant(stored.get()) : QVariant();
 }
 
 bool DconfDatabase::holds(const QByteArray &path, const QVariant &value) const
 {
-    const Value stored(dconf_client_read(client(), path.constData()));
+    const Value stored = read(path);
     const Value wanted(toGVariant(value));
     return stored && wanted ? g_variant_equal(stored.get(), wanted.get()) != FALSE : !stored && !wanted;
 }

@@ -5,7 +5,10 @@
 
 #include <memory>
 
-using DConfClient = struct _DConfClient; // NOLINT(bugprone-reserved-identifier): the library's own name
+// NOLINTBEGIN(bugprone-reserved-identifier): the library's own names
+using DConfClient = struct _DConfClient;
+using GVariant = struct _GVariant;
+// NOLINTEND(bugprone-reserved-identifier)
 
 /// What is stored in dconf, as it stands in the file: reading needs neither the bus nor the service.
 ///
@@ -46,7 +49,13 @@ private:
         bool operator==(const Mark &) const = default;
     };
 
+    struct Unref {
+        void operator()(GVariant *value) const;
+    };
+    using Value = std::unique_ptr<GVariant, Unref>;
+
     Mark mark() const;
+    Value read(const QByteArray &path) const;
     DConfClient *client() const;
 
     QString m_writer;
