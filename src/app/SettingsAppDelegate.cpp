@@ -179,6 +179,12 @@ void SettingsAppDelegate::keepSettings()
     tell();
 }
 
+void SettingsAppDelegate::finish(std::chrono::milliseconds limit)
+{
+    if (m_keeper)
+        m_keeper->finish(limit);
+}
+
 void SettingsAppDelegate::openOnboarding()
 {
     EBKitFonts::registerFonts();

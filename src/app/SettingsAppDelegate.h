@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -28,6 +29,10 @@ public:
 
     /// Closing the last window ends the process, except in the onboarding: the guide ends it itself.
     static bool applicationShouldTerminateAfterLastWindowClosed();
+
+    /// To be called before the process ends: completes the copy of the settings as far as that takes no longer than
+    /// this.
+    void finish(std::chrono::milliseconds limit);
 
     /// Starts this application again to replay the guide, then quits this instance, whatever came of the
     /// start.

@@ -6,6 +6,7 @@
 #include "Shared.h"
 #include "UserDefaults.h"
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QQuickWindow>
@@ -20,13 +21,16 @@ void chooseRenderer()
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// Gives what is not stored yet a last chance, without a window that looks as if it could still be used.
-void finishWrites()
+/// Gives what is not stored yet, and then its copy, a last chance, without a window that looks as if it could still be
+/// used.
+void finishWrites(SettingsAppDelegate &delegate)
 {
     const QWindowList windows = QGuiApplication::topLevelWindows();
     for (QWindow *window : windows)
         window->hide();
-    Shared::store().finishWrites(std::chrono::seconds(2));
+    const QDeadlineTimer end(std::chrono::seconds(2));
+    if (Shared::store().finishWrites(std::chrono::milliseconds(end.remainingTime())))
+        delegate.finish(std::chrono::milliseconds(end.remainingTime()));
 }
 
 }
@@ -58,6 +62,6 @@ int main(int argc, char *argv[])
     });
     delegate.applicationDidFinishLaunching();
     const int result = QGuiApplication::exec();
-    finishWrites();
+    finishWrites(delegate);
     return result;
 }

@@ -30,7 +30,7 @@ bool hasValues(const StateFile &file)
 
 }
 
-StoreKeeper::StoreKeeper() : m_copy(copyName), m_lost(lostName)
+StoreKeeper::StoreKeeper() : m_copy(copyName), m_lost(lostName), m_writer(m_copy)
 {
     m_hasLost = hasValues(m_lost);
     if (!m_hasLost && values().isEmpty() && hasValues(m_copy))
@@ -43,10 +43,11 @@ StoreKeeper::StoreKeeper() : m_copy(copyName), m_lost(lostName)
     write();
 }
 
-StoreKeeper::~StoreKeeper()
+void StoreKeeper::finish(std::chrono::milliseconds limit)
 {
     if (m_isDue)
         write();
+    m_writer.finish(limit);
 }
 
 void StoreKeeper::restore()
@@ -83,19 +84,8 @@ void StoreKeeper::schedule()
 void StoreKeeper::write()
 {
     m_isDue = false;
-    if (Shared::store().trouble() != UserDefaults::Trouble::none)
-        return;
-    // One after the other, or an older copy might come last.
-    if (m_writing.valid())
-        m_writing.wait();
-    const QVariantMap values = StoreKeeper::values();
-    if (values.isEmpty() && !m_copy.exists())
-        return;
-    m_writing = std::async(std::launch::async, [copy = m_copy, values] {
-        const QByteArray content = StoreCopy::encode(values);
-        if (copy.read() != content)
-            copy.write(content);
-    });
+    if (Shared::store().trouble() == UserDefaults::Trouble::none)
+        m_writer.write(values());
 }
 
 QVariantMap StoreKeeper::values()

@@ -1,17 +1,18 @@
 #pragma once
 
 #include "StateFile.h"
+#include "StoreCopyWriter.h"
 
 #include <QObject>
 #include <QVariantMap>
 
-#include <future>
+#include <chrono>
 
 /// Keeps a copy of the settings in the state folder, from which they can be restored when the store has lost them all.
 ///
 /// What the agent reports of itself ("agent.") is not copied. The copy follows each change of the store, whoever made
-/// it, two seconds later and off the main thread, and at the latest with this object's end: a store that is emptied
-/// while this object lives has an empty copy. While changes cannot be stored the copy stays as it is.
+/// it, two seconds later and off the main thread, and at the latest when it is finished: a store that is emptied until
+/// then has an empty copy. While changes cannot be stored the copy stays as it is.
 ///
 /// A store that has nothing of ours when this object is made, although there is a copy, counts as lost. That copy is
 /// put aside until the person has decided, this time or at a later start; meanwhile new changes are copied beside it.
@@ -20,7 +21,10 @@ class StoreKeeper : public QObject {
     Q_OBJECT
 public:
     StoreKeeper();
-    ~StoreKeeper() override;
+
+    /// Copies at once what has changed, and waits for that as long as this and no longer. To be called before the
+    /// process ends, which leaves the copy before where a newer one is not whole.
+    void finish(std::chrono::milliseconds limit);
 
     /// Whether the person is to decide what becomes of lost settings.
     bool hasLost() const { return m_hasLost; }
@@ -45,5 +49,5 @@ private:
     bool m_hasLost = false;
     /// Something has changed since the last copy.
     bool m_isDue = false;
-    std::future<void> m_writing;
+    StoreCopyWriter m_writer;
 };

@@ -3,6 +3,7 @@
 #include "NamedItems.h"
 #include "SettingsAppDelegate.h"
 #include "SettingsModel.h"
+#include "StoreCopy.h"
 #include "StoreKeeper.h"
 #include "TestProgram.h"
 #include "Views.h"
@@ -11,6 +12,8 @@
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+using namespace std::chrono_literals;
 
 class TestAppDelegate : public QObject {
     Q_OBJECT
@@ -25,6 +28,7 @@ private slots:
     void theWindowTellsWhyChangesAreNotSaved();
     void theWindowOffersToRestoreLostSettings_data();
     void theWindowOffersToRestoreLostSettings();
+    void whatHasChangedAtTheEndIsCopied();
     void closingTheLastWindowEndsTheProcess();
     void theGuideIsThisApplicationStartedAgain();
     void aRequestGoesToThePageItNames_data();
@@ -165,7 +169,10 @@ void TestAppDelegate::theWindowOffersToRestoreLostSettings()
     m_platform->state = state.path();
     FakeUserDefaults &store = m_platform->suite("com.vexmoor.corvane");
     store.values = {{"layouts.gap", 6.0}, {"showMinimizeButton", true}};
-    StoreKeeper();
+    {
+        StoreKeeper keeper;
+        keeper.finish(5s);
+    }
     store.values.clear();
     SettingsAppDelegate delegate;
     delegate.applicationDidFinishLaunching();
@@ -185,6 +192,21 @@ void TestAppDelegate::theWindowOffersToRestoreLostSettings()
     QTRY_VERIFY(!NamedItems::first(content, offer, QAccessible::Notification));
     QCOMPARE(store.values, values);
     QVERIFY(NamedItems::first(content, "Corvane\nVersion 1.4", QAccessible::StaticText));
+}
+
+void TestAppDelegate::whatHasChangedAtTheEndIsCopied()
+{
+    const QTemporaryDir state;
+    m_platform->state = state.path();
+    SettingsAppDelegate delegate;
+    QSignalSpy opened(&delegate, &SettingsAppDelegate::opened);
+    delegate.applicationDidFinishLaunching();
+    QTRY_COMPARE(opened.size(), 1);
+    m_platform->suite("com.vexmoor.corvane").setValue("showMinimizeButton", true);
+    delegate.finish(5s);
+    QFile copy(state.filePath("settings.copy"));
+    QVERIFY(copy.open(QFile::ReadOnly));
+    QCOMPARE(StoreCopy::decode(copy.readAll()), (QVariantMap{{"showMinimizeButton", true}}));
 }
 
 void TestAppDelegate::closingTheLastWindowEndsTheProcess()

@@ -8,7 +8,37 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <sys/syscall.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace std::chrono_literals;
 using Trouble = UserDefaults::Trouble;
+
+namespace {
+
+std::atomic<bool> diskHangs = false;
+
+/// Takes the place of the system's function in this program. A disk that hangs does so for ten seconds at most.
+int synchronize(int file)
+{
+    for (int i = 0; diskHangs && i < 1000; ++i)
+        std::this_thread::sleep_for(10ms);
+    return int(syscall(SYS_fdatasync, file));
+}
+
+}
+
+extern "C" Q_DECL_EXPORT int fdatasync(int file)
+{
+    return synchronize(file);
+}
+
+extern "C" Q_DECL_EXPORT int fsync(int file)
+{
+    return synchronize(file);
+}
 
 class TestStoreKeeper : public QObject {
     Q_OBJECT
@@ -30,23 +60,24 @@ private slots:
     void settingsThatCannotBeRestoredStayLost();
     void startingFreshForgetsTheLost();
     void anotherProcessMayHaveDecided();
+    void aDiskThatHangsHoldsUpNobody();
 
 private:
     FakeUserDefaults &store() { return m_platform->suite("com.vexmoor.corvane"); }
     QString file(const QString &name) const { return m_platform->state + '/' + name; }
     QByteArray bytes(const QString &name) const;
     std::optional<QVariantMap> copy() const { return StoreCopy::decode(bytes("settings.copy")); }
+    static bool startsWithLost();
     void lose(const QVariantMap &values);
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    const QTemporaryDir m_folder;
     FakePlatform *m_platform = nullptr;
 };
 
 void TestStoreKeeper::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
     m_platform = &FakePlatform::install();
-    m_platform->state = m_folder->filePath("state/of ours");
+    m_platform->state = m_folder.filePath(QString("state/of ") + QTest::currentTestFunction());
 }
 
 QByteArray TestStoreKeeper::bytes(const QString &name) const
@@ -55,11 +86,19 @@ QByteArray TestStoreKeeper::bytes(const QString &name) const
     return content.open(QFile::ReadOnly) ? content.readAll() : QByteArray();
 }
 
+/// Starts and ends again; whether there were lost settings.
+bool TestStoreKeeper::startsWithLost()
+{
+    StoreKeeper keeper;
+    keeper.finish(5s);
+    return keeper.hasLost();
+}
+
 /// Leaves a copy of these values and a store without any.
 void TestStoreKeeper::lose(const QVariantMap &values)
 {
     store().values = values;
-    StoreKeeper();
+    startsWithLost();
     store().values.clear();
 }
 
@@ -68,10 +107,11 @@ void TestStoreKeeper::theCopyFollowsEveryChangeAndIsForThePersonAlone()
     const QVariantMap before = {{"buttonTheme", "soft"}};
     store().values = before;
     {
-        const StoreKeeper keeper;
+        StoreKeeper keeper;
         QTRY_COMPARE(copy(), before);
         store().setValue("layouts.gap", 6.0);
         // The end comes before the time to write.
+        keeper.finish(5s);
     }
     const QVariantMap after = {{"buttonTheme", "soft"}, {"layouts.gap", 6.0}};
     QCOMPARE(copy(), after);
@@ -100,7 +140,7 @@ void TestStoreKeeper::theCopyIsWrittenAWhileAfterTheChangeAndOnce()
 void TestStoreKeeper::whatTheAgentReportsIsNotCopied()
 {
     store().values = {{"agent.accessibilityTrusted", true}, {"agent.launchAtLogin", true}, {"maximizeMode", "fill"}};
-    StoreKeeper();
+    startsWithLost();
     QCOMPARE(copy(), (QVariantMap{{"maximizeMode", "fill"}}));
 }
 
@@ -109,9 +149,10 @@ void TestStoreKeeper::whileChangesCannotBeStoredTheCopyStays()
     const QVariantMap before = {{"buttonTheme", "soft"}};
     store().values = before;
     for (const Trouble trouble : {Trouble::noRoom, Trouble::noStore}) {
-        const StoreKeeper keeper;
+        StoreKeeper keeper;
         store().obstacle = trouble;
         store().setValue("buttonTheme", "mono");
+        keeper.finish(5s);
     }
     QCOMPARE(copy(), before);
     const StoreKeeper keeper;
@@ -123,9 +164,9 @@ void TestStoreKeeper::whileChangesCannotBeStoredTheCopyStays()
 
 void TestStoreKeeper::aStoreThatIsEmptyAlthoughThereIsACopyIsLost()
 {
-    QVERIFY(!StoreKeeper().hasLost());
+    QVERIFY(!startsWithLost());
     lose({{"buttonTheme", "soft"}});
-    QVERIFY(StoreKeeper().hasLost());
+    QVERIFY(startsWithLost());
     QVERIFY(store().values.isEmpty());
     QVERIFY(m_platform->notifications.posts.isEmpty());
 }
@@ -134,23 +175,24 @@ void TestStoreKeeper::aStoreWithAnythingOfOursIsNotLost()
 {
     lose({{"buttonTheme", "soft"}, {"layouts.gap", 6.0}});
     store().values = {{"layouts.gap", 6.0}};
-    QVERIFY(!StoreKeeper().hasLost());
+    QVERIFY(!startsWithLost());
     QCOMPARE(copy(), store().values);
     // What the agent reports of itself is no setting.
     store().values = {{"agent.accessibilityTrusted", true}};
-    QVERIFY(StoreKeeper().hasLost());
+    QVERIFY(startsWithLost());
 }
 
 void TestStoreKeeper::aStoreThatWasEmptiedWhileSomebodyCopiedIsNotLost()
 {
     store().values = {{"buttonTheme", "soft"}};
     {
-        const StoreKeeper keeper;
+        StoreKeeper keeper;
         store().values.clear();
         store().storedChanged(QString());
         QVERIFY(!keeper.hasLost());
+        keeper.finish(5s);
     }
-    QVERIFY(!StoreKeeper().hasLost());
+    QVERIFY(!startsWithLost());
 }
 
 void TestStoreKeeper::aDamagedCopyCountsAsNone()
@@ -158,13 +200,13 @@ void TestStoreKeeper::aDamagedCopyCountsAsNone()
     for (const QString name : {"settings.copy", "settings.lost"}) {
         lose({{"buttonTheme", "soft"}});
         if (name == "settings.lost")
-            StoreKeeper();
+            startsWithLost();
         QVERIFY(QFile::resize(file(name), 90));
-        QVERIFY(!StoreKeeper().hasLost());
+        QVERIFY(!startsWithLost());
     }
     // A damaged one that was put aside hides no whole one.
     lose({{"buttonTheme", "soft"}});
-    QVERIFY(StoreKeeper().hasLost());
+    QVERIFY(startsWithLost());
 }
 
 void TestStoreKeeper::withoutAStateFolderNothingIsKept()
@@ -184,15 +226,16 @@ void TestStoreKeeper::lostSettingsStayLostUntilThePersonDecides()
 {
     lose({{"buttonTheme", "soft"}});
     {
-        const StoreKeeper keeper;
+        StoreKeeper keeper;
         store().setValue("layouts.gap", 6.0);
+        keeper.finish(5s);
     }
     StoreKeeper keeper;
     QVERIFY(keeper.hasLost());
     QCOMPARE(copy(), (QVariantMap{{"layouts.gap", 6.0}}));
     keeper.restore();
     QCOMPARE(store().values, (QVariantMap{{"buttonTheme", "soft"}, {"layouts.gap", 6.0}}));
-    QVERIFY(!StoreKeeper().hasLost());
+    QVERIFY(!startsWithLost());
 }
 
 void TestStoreKeeper::restoringStoresEveryValueAndTellsTheAgentOnce()
@@ -225,7 +268,7 @@ void TestStoreKeeper::settingsThatCannotBeRestoredStayLost()
         QVERIFY(keeper.hasLost());
     }
     QVERIFY(m_platform->notifications.posts.isEmpty());
-    QVERIFY(StoreKeeper().hasLost());
+    QVERIFY(startsWithLost());
     store().obstacle = Trouble::none;
     store().retry();
     QCOMPARE(store().values, (QVariantMap{{"buttonTheme", "soft"}}));
@@ -239,7 +282,7 @@ void TestStoreKeeper::startingFreshForgetsTheLost()
     keeper.startFresh();
     QCOMPARE(spy.size(), 1);
     QVERIFY(!keeper.hasLost());
-    QVERIFY(!StoreKeeper().hasLost());
+    QVERIFY(!startsWithLost());
     QVERIFY(store().values.isEmpty());
 }
 
@@ -252,6 +295,28 @@ void TestStoreKeeper::anotherProcessMayHaveDecided()
     keeper.restore();
     QVERIFY(!keeper.hasLost());
     QVERIFY(store().values.isEmpty());
+}
+
+// The service that stores the settings may be well while the disk of the state folder is not.
+void TestStoreKeeper::aDiskThatHangsHoldsUpNobody()
+{
+    store().values = {{"buttonTheme", "classic"}};
+    diskHangs = true;
+    QElapsedTimer time;
+    time.start();
+    {
+        StoreKeeper keeper;
+        for (const char *theme : {"soft", "mono", "outline"}) {
+            store().setValue("buttonTheme", theme);
+            m_platform->queue.advance(2);
+        }
+        keeper.finish(100ms);
+    }
+    QVERIFY(time.elapsed() >= 100);
+    QVERIFY(time.elapsed() < 2000);
+    QCOMPARE(copy(), std::nullopt);
+    diskHangs = false;
+    QTRY_COMPARE(copy(), (QVariantMap{{"buttonTheme", "outline"}}));
 }
 
 CORVANE_TEST(TestStoreKeeper, runInCore)
