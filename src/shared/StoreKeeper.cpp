@@ -1,5 +1,6 @@
 #include "StoreKeeper.h"
 
+#include "LayoutArchive.h"
 #include "Platform.h"
 #include "Shared.h"
 #include "StoreCopy.h"
@@ -59,8 +60,10 @@ void StoreKeeper::restore()
         return;
     }
     UserDefaults &store = Shared::store();
-    for (auto value = values->cbegin(); value != values->cend(); ++value)
+    for (auto value = values->cbegin(); value != values->cend(); ++value) {
+        LayoutArchive::beforeReplacing(value.key(), store);
         store.setValue(value.key(), *value);
+    }
     store.afterWrites(lostName, [keeper = QPointer(this)] {
         if (keeper)
             keeper->startFresh();

@@ -1,5 +1,6 @@
 #include "SettingsTransfer.h"
 
+#include "LayoutArchive.h"
 #include "LayoutStore.h"
 #include "SettingValue.h"
 #include "Shared.h"
@@ -55,8 +56,10 @@ bool SettingsTransfer::apply(const QList<Change> &changes, UserDefaults &store, 
     const auto isLocked = [&](const Change &change) { return !store.isWritable(change.key); };
     if (std::ranges::any_of(changes, isLocked))
         return false;
-    for (const Change &change : changes)
+    for (const Change &change : changes) {
+        LayoutArchive::beforeReplacing(change.key, store);
         store.setValue(change.key, change.after);
+    }
     if (store.finishWrites(limit)) {
         Shared::send(Shared::Command::applySettings);
         return true;

@@ -5,6 +5,7 @@
 #include "Store.h"
 #include "TestProgram.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -31,7 +32,7 @@ QString layoutText(const QString &layoutId, const QString &name)
 class CtlTest : public QObject {
     Q_OBJECT
 public:
-    explicit CtlTest(PrivateSession &) : m_commands(m_store) { }
+    explicit CtlTest(PrivateSession &session) : m_state(session.stateFolder()), m_commands(m_store) { }
 
 private slots:
     void init();
@@ -48,6 +49,8 @@ private slots:
     void aNegativeNumberIsNoOption();
     void resettingUnsetsTheKeysAndTellsTheAgentOnce();
     void resettingAllLeavesTheAgentsKeys();
+    void layoutsOfTheAgentAreKeptBeforeTheyAreReplaced_data();
+    void layoutsOfTheAgentAreKeptBeforeTheyAreReplaced();
     void sendingPostsTheCommand_data();
     void sendingPostsTheCommand();
     void exportAndImportCarryEverything();
@@ -76,6 +79,7 @@ private:
                const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) const;
     QString file(const QString &name) const { return m_folder.filePath(name); }
 
+    const QString m_state;
     QTemporaryDir m_folder;
     Store m_store;
     CommandListener m_commands;
@@ -273,6 +277,24 @@ void CtlTest::resettingAllLeavesTheAgentsKeys()
     const QVariantMap left{{u"agent.launchAtLogin"_s, true}};
     QCOMPARE(m_store.readAll(), left);
     QVERIFY(m_commands.waitForCount(1));
+}
+
+void CtlTest::layoutsOfTheAgentAreKeptBeforeTheyAreReplaced_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("set") << QStringList{u"set"_s, u"layouts.saved"_s, u"[]"_s};
+    QTest::newRow("reset") << QStringList{u"reset"_s, u"layouts.saved"_s};
+}
+
+void CtlTest::layoutsOfTheAgentAreKeptBeforeTheyAreReplaced()
+{
+    QFETCH(QStringList, arguments);
+    QDir archive(m_state + u"/corvane-settings/layouts"_s);
+    archive.removeRecursively();
+    m_store.write(u"layouts.saved"_s, u"[%1]"_s.arg(layoutText(id, u"Work"_s)));
+    QCOMPARE(run(arguments).code, 0);
+    archive.refresh();
+    QCOMPARE(archive.entryList({u"*.json"_s}).size(), 1);
 }
 
 void CtlTest::sendingPostsTheCommand_data()

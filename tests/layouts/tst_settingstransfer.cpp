@@ -8,6 +8,9 @@
 #include "Shared.h"
 #include "TestProgram.h"
 
+#include <QDir>
+#include <QTemporaryDir>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -44,6 +47,7 @@ private slots:
     void whatNobodyBelievesIsLeftOut_data();
     void whatNobodyBelievesIsLeftOut();
     void severalChangesAreAppliedOnceAfterTheLastIsStored();
+    void layoutsOfTheAgentAreKeptBeforeTheImport();
     void anImportThatChangesNothingStoresAndPostsNothing();
     void aLockedKeyKeepsEverythingAsItIs();
     void whatCannotBeStoredHalfWayIsTakenBack();
@@ -174,6 +178,22 @@ void SettingsTransferTest::severalChangesAreAppliedOnceAfterTheLastIsStored()
     QCOMPARE(m_platform->notifications.posts.size(), 1);
     const QVariantMap userInfo{{u"command"_s, u"applySettings"_s}};
     QCOMPARE(m_platform->notifications.posts.constFirst().userInfo, userInfo);
+}
+
+void SettingsTransferTest::layoutsOfTheAgentAreKeptBeforeTheImport()
+{
+    const QTemporaryDir state;
+    m_platform->state = state.path();
+    const QByteArray ofTheAgent = R"([{"name":"Work","newer":1,"windows":[]}])";
+    store().values = {{layoutsKey, QString(ofTheAgent)}};
+    QVERIFY(SettingsTransfer::apply({{layoutsKey, QString(ofTheAgent), u"[]"_s}}, store(), 1s));
+    QCOMPARE(store().values.value(layoutsKey), QVariant(u"[]"_s));
+    const QDir archive(state.filePath(u"layouts"_s));
+    const QStringList kept = archive.entryList({u"*.json"_s});
+    QCOMPARE(kept.size(), 1);
+    QFile file(archive.filePath(kept.constFirst()));
+    QVERIFY(file.open(QFile::ReadOnly));
+    QCOMPARE(file.readAll(), ofTheAgent);
 }
 
 void SettingsTransferTest::anImportThatChangesNothingStoresAndPostsNothing()

@@ -57,6 +57,7 @@ private slots:
     void withoutAStateFolderNothingIsKept();
     void lostSettingsStayLostUntilThePersonDecides();
     void restoringStoresEveryValueAndTellsTheAgentOnce();
+    void layoutsThatTheRestoredReplaceAreKept();
     void settingsThatCannotBeRestoredStayLost();
     void startingFreshForgetsTheLost();
     void anotherProcessMayHaveDecided();
@@ -256,6 +257,20 @@ void TestStoreKeeper::restoringStoresEveryValueAndTellsTheAgentOnce()
     QVERIFY(!keeper.hasLost());
     QCOMPARE(spy.size(), 1);
     QVERIFY(!QFile::exists(file("settings.lost")));
+}
+
+void TestStoreKeeper::layoutsThatTheRestoredReplaceAreKept()
+{
+    lose({{"layouts.saved", "[]"}});
+    const QString newer = "[{\"windows\":[]}]";
+    store().values = {{"agent.launchAtLogin", true}};
+    StoreKeeper keeper;
+    store().values.insert("layouts.saved", newer);
+    keeper.restore();
+    QCOMPARE(store().values.value("layouts.saved"), QVariant("[]"));
+    const QStringList kept = QDir(file("layouts")).entryList({"*.json"});
+    QCOMPARE(kept.size(), 1);
+    QCOMPARE(bytes("layouts/" + kept.constFirst()), newer.toUtf8());
 }
 
 void TestStoreKeeper::settingsThatCannotBeRestoredStayLost()

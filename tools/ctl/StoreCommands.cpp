@@ -1,5 +1,6 @@
 #include "StoreCommands.h"
 
+#include "LayoutArchive.h"
 #include "Output.h"
 #include "SettingText.h"
 #include "SettingValue.h"
@@ -105,6 +106,7 @@ int StoreCommands::set(const Call &call)
     if (fault)
         return Output::failure(call, *fault);
 
+    LayoutArchive::beforeReplacing(key->name, Shared::store());
     Shared::store().setValue(key->name, *value);
     if (key->name == Shared::Key::agentLaunchAtLogin)
         Shared::store().setValue(Shared::Key::agentLaunchAtLoginNeedsApproval, false);
@@ -145,6 +147,7 @@ int StoreCommands::reset(const Call &call)
     bool isAnnounced = false;
     QJsonArray array;
     for (const Contract::StoreKey *key : keys) {
+        LayoutArchive::beforeReplacing(key->name, Shared::store());
         Shared::store().setValue(key->name, QVariant());
         isAnnounced = isAnnounced || !key->announcement.isEmpty();
         array.append(described(*key));

@@ -31,8 +31,8 @@ bool replace(const Stored &before, const QList<SavedLayout> &layouts, UserDefaul
 {
     const auto text = LayoutStore::encode(layouts);
     if (text && before.value != *text) {
-        const bool isText = before.value.typeId() == QMetaType::QString;
-        LayoutArchive::beforeReplacing(isText ? before.value.toString() : QString(), *text);
+        LayoutArchive::keep(before.value);
+        LayoutArchive::noteOwn(*text);
         store.setValue(Shared::Key::layoutsSaved, *text);
     }
     return text.has_value();

@@ -1,6 +1,8 @@
 #include "LayoutArchive.h"
 
+#include "Shared.h"
 #include "StateFile.h"
+#include "UserDefaults.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -23,10 +25,22 @@ QStringList keptNames(const QString &anyFile)
     return QDir(QFileInfo(anyFile).path()).entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
 }
 
-void keep(const QByteArray &text)
+StateFile lastOwn()
 {
+    return StateFile(folder + QStringLiteral("written"));
+}
+
+}
+
+void LayoutArchive::keep(const QVariant &stored)
+{
+    const QByteArray text = stored.typeId() == QMetaType::QString ? stored.toString().toUtf8() : QByteArray();
+    if (text.isEmpty() || lastOwn().read() == markOf(text))
+        return;
     const QString now = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-dd-HHmmss-zzz"));
     const StateFile file(folder + now + QStringLiteral(".json"));
+    if (file.path().isEmpty())
+        return;
     QStringList kept = keptNames(file.path());
     if (!kept.isEmpty() && StateFile(folder + kept.constLast()).read() == text)
         return;
@@ -36,15 +50,13 @@ void keep(const QByteArray &text)
         StateFile(folder + kept.constFirst()).remove();
 }
 
+void LayoutArchive::beforeReplacing(const QString &key, const UserDefaults &store)
+{
+    if (key == Shared::Key::layoutsSaved)
+        keep(store.value(key));
 }
 
-void LayoutArchive::beforeReplacing(const QString &stored, const QString &next)
+void LayoutArchive::noteOwn(const QString &text)
 {
-    const StateFile written(folder + QStringLiteral("written"));
-    if (written.path().isEmpty())
-        return;
-    const QByteArray text = stored.toUtf8();
-    if (!text.isEmpty() && written.read() != markOf(text))
-        keep(text);
-    written.write(markOf(next.toUtf8()));
+    lastOwn().write(markOf(text.toUtf8()));
 }
