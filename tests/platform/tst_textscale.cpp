@@ -51,7 +51,7 @@ void TextScaleTest::thePortalTellsTheScale()
     QFETCH(QVariant, answer);
     const SettingsPortal portal(answer);
     QTEST(TextScale::read(), "scale");
-    QCOMPARE(portal.calls(), QStringList{u"Read"_s});
+    QTRY_COMPARE(portal.calls(), QStringList{u"Read"_s});
 }
 
 void TextScaleTest::withoutAPortalTextsHaveTheirUsualSize()
