@@ -75,6 +75,16 @@ bool Screen::awaitDamage(Clock::time_point deadline)
     }
 }
 
+QImage Screen::picture() const
+{
+    const int width = m_screen->width_in_pixels;
+    const int height = m_screen->height_in_pixels;
+    const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, 0, 0,
+                                      std::uint16_t(width), std::uint16_t(height), ~0u);
+    const Reply<xcb_get_image_reply_t> image(xcb_get_image_reply(m_connection, cookie, nullptr));
+    return image ? QImage(xcb_get_image_data(image.get()), width, height, QImage::Format_RGB32).copy() : QImage();
+}
+
 std::optional<QRgb> Screen::pixel(int x, int y) const
 {
     const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, std::int16_t(x),

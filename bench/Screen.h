@@ -2,7 +2,7 @@
 
 #include <xcb/xcb.h>
 
-#include <QtGui/qrgb.h>
+#include <QImage>
 
 #include <chrono>
 #include <optional>
@@ -24,6 +24,9 @@ public:
 
     /// When something was next painted; what was painted before the call does not count.
     std::optional<Clock::time_point> waitForPaint(std::chrono::milliseconds timeout);
+
+    /// What the screen shows.
+    QImage picture() const;
 
     /// Forgets everything painted so far.
     void settle();
