@@ -1,11 +1,9 @@
 #include "ExportFile.h"
 
+#include "Json.h"
 #include "LayoutCoder.h"
 #include "SettingValue.h"
 #include "Shared.h"
-#include "TrackedByte.h"
-
-#include <nlohmann/json.hpp>
 
 #include <QSet>
 
@@ -65,54 +63,40 @@ QByteArray json(const QString &key, const QVariant &value)
     case QMetaType::Bool:
         return value.toBool() ? "true" : "false";
     case QMetaType::Double:
-        return QByteArray::fromStdString(nlohmann::json(value.toDouble()).dump());
+        return Json::written(value.toDouble());
     case QMetaType::QString:
-        return QByteArray::fromStdString(nlohmann::json(value.toString().toStdString()).dump());
+        return Json::written(value.toString());
     default:
         return "null";
     }
 }
 
-/// Receives the parser's events. Each call returns whether it is worth to read on.
-class FileReader {
+class FileReader final : public Json::Listener {
 public:
-    using Number = nlohmann::json::number_integer_t;
-    using Unsigned = nlohmann::json::number_unsigned_t;
-
     ExportFile::Reading reading;
 
-    /// `last` is the byte that the parser has read last.
+    /// `last` is the byte that was read last.
     FileReader(const char *begin, const char *const &last, const QList<Contract::StoreKey> &keys)
         : m_begin(begin), m_last(last), m_keys(keys)
     {
     }
 
-    bool null() { return value({}); }
-    bool boolean(bool flag) { return value(flag); }
-    // The parser reports minus zero as the signed integer 0, and no other number that way.
-    bool number_integer(Number number) { return value(number == 0 ? -0.0 : static_cast<double>(number)); }
-    bool number_unsigned(Unsigned number) { return value(static_cast<double>(number)); }
-    bool number_float(double number, const std::string &) { return value(number); }
-    bool string(const std::string &text) { return value(QString::fromStdString(text)); }
-    bool binary(const nlohmann::json::binary_t &) { return false; }
-
-    bool key(const std::string &text);
-    bool start_object(std::size_t) { return start(false); }
-    bool start_array(std::size_t) { return start(true); }
-    bool end_object() { return end(); }
-    bool end_array() { return end(); }
-
-    bool parse_error(std::size_t, const std::string &, const std::exception &error)
-    {
-        fault(syntaxFault(error));
-        return false;
-    }
+    bool null() override { return value({}); }
+    bool boolean(bool flag) override { return value(flag); }
+    bool number(double number) override { return value(number); }
+    bool string(const std::string &text) override { return value(QString::fromStdString(text)); }
+    bool startObject() override { return start(false); }
+    bool key(const std::string &text) override;
+    bool endObject() override { return end(); }
+    bool startArray() override { return start(true); }
+    bool endArray() override { return end(); }
+    void fault(const QString &reason) override { refuse(reason); }
 
 private:
     /// Where the reader is; `skipped` is inside a value that is not looked into here.
     enum class Place { file, top, settings, skipped };
 
-    bool fault(const QString &reason, int line = 0);
+    bool refuse(const QString &reason, int line = 0);
     bool value(const QVariant &value);
     bool start(bool isArray);
     bool end();
@@ -136,9 +120,9 @@ private:
     QSet<QString> m_names;
 };
 
-bool FileReader::fault(const QString &reason, int line)
+bool FileReader::refuse(const QString &reason, int line)
 {
-    reading.faults.append({line > 0 ? line : lineOf(m_begin, m_last), reason});
+    reading.faults.append({line > 0 ? line : Json::lineOf(m_begin, m_last), reason});
     return reading.faults.size() < mostFaults;
 }
 
@@ -151,15 +135,15 @@ bool FileReader::key(const std::string &text)
     const QString quoted = QStringLiteral("\"%1\"").arg(m_name);
     // The settings' keys and those around them have no name in common.
     if (m_names.contains(m_name))
-        return fault(quoted + QStringLiteral(" stands twice"));
+        return refuse(quoted + QStringLiteral(" stands twice"));
     m_names.insert(m_name);
     if (m_place == Place::top)
-        return m_name == formatName || m_name == settingsName || fault(quoted + QStringLiteral(" is not known"));
+        return m_name == formatName || m_name == settingsName || refuse(quoted + QStringLiteral(" is not known"));
     if (Contract::isAgentState(m_name))
-        return fault(quoted + QStringLiteral(" is the agent's own and is never imported"));
+        return refuse(quoted + QStringLiteral(" is the agent's own and is never imported"));
     const auto found = std::ranges::find(m_keys, m_name, &Contract::StoreKey::name);
     if (found == m_keys.end())
-        return fault(quoted + QStringLiteral(" is not known"));
+        return refuse(quoted + QStringLiteral(" is not known"));
     m_key = &*found;
     return true;
 }
@@ -168,12 +152,12 @@ bool FileReader::value(const QVariant &value)
 {
     switch (m_place) {
     case Place::file:
-        fault(QStringLiteral("this is no export of settings"));
+        refuse(QStringLiteral("this is no export of settings"));
         return false;
     case Place::top:
         if (m_name == formatName)
             return readFormat(value);
-        return m_name != settingsName || fault(QStringLiteral("\"settings\" must be an object"));
+        return m_name != settingsName || refuse(QStringLiteral("\"settings\" must be an object"));
     case Place::settings:
         return !m_key || set(value);
     case Place::skipped:
@@ -188,9 +172,9 @@ bool FileReader::readFormat(const QVariant &value)
         return true;
     const bool isNewer = value.typeId() == QMetaType::Double && value.toDouble() > ExportFile::format;
     reading.faults.clear();
-    fault(isNewer ? QStringLiteral("a newer version has written this file: format %1 is not known")
-                        .arg(value.toDouble(), 0, 'g', 15)
-                  : QStringLiteral("\"format\" must be %1").arg(ExportFile::format));
+    refuse(isNewer ? QStringLiteral("a newer version has written this file: format %1 is not known")
+                         .arg(value.toDouble(), 0, 'g', 15)
+                   : QStringLiteral("\"format\" must be %1").arg(ExportFile::format));
     return false;
 }
 
@@ -199,9 +183,9 @@ bool FileReader::set(const QVariant &value)
     if (value.isValid()) {
         // Layouts come as JSON, never as a text.
         if (m_name == Shared::Key::layoutsSaved)
-            return fault(QStringLiteral("\"%1\" must be an array").arg(m_name));
+            return refuse(QStringLiteral("\"%1\" must be an array").arg(m_name));
         if (const auto reason = SettingValue::fault(*m_key, value))
-            return fault(*reason);
+            return refuse(*reason);
     }
     reading.settings.insert(m_name, value);
     return true;
@@ -217,7 +201,7 @@ bool FileReader::start(bool isArray)
         m_place = Place::top;
         if (!isArray)
             return true;
-        fault(QStringLiteral("this is no export of settings"));
+        refuse(QStringLiteral("this is no export of settings"));
         return false;
     }
     if (m_place == Place::top && m_name == settingsName && !isArray) {
@@ -227,7 +211,7 @@ bool FileReader::start(bool isArray)
     m_outside = std::exchange(m_place, Place::skipped);
     m_depth = 1;
     if (m_outside == Place::top)
-        return m_name == settingsName ? fault(QStringLiteral("\"settings\" must be an object"))
+        return m_name == settingsName ? refuse(QStringLiteral("\"settings\" must be an object"))
                                       : m_name != formatName || readFormat({});
     if (!m_key)
         return true;
@@ -238,7 +222,7 @@ bool FileReader::start(bool isArray)
     const QString type = m_name == Shared::Key::layoutsSaved
         ? QStringLiteral("an array")
         : QStringLiteral("a ") + SettingValue::typeName(m_key->defaultValue);
-    return fault(QStringLiteral("\"%1\" must be %2").arg(m_name, type));
+    return refuse(QStringLiteral("\"%1\" must be %2").arg(m_name, type));
 }
 
 bool FileReader::end()
@@ -256,7 +240,7 @@ bool FileReader::end()
     m_place = Place::file;
     for (const QString &name : {formatName, settingsName}) {
         if (!m_names.contains(name))
-            fault(QStringLiteral("\"%1\" is missing: this is no export of settings").arg(name), 1);
+            refuse(QStringLiteral("\"%1\" is missing: this is no export of settings").arg(name), 1);
     }
     return true;
 }
@@ -268,8 +252,8 @@ bool FileReader::readLayouts()
     const auto layouts = LayoutCoder::decode(QString::fromUtf8(begin, m_last + 1 - begin), &broken);
     const auto text = layouts ? LayoutCoder::encode(*layouts) : std::nullopt;
     if (!text) {
-        const int line = lineOf(m_begin, begin) + std::max(broken.line, 1) - 1;
-        return fault(QStringLiteral("in \"%1\": %2").arg(m_name, broken.reason), line);
+        const int line = Json::lineOf(m_begin, begin) + std::max(broken.line, 1) - 1;
+        return refuse(QStringLiteral("in \"%1\": %2").arg(m_name, broken.reason), line);
     }
     reading.settings.insert(m_name, *text);
     return true;
@@ -281,7 +265,7 @@ QByteArray ExportFile::write(const Settings &settings)
 {
     QByteArrayList lines;
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
-        lines.append("    " + json({}, setting.key()) + ": " + json(setting.key(), setting.value()));
+        lines.append("    " + Json::written(setting.key()) + ": " + json(setting.key(), setting.value()));
     QByteArray inside = "{}";
     if (!lines.isEmpty())
         inside = "{\n" + lines.join(",\n") + "\n  }";
@@ -292,9 +276,9 @@ ExportFile::Reading ExportFile::read(const QByteArray &file, const QList<Contrac
 {
     // The parser takes it for the end.
     if (const qsizetype zero = file.indexOf('\0'); zero >= 0)
-        return {{}, {{lineOf(file.cbegin(), file.cbegin() + zero), QStringLiteral("this is no text")}}};
+        return {{}, {{Json::lineOf(file.cbegin(), file.cbegin() + zero), QStringLiteral("this is no text")}}};
     const char *last = file.cbegin();
     FileReader reader(file.cbegin(), last, keys);
-    nlohmann::json::sax_parse(TrackedByte(file.cbegin(), &last), TrackedByte(file.cend(), &last), &reader);
+    Json::read(file, reader, last);
     return std::move(reader.reading);
 }

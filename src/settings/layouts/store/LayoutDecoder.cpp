@@ -1,8 +1,6 @@
 #include "LayoutCoder.h"
 
-#include "TrackedByte.h"
-
-#include <nlohmann/json.hpp>
+#include "Json.h"
 
 #include <QStringDecoder>
 
@@ -121,41 +119,28 @@ double now()
     return duration<double>(system_clock::now() - referenceDate).count();
 }
 
-/// Receives the parser's events. Each call returns whether the text may still be a list of layouts.
-class LayoutReader {
+/// Each call returns whether the text may still be a list of layouts.
+class LayoutReader final : public Json::Listener {
 public:
-    using Number = nlohmann::json::number_integer_t;
-    using Unsigned = nlohmann::json::number_unsigned_t;
-
     QList<SavedLayout> layouts;
     /// Why the text is refused.
     QString reason;
 
     /// Counts as no value; for a required field that is a fault, found at the end of its object.
-    bool null() { return m_field != Field::none || refuseType(); }
-    bool boolean(bool) { return m_field == Field::ignored || refuseType(); }
-    // The parser reports minus zero as the signed integer 0, and no other number that way.
-    bool number_integer(Number value) { return number(value == 0 ? -0.0 : static_cast<double>(value)); }
-    bool number_unsigned(Unsigned value) { return number(static_cast<double>(value)); }
-    bool number_float(double value, const std::string &) { return number(value); }
-    bool string(const std::string &value);
-    bool binary(const nlohmann::json::binary_t &) { return false; }
-
-    bool start_object(std::size_t);
-    bool key(const std::string &text);
-    bool end_object();
-    bool start_array(std::size_t);
-    bool end_array();
-
-    bool parse_error(std::size_t, const std::string &, const std::exception &error)
-    {
-        return refuse(syntaxFault(error));
-    }
+    bool null() override { return m_field != Field::none || refuseType(); }
+    bool boolean(bool) override { return m_field == Field::ignored || refuseType(); }
+    bool number(double value) override;
+    bool string(const std::string &value) override;
+    bool startObject() override;
+    bool key(const std::string &text) override;
+    bool endObject() override;
+    bool startArray() override;
+    bool endArray() override;
+    void fault(const QString &why) override { refuse(why); }
 
 private:
     bool refuse(const QString &why);
     bool refuseType();
-    bool number(double value);
     template <typename Value> bool take(Value &field, const Value &value);
     bool enter(Place place);
     bool goTo(Place place);
@@ -277,7 +262,7 @@ bool LayoutReader::leave()
     return goTo(static_cast<Place>(static_cast<int>(m_place) - 1));
 }
 
-bool LayoutReader::start_object(std::size_t)
+bool LayoutReader::startObject()
 {
     if (++m_depth > maximumDepth)
         return refuse(QStringLiteral("nested deeper than %1").arg(maximumDepth));
@@ -292,7 +277,7 @@ bool LayoutReader::start_object(std::size_t)
     return m_field == Field::rect ? enter(Place::rect) : refuseType();
 }
 
-bool LayoutReader::start_array(std::size_t)
+bool LayoutReader::startArray()
 {
     if (++m_depth > maximumDepth)
         return refuse(QStringLiteral("nested deeper than %1").arg(maximumDepth));
@@ -305,7 +290,7 @@ bool LayoutReader::start_array(std::size_t)
     return m_field == Field::windows ? enter(Place::windows) : refuseType();
 }
 
-bool LayoutReader::end_object()
+bool LayoutReader::endObject()
 {
     --m_depth;
     if (m_ignoredDepth > 0) {
@@ -325,7 +310,7 @@ bool LayoutReader::end_object()
     return leave();
 }
 
-bool LayoutReader::end_array()
+bool LayoutReader::endArray()
 {
     --m_depth;
     if (m_ignoredDepth > 0) {
@@ -361,7 +346,7 @@ std::optional<QList<SavedLayout>> LayoutCoder::decode(const QString &text, Fault
     const QByteArray bytes = text.toUtf8();
     const char *last = bytes.cbegin();
     LayoutReader reader;
-    if (!nlohmann::json::sax_parse(TrackedByte(bytes.cbegin(), &last), TrackedByte(bytes.cend(), &last), &reader))
-        return refuse(lineOf(bytes.cbegin(), last), reader.reason);
+    if (!Json::read(bytes, reader, last))
+        return refuse(Json::lineOf(bytes.cbegin(), last), reader.reason);
     return std::move(reader.layouts);
 }
