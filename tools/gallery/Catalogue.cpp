@@ -21,12 +21,17 @@ QStringList Catalogue::glyphs() const
 
 QVariantList Catalogue::tokens() const
 {
-    return {
-#define EB_TOKEN(token, ...)                                                                                           \
-    QVariantMap{{QStringLiteral("name"), QStringLiteral(#token)}, {QStringLiteral("color"), EBKit::token().current()}},
+    constexpr std::pair<const char *, const EBKitColor &(*)()> all[] = {
+#define EB_TOKEN(token, ...) {#token, &EBKit::token},
         EB_COLOR_TOKENS(EB_TOKEN, EB_TOKEN)
 #undef EB_TOKEN
     };
+    QVariantList tokens;
+    for (const auto &[name, color] : all) {
+        tokens.append(QVariantMap{{QStringLiteral("name"), QString::fromLatin1(name)},
+                                  {QStringLiteral("color"), color().current()}});
+    }
+    return tokens;
 }
 
 QVariantList Catalogue::apps() const

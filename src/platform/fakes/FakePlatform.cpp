@@ -1,5 +1,8 @@
 #include "FakePlatform.h"
 
+FakePlatform::FakePlatform() = default;
+FakePlatform::~FakePlatform() = default;
+
 FakePlatform &FakePlatform::install()
 {
     auto platform = std::make_unique<FakePlatform>();

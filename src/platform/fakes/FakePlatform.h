@@ -16,6 +16,9 @@
 /// A desktop in memory, whose services are public members to look at and to set.
 class FakePlatform : public Platform {
 public:
+    FakePlatform();
+    ~FakePlatform() override;
+
     /// Makes a new one the current platform and returns it; the one before is destroyed.
     static FakePlatform &install();
 
