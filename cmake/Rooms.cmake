@@ -42,10 +42,11 @@ function(corvane_room name)
     target_precompile_headers(${name} REUSE_FROM ${ARG_PRECOMPILED})
 endfunction()
 
-# The compiled views of a room become one source: nearly all of what each of them costs are the headers.
+# The compiled views of a room and what registers them become one source: nearly all of what each of them costs are the
+# headers.
 function(corvane_unite_compiled_views target)
     get_target_property(sources ${target} SOURCES)
-    list(FILTER sources INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
+    list(FILTER sources INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$|_qmltyperegistrations\\.cpp$")
     set_source_files_properties(${sources} PROPERTIES UNITY_GROUP views)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
 endfunction()
@@ -77,6 +78,9 @@ function(corvane_view_room name)
     target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
     set_property(GLOBAL PROPERTY CORVANE_DEPENDS_${name} ${ARG_DEPENDS})
     target_precompile_headers(${name} REUSE_FROM pch_quick)
+    if(TARGET ${name}_qmlcache)
+        target_precompile_headers(${name}_qmlcache REUSE_FROM pch_quick)
+    endif()
 endfunction()
 
 # corvane_use_views(target room …): links rooms into a program, with the QML modules of all the rooms they rest on. A module
