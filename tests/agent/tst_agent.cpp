@@ -17,11 +17,10 @@
 
 namespace {
 
-const QString program = QStringLiteral(PROGRAM_CORVANE_AGENT);
+const QString agentProgram = QStringLiteral(PROGRAM_CORVANE_AGENT);
 const QString enabledKey = QStringLiteral("agent.launchAtLogin");
 const QString waitingKey = QStringLiteral("agent.launchAtLoginNeedsApproval");
 const QString trustedKey = QStringLiteral("agent.accessibilityTrusted");
-constexpr int startTime = 30000; // milliseconds; the sanitizers and a busy machine make it long
 
 /// Posts a command as the application does.
 void post(const QVariantMap &userInfo)
@@ -90,7 +89,7 @@ private slots:
 
 private:
     /// Starts an agent and waits until it has reported its state and hears commands.
-    void start(const QStringList &arguments = {}, const QString &executable = program);
+    void start(const QStringList &arguments = {}, const QString &executable = agentProgram);
     QString entryPath() const { return m_autostart + "/com.vexmoor.corvane.desktop"; }
     /// Replaces the entry at once, as a settings page does.
     void writeEntry(const QByteArray &content) const;
@@ -249,7 +248,7 @@ void AgentTest::aTimeThatIsNoneEndsTheAgent_data()
 void AgentTest::aTimeThatIsNoneEndsTheAgent()
 {
     QFETCH(QString, time);
-    Program agent(program, QProcessEnvironment::systemEnvironment());
+    Program agent(agentProgram, QProcessEnvironment::systemEnvironment());
     QVERIFY(agent.start({"--headless", "--grant-after", time}));
     QVERIFY(agent.waitForExit());
     QCOMPARE(agent.exitCode(), 1);
@@ -273,8 +272,8 @@ void AgentTest::registeringWritesADesktopEntry()
     QCOMPARE(entry.text("Type"), "Application");
     QCOMPARE(entry.text("Name"), "Corvane");
     QVERIFY(entry.text("Exec").startsWith(u'"'));
-    QCOMPARE(entry.command(), QStringList(QFileInfo(program).canonicalFilePath()));
-    QCOMPARE(entry.text("TryExec"), QFileInfo(program).canonicalFilePath());
+    QCOMPARE(entry.command(), QStringList(QFileInfo(agentProgram).canonicalFilePath()));
+    QCOMPARE(entry.text("TryExec"), QFileInfo(agentProgram).canonicalFilePath());
     QVERIFY(!entry.isHidden());
 }
 
@@ -335,11 +334,11 @@ void AgentTest::aFolderWithSpecialCharactersIsQuoted()
     namespace files = std::filesystem;
     QFETCH(QString, folder);
     // Beside the agent, so that the file system is the same and a link will do.
-    const QTemporaryDir around(QFileInfo(program).path() + "/../test-XXXXXX");
+    const QTemporaryDir around(QFileInfo(agentProgram).path() + "/../test-XXXXXX");
     QVERIFY(QDir(around.path()).mkdir(folder));
     const QString executable = QFileInfo(around.filePath(folder)).canonicalFilePath() + "/corvane-agent";
     std::error_code error;
-    files::create_hard_link(files::path(program.toStdString()), files::path(executable.toStdString()), error);
+    files::create_hard_link(files::path(agentProgram.toStdString()), files::path(executable.toStdString()), error);
     QVERIFY2(!error, error.message().c_str());
     start({}, executable);
     setLaunchAtLogin(true);
@@ -357,7 +356,7 @@ void AgentTest::anEntryThatNeedsApprovalIsHidden()
     const AutostartEntry entry(entryPath());
     QVERIFY(entry.isValid());
     QVERIFY(entry.isHidden());
-    QCOMPARE(entry.command(), QStringList(QFileInfo(program).canonicalFilePath()));
+    QCOMPARE(entry.command(), QStringList(QFileInfo(agentProgram).canonicalFilePath()));
 }
 
 void AgentTest::enablingTheEntryApprovesIt_data()
@@ -455,7 +454,7 @@ void AgentTest::aSecondAgentEndsAtOnce()
     start();
     setLaunchAtLogin(true);
     VERIFY_REPORTS(true, false);
-    Program second(program, QProcessEnvironment::systemEnvironment());
+    Program second(agentProgram, QProcessEnvironment::systemEnvironment());
     QVERIFY(second.start({"--headless"}));
     QVERIFY(second.waitForExit());
     QCOMPARE(second.exitCode(), 0);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString program = QStringLiteral(PROGRAM_CORVANE_CTL);
+const QString ctlProgram = QStringLiteral(PROGRAM_CORVANE_CTL);
 const QString id = u"3F2504E0-4F89-41D3-9A0C-0305E82C3301"_s;
 const QString otherId = u"3F6BA7B8-9DAD-41D1-80B4-00C04FD430C8"_s;
 
@@ -96,7 +96,7 @@ CtlTest::Result CtlTest::run(const QStringList &arguments, const QByteArray &inp
 {
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(program, arguments);
+    process.start(ctlProgram, arguments);
     process.write(input);
     process.closeWriteChannel();
     REQUIRE(process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit);
@@ -393,7 +393,7 @@ void CtlTest::anExportNamesWhatItLeavesOut()
 
 void CtlTest::watchingTellsOfChangesAndCommands()
 {
-    Program watch(program, QProcessEnvironment::systemEnvironment());
+    Program watch(ctlProgram, QProcessEnvironment::systemEnvironment());
     QVERIFY(watch.start({u"watch"_s}));
     QTRY_COMPARE(watch.standardOutput(), QStringList{uR"({"type":"watching"})"_s});
     // The bus may hear of the subscription a moment later.

@@ -11,7 +11,6 @@
 namespace {
 
 const QString trusted = QStringLiteral("agent.accessibilityTrusted");
-constexpr int startTime = 30000; // milliseconds; the sanitizers and a busy machine make it long
 
 }
 

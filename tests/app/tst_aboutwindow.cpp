@@ -302,7 +302,7 @@ void TestAboutWindow::fromRightToLeftItIsMirrored()
     QCOMPARE(opens->mapRectToScene(opens->boundingRect()).right(), 460.0 - 26);
 }
 
-static int run(int argc, char **argv)
+static int runAboutWindow(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     char name[] = "corvane-settings";
@@ -312,6 +312,6 @@ static int run(int argc, char **argv)
     return runTest<TestAboutWindow>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runAboutWindow)
 
 #include "tst_aboutwindow.moc"

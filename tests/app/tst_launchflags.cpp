@@ -41,7 +41,7 @@ void TestLaunchFlags::flagsAreWholeWords()
     QCOMPARE(process.readAllStandardOutput().trimmed(), flags);
 }
 
-static int run(int argc, char **argv)
+static int runLaunchFlags(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     LaunchFlags::setArguments(argc, argv);
@@ -54,6 +54,6 @@ static int run(int argc, char **argv)
     return runTest<TestLaunchFlags>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runLaunchFlags)
 
 #include "tst_launchflags.moc"

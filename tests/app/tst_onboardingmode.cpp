@@ -48,7 +48,7 @@ void TestOnboardingMode::aWindowThatClosesDoesNotEndTheProcess()
     QCOMPARE(QGuiApplication::exec(), stillRunning);
 }
 
-static int run(int argc, char **argv)
+static int runOnboardingMode(int argc, char **argv)
 {
     char program[] = "corvane-settings";
     char flag[] = "--onboarding";
@@ -57,6 +57,6 @@ static int run(int argc, char **argv)
     return runInGui<TestOnboardingMode>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runOnboardingMode)
 
 #include "tst_onboardingmode.moc"

@@ -104,7 +104,7 @@ void TestService::withAWindowItStays()
     QVERIFY(QGuiApplication::topLevelWindows().constFirst()->isVisible());
 }
 
-static int run(int argc, char **argv)
+static int runService(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     char name[] = "corvane-settings";
@@ -114,6 +114,6 @@ static int run(int argc, char **argv)
     return runTest<TestService>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runService)
 
 #include "tst_service.moc"

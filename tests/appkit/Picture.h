@@ -10,15 +10,18 @@
 #include <QPainter>
 #include <QWidget>
 
+/// What views are drawn on, a colour that none of them has.
+inline const QColor ground(0, 0, 200);
+
 /// A picture of a view on a ground, four pixels a point.
 class Picture {
 public:
     static constexpr int zoom = 4;
 
-    explicit Picture(QWidget &view, const QColor &ground = QColor(0, 0, 200)) : m_image(view.size() * zoom, format)
+    explicit Picture(QWidget &view, const QColor &on = ground) : m_image(view.size() * zoom, format)
     {
         m_image.setDevicePixelRatio(zoom);
-        m_image.fill(ground);
+        m_image.fill(on);
         QPainter painter(&m_image);
         view.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
     }
@@ -27,13 +30,13 @@ public:
     QColor at(qreal x, qreal y) const { return m_image.pixelColor(int(x * zoom), int(y * zoom)); }
     QColor at(QPointF place) const { return at(place.x(), place.y()); }
 
-    /// The smallest rectangle, in points, around all that does not have the colour of the ground within `within`.
-    QRectF inked(const QRectF &within, const QColor &ground) const
+    /// The smallest rectangle, in points, around all that does not have the colour `on` within `within`.
+    QRectF inked(const QRectF &within, const QColor &on) const
     {
         QRect found;
         for (int y = int(within.top() * zoom); y < int(within.bottom() * zoom); ++y) {
             for (int x = int(within.left() * zoom); x < int(within.right() * zoom); ++x) {
-                if (!isNear(m_image.pixelColor(x, y), ground))
+                if (!isNear(m_image.pixelColor(x, y), on))
                     found |= QRect(x, y, 1, 1);
             }
         }

@@ -6,7 +6,6 @@
 
 namespace {
 
-const QColor ground(0, 0, 200);
 using Variant = EBKitButton::Variant;
 
 EBKitText label(const EBKitColor &color = EBKit::onInk(), const QString &string = QStringLiteral("Continue"))

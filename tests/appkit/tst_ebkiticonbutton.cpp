@@ -8,8 +8,6 @@
 
 namespace {
 
-const QColor ground(0, 0, 200);
-
 void hover(QWidget &view, QEvent::Type type, QPointF place)
 {
     QHoverEvent event(type, place, place, QPointF());

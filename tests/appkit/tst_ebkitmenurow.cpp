@@ -5,8 +5,6 @@
 
 namespace {
 
-const QColor ground(0, 0, 200);
-
 EBKitText text(const QString &string)
 {
     return KitText::make(string, EBTypeRole::body, EBKit::ink());

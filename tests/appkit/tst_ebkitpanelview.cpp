@@ -86,8 +86,7 @@ private slots:
     {
         EBKitPanelView panel;
         panel.resize(300, 200);
-        const QColor ground(0, 0, 200);
-        const Picture picture(panel, ground);
+        const Picture picture(panel);
         COMPARE_COLOR(picture.at(150, 100), EBKit::surface().current());
         COMPARE_COLOR(picture.at(0.5, 100), over(EBKit::line().current(), EBKit::surface().current()));
         COMPARE_COLOR(picture.at(1, 1), ground);

@@ -5,7 +5,6 @@
 
 namespace {
 
-const QColor ground(0, 0, 200);
 const QString longText = QStringLiteral("Adds buttons to the windows in the overview of all windows, also on displays "
                                         "that are not the main one");
 

@@ -5,12 +5,6 @@
 #include "Picture.h"
 #include "TestProgram.h"
 
-namespace {
-
-const QColor ground(0, 0, 200);
-
-}
-
 class TestEBKitSwitch : public QObject {
     Q_OBJECT
 

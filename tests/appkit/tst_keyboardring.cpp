@@ -10,8 +10,6 @@
 
 namespace {
 
-const QColor ground(0, 0, 200);
-
 /// A window with a switch and an icon button, neither of which has the focus.
 struct Window : EBKitView {
     Window()

@@ -7,12 +7,6 @@
 #include "Picture.h"
 #include "TestProgram.h"
 
-namespace {
-
-const QColor ground(0, 0, 200);
-
-}
-
 /// The views that show and do nothing themselves.
 class TestStillViews : public QObject {
     Q_OBJECT

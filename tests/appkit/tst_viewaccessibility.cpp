@@ -193,6 +193,11 @@ private:
 
 // Much of what Qt tells an assistive technology it only tells while there is one: the test runs on a desktop with a
 // real accessibility bus.
-CORVANE_TEST_MAIN((runOnAccessibleDesktop<TestViewAccessibility, QApplication>))
+static int runViewAccessibility(int argc, char **argv)
+{
+    return runOnAccessibleDesktop<TestViewAccessibility, QApplication>(argc, argv);
+}
+
+CORVANE_TEST_MAIN(runViewAccessibility)
 
 #include "tst_viewaccessibility.moc"

@@ -9,9 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString launchAtLogin = u"agent.launchAtLogin"_s;
 const QString needsApproval = u"agent.launchAtLoginNeedsApproval"_s;
-const QString trusted = u"agent.accessibilityTrusted"_s;
 const QString iconHidden = u"menuBarIconHidden"_s;
 
 }
@@ -87,10 +85,11 @@ void TestGeneralPage::showsWhatTheStoreHoldsWhenItOpens_data()
     QTest::addColumn<bool>("startsAtLogin");
     QTest::addColumn<bool>("showsIcon");
     QTest::newRow("nothing") << QVariantMap() << false << true;
-    QTest::newRow("started at login") << QVariantMap{{launchAtLogin, true}} << true << true;
-    QTest::newRow("waiting for approval") << QVariantMap{{launchAtLogin, false}, {needsApproval, true}} << true << true;
+    QTest::newRow("started at login") << QVariantMap{{AgentKey::launchAtLogin, true}} << true << true;
+    QTest::newRow("waiting for approval")
+        << QVariantMap{{AgentKey::launchAtLogin, false}, {needsApproval, true}} << true << true;
     QTest::newRow("registered and waiting")
-        << QVariantMap{{launchAtLogin, true}, {needsApproval, true}} << true << true;
+        << QVariantMap{{AgentKey::launchAtLogin, true}, {needsApproval, true}} << true << true;
     QTest::newRow("icon hidden") << QVariantMap{{iconHidden, true}} << false << false;
     QTest::newRow("icon not hidden") << QVariantMap{{iconHidden, false}} << false << true;
 }
@@ -119,9 +118,9 @@ void TestGeneralPage::followsTheStoreWhileItIsOpen()
     FIND(login, ATSPI_ROLE_CHECK_BOX, "Start at login");
     FIND(icon, ATSPI_ROLE_CHECK_BOX, "Show in the menu bar");
 
-    store().write(launchAtLogin, true);
+    store().write(AgentKey::launchAtLogin, true);
     QVERIFY(becomes(login, ATSPI_STATE_CHECKED));
-    store().write(launchAtLogin, false);
+    store().write(AgentKey::launchAtLogin, false);
     QVERIFY(becomes(login, ATSPI_STATE_CHECKED, false));
     store().write(needsApproval, true);
     QVERIFY(becomes(login, ATSPI_STATE_CHECKED));
@@ -159,7 +158,7 @@ void TestGeneralPage::flippingStartAtLoginStoresBothKeysAndThenTellsTheAgentOnce
     QCOMPARE(heard.command, u"setLaunchAtLogin"_s);
     QCOMPARE(heard.value, std::optional<QVariant>(true));
     QCOMPARE(heard.extras, QVariantMap());
-    QCOMPARE(heard.stored, (QVariantMap{{launchAtLogin, true}, {needsApproval, false}}));
+    QCOMPARE(heard.stored, (QVariantMap{{AgentKey::launchAtLogin, true}, {needsApproval, false}}));
 }
 
 void TestGeneralPage::flippingStartAtLoginOffWhileApprovalIsPendingClearsBothKeys()
@@ -177,7 +176,7 @@ void TestGeneralPage::flippingStartAtLoginOffWhileApprovalIsPendingClearsBothKey
     const HeardCommand heard = commands().heard().constFirst();
     QCOMPARE(heard.command, u"setLaunchAtLogin"_s);
     QCOMPARE(heard.value, std::optional<QVariant>(false));
-    QCOMPARE(heard.stored, (QVariantMap{{launchAtLogin, false}, {needsApproval, false}}));
+    QCOMPARE(heard.stored, (QVariantMap{{AgentKey::launchAtLogin, false}, {needsApproval, false}}));
 }
 
 void TestGeneralPage::flippingStartAtLoginBackAndForthTellsTheAgentEachTime()
@@ -190,7 +189,7 @@ void TestGeneralPage::flippingStartAtLoginBackAndForthTellsTheAgentEachTime()
     QCOMPARE(commands().heard().size(), 4);
     for (int flip = 0; flip < 4; ++flip)
         QCOMPARE(commands().heard().at(flip).value, std::optional<QVariant>(flip % 2 == 0));
-    QCOMPARE(store().read(launchAtLogin), QVariant(false));
+    QCOMPARE(store().read(AgentKey::launchAtLogin), QVariant(false));
 }
 
 void TestGeneralPage::flippingShowInTheMenuBarStoresTheInverseAndThenTellsTheAgentOnce_data()
@@ -226,7 +225,7 @@ void TestGeneralPage::theAgentIsNotToldBeforeTheStoreIsWritten_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QVariantMap>("stored");
     QTest::newRow("start at login") << u"Start at login"_s
-                                    << QVariantMap{{launchAtLogin, true}, {needsApproval, false}};
+                                    << QVariantMap{{AgentKey::launchAtLogin, true}, {needsApproval, false}};
     QTest::newRow("menu bar") << u"Show in the menu bar"_s << QVariantMap{{iconHidden, true}};
 }
 
@@ -307,12 +306,12 @@ void TestGeneralPage::aGrantedPermissionReplacesTheButtonByTheStatus()
     QVERIFY(shows(u"Needed to see which window you point at in Mission Control."_s));
     QVERIFY(doesNotShow(u"Allowed"_s));
 
-    store().write(trusted, true);
+    store().write(AgentKey::trusted, true);
     QVERIFY(shows(u"Allowed"_s));
     QVERIFY(disappears(ATSPI_ROLE_PUSH_BUTTON, u"Open Settings"_s));
     QVERIFY(shows(u"Corvane can see which window you point at."_s));
 
-    store().write(trusted, false);
+    store().write(AgentKey::trusted, false);
     FIND(again, ATSPI_ROLE_PUSH_BUTTON, "Open Settings");
     QVERIFY(doesNotShow(u"Allowed"_s));
     settle();

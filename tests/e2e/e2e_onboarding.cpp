@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString trusted = u"agent.accessibilityTrusted"_s;
-const QString launchAtLogin = u"agent.launchAtLogin"_s;
 const QString completed = u"onboardingCompleted"_s;
 constexpr QSize guideSize(560, 388);
 constexpr QSize tileSize(330, 76);
@@ -185,7 +183,7 @@ void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
     const auto tile = windowOf(tileSize);
     QVERIFY(tile);
     drag(tile->frame().center(), place(list), *m_agent);
-    QVERIFY(store().waitFor(trusted, true));
+    QVERIFY(store().waitFor(AgentKey::trusted, true));
     const auto back = windowOf(guideSize);
     QVERIFY(back);
     QTRY_VERIFY(back->hasInputFocus());
@@ -211,13 +209,13 @@ void TestOnboarding::theWholeJourneyByPointerAndKeyboard()
     QCOMPARE(sent(),
              (QStringList{u"requestAccessibility"_s, u"applySettings"_s, u"setLaunchAtLogin true"_s, u"applySettings"_s,
                           u"applySettings"_s}));
-    QVERIFY(store().waitFor(launchAtLogin, true));
+    QVERIFY(store().waitFor(AgentKey::launchAtLogin, true));
     QCOMPARE(store().readAll(),
              (QVariantMap{{completed, true},
                           {u"buttonTheme"_s, u"soft"_s},
                           {u"showMinimizeButton"_s, true},
-                          {trusted, true},
-                          {launchAtLogin, true},
+                          {AgentKey::trusted, true},
+                          {AgentKey::launchAtLogin, true},
                           {u"agent.launchAtLoginNeedsApproval"_s, false}}));
 }
 
@@ -243,7 +241,7 @@ void TestOnboarding::systemSettingsThatWasMinimizedComesBackInFront()
     QTRY_VERIFY(isSettingsInFront());
     QVERIFY(windowOf(tileSize));
     // Whoever grants it, the guide comes back with the focus.
-    store().write(trusted, true);
+    store().write(AgentKey::trusted, true);
     QTRY_VERIFY(windowOf(guideSize)->hasInputFocus());
 }
 
@@ -269,7 +267,7 @@ void TestOnboarding::theWholeJourneyThroughAccessibilityAlone()
     const Accessible permission = m_agent->find(ATSPI_ROLE_CHECK_BOX, u"Corvane"_s);
     QVERIFY(permission);
     QVERIFY(permission.doAction(u"Toggle"_s));
-    QVERIFY(store().waitFor(trusted, true));
+    QVERIFY(store().waitFor(AgentKey::trusted, true));
 
     QVERIFY(find(ATSPI_ROLE_HEADING, u"Make it yours"_s));
     QVERIFY(press(u"Keep the Defaults"_s));
@@ -432,7 +430,7 @@ void TestOnboarding::notStartingAtLoginIsSent()
 
 void TestOnboarding::aReplayKnowsWhatTheAgentReports()
 {
-    store().write(launchAtLogin, false);
+    store().write(AgentKey::launchAtLogin, false);
     QVERIFY(openGuide({{u"CV_STEP"_s, u"4"_s}}, {u"--replay"_s}));
     QVERIFY(shows(u"Swipe up with three fingers or press F3 to open Mission Control, then hover any window."_s));
     QVERIFY(clickButton(u"Not now"_s));

@@ -200,13 +200,13 @@ void TestGolden::aPictureWithFewColorsIsCloseToItsOriginal()
     QCOMPARE(coarse.pixel(500, 39), gradient.pixel(500, 39));
 }
 
-static int run(int argc, char **argv)
+static int runGolden(int argc, char **argv)
 {
     const PictureScreen screen(currentScale());
     const QApplication application(argc, argv);
     return runTest<TestGolden>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runGolden)
 
 #include "tst_golden.moc"

@@ -5,6 +5,9 @@
 /// Layouts and texts several tests use.
 namespace Sample {
 
+/// Where a store keeps the layouts.
+inline const QString key = QStringLiteral("layouts.saved");
+
 inline const QUuid id = QUuid(QStringLiteral("{3f2504e0-4f89-41d3-9a0c-0305e82c3301}"));
 inline const QUuid otherId = QUuid(QStringLiteral("{6ba7b810-9dad-11d1-80b4-00c04fd430c8}"));
 

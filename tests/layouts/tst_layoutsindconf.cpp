@@ -9,8 +9,6 @@
 
 namespace {
 
-const QString key = QStringLiteral("layouts.saved");
-
 DconfUserDefaults suite()
 {
     return DconfUserDefaults(QStringLiteral("com.vexmoor.corvane"));
@@ -47,7 +45,7 @@ void LayoutsInDconfTest::whatOneProcessStoresAnotherLoads()
     QList<SavedLayout> layouts(count, Sample::layout());
     layouts.last().id = Sample::otherId;
     auto writer = suite();
-    writer.setValue(key, LayoutStore::encode(layouts).value());
+    writer.setValue(Sample::key, LayoutStore::encode(layouts).value());
     layouts.last().name = name;
     QCOMPARE(LayoutStore::rename(Sample::otherId, name, writer), layouts);
     QVERIFY(writer.finishWrites(std::chrono::seconds(5)));
@@ -59,7 +57,7 @@ void LayoutsInDconfTest::whatOneProcessStoresAnotherLoads()
 void LayoutsInDconfTest::anAgentThatAddsAllTheTimeNeverLeavesAnInvalidList()
 {
     auto store = suite();
-    store.setValue(key, LayoutStore::encode({Sample::layout()}).value());
+    store.setValue(Sample::key, LayoutStore::encode({Sample::layout()}).value());
     QVERIFY(store.finishWrites(std::chrono::seconds(5)));
     const int additions = qMax(20, qEnvironmentVariableIntValue("CORVANE_ADDITIONS"));
     QProcess agent;
@@ -85,7 +83,7 @@ done)"),
     QVERIFY(store.finishWrites(std::chrono::seconds(5)));
     auto reader = suite();
     QCOMPARE(LayoutStore::load(reader), last);
-    QCOMPARE(reader.value(key).toString(), LayoutStore::encode(last).value());
+    QCOMPARE(reader.value(Sample::key).toString(), LayoutStore::encode(last).value());
 }
 
 CORVANE_TEST(LayoutsInDconfTest, runInPrivateSession)

@@ -12,8 +12,6 @@
 
 namespace {
 
-const QString key = QStringLiteral("layouts.saved");
-
 /// A suite that counts what is written to it, and in which an agent may write between a read and the next write.
 class WatchedStore : public FakeUserDefaults {
 public:
@@ -23,10 +21,10 @@ public:
     explicit WatchedStore(const QVariant &saved = {})
     {
         if (saved.isValid())
-            values.insert(key, saved);
+            values.insert(Sample::key, saved);
     }
 
-    QString saved() const { return values.value(key).toString(); }
+    QString saved() const { return values.value(Sample::key).toString(); }
 
 protected:
     QVariant storedValue(const QString &name) const override
@@ -189,7 +187,7 @@ void LayoutStoreTest::anotherTypeIsAnEmptyListAndNothingIsWritten()
     WatchedStore store(stored);
     QVERIFY(LayoutStore::load(store).isEmpty());
     QCOMPARE(store.writes, 0);
-    QCOMPARE(store.values.value(key), stored);
+    QCOMPARE(store.values.value(Sample::key), stored);
 }
 
 void LayoutStoreTest::anEmptyListIsNotRewritten()
@@ -231,7 +229,7 @@ void LayoutStoreTest::anyOtherFormIsRewrittenOnce()
     WatchedStore store(stored);
     QCOMPARE(LayoutStore::load(store), QList{Sample::layout()});
     QCOMPARE(store.writes, 1);
-    QCOMPARE(store.values.value(key).typeId(), int(QMetaType::QString));
+    QCOMPARE(store.values.value(Sample::key).typeId(), int(QMetaType::QString));
     QCOMPARE(store.saved(), Sample::text);
     QCOMPARE(LayoutStore::load(store), QList{Sample::layout()});
     QCOMPARE(store.writes, 1);
@@ -256,7 +254,7 @@ void LayoutStoreTest::anUnreadableListStaysAsItWas()
     WatchedStore store(stored);
     QVERIFY(LayoutStore::load(store).isEmpty());
     QCOMPARE(store.writes, 0);
-    QCOMPARE(store.values.value(key), stored);
+    QCOMPARE(store.values.value(Sample::key), stored);
 }
 
 void LayoutStoreTest::encodeGivesTheStoredText()
@@ -364,7 +362,7 @@ void LayoutStoreTest::restoringKeepsWhatWasStoredMeanwhile()
     WatchedStore store(textOf({d, b}));
     const auto removed = LayoutStore::find(Sample::otherId, store);
     LayoutStore::remove(Sample::otherId, store);
-    store.values.insert(key, textOf({a, d}));
+    store.values.insert(Sample::key, textOf({a, d}));
     QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b, d}));
     QCOMPARE(store.saved(), textOf({a, b, d}));
 }
@@ -374,9 +372,9 @@ void LayoutStoreTest::restoringIntoAShorterListPutsTheLayoutAtItsEnd()
     const SavedLayout d = named(QUuid::createUuid(), QStringLiteral("d"));
     WatchedStore store(textOf({d, a, b}));
     const auto removed = LayoutStore::find(Sample::otherId, store);
-    store.values.insert(key, textOf({a}));
+    store.values.insert(Sample::key, textOf({a}));
     QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b}));
-    store.values.remove(key);
+    store.values.remove(Sample::key);
     QCOMPARE(LayoutStore::restore(removed, store), QList{b});
     QCOMPARE(store.saved(), textOf({b}));
 }
@@ -386,11 +384,11 @@ void LayoutStoreTest::restoringIntoAnUnreadableListLeavesItAsItIs()
     QFETCH(QVariant, stored);
     WatchedStore store(textOf({a, b}));
     const auto removed = LayoutStore::find(Sample::otherId, store);
-    store.values.insert(key, stored);
+    store.values.insert(Sample::key, stored);
     QVERIFY(!LayoutStore::restore(removed, store));
     QCOMPARE(store.writes, 0);
-    QCOMPARE(store.values.value(key), stored);
-    store.values.insert(key, textOf({a}));
+    QCOMPARE(store.values.value(Sample::key), stored);
+    store.values.insert(Sample::key, textOf({a}));
     QCOMPARE(LayoutStore::restore(removed, store), (QList{a, b}));
 }
 
@@ -456,7 +454,7 @@ void LayoutStoreTest::renamingInAnUnreadableListWritesNothing()
     WatchedStore store(stored);
     QVERIFY(LayoutStore::rename(Sample::id, QStringLiteral("new"), store).isEmpty());
     QCOMPARE(store.writes, 0);
-    QCOMPARE(store.values.value(key), stored);
+    QCOMPARE(store.values.value(Sample::key), stored);
 }
 
 void LayoutStoreTest::aNameWithoutATextIsNotStored()
@@ -475,7 +473,7 @@ void LayoutStoreTest::renamingAndRemovingSettleWhatTheAgentLeftOut()
     const QList<SavedLayout> renamed = LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
     QCOMPARE(renamed.size(), 1);
     QCOMPARE(store.saved(), textOf(renamed));
-    store.values.insert(key, unsettled);
+    store.values.insert(Sample::key, unsettled);
     const QList<SavedLayout> left = LayoutStore::remove(Sample::id, store);
     QCOMPARE(left.size(), 1);
     QCOMPARE(store.saved(), textOf(left));
@@ -485,7 +483,7 @@ void LayoutStoreTest::renamingAndRemovingSettleWhatTheAgentLeftOut()
 void LayoutStoreTest::renamingOverwritesWhatTheAgentAddedMeanwhile()
 {
     WatchedStore store(textOf({a}));
-    store.afterRead = [&store] { store.values.insert(key, textOf({a, b})); };
+    store.afterRead = [&store] { store.values.insert(Sample::key, textOf({a, b})); };
     const QList<SavedLayout> expected = {named(Sample::id, QStringLiteral("new"))};
     QCOMPARE(LayoutStore::rename(Sample::id, QStringLiteral("new"), store), expected);
     QCOMPARE(store.saved(), textOf(expected));
@@ -494,7 +492,7 @@ void LayoutStoreTest::renamingOverwritesWhatTheAgentAddedMeanwhile()
 void LayoutStoreTest::removingOverwritesWhatTheAgentAddedMeanwhile()
 {
     WatchedStore store(textOf({a}));
-    store.afterRead = [&store] { store.values.insert(key, textOf({a, b})); };
+    store.afterRead = [&store] { store.values.insert(Sample::key, textOf({a, b})); };
     QVERIFY(LayoutStore::remove(Sample::id, store).isEmpty());
     QCOMPARE(store.saved(), QStringLiteral("[]"));
 }
@@ -503,7 +501,7 @@ void LayoutStoreTest::theAgentOverwritesARename()
 {
     WatchedStore store(textOf({a}));
     LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
-    store.values.insert(key, textOf({a, b}));
+    store.values.insert(Sample::key, textOf({a, b}));
     QCOMPARE(LayoutStore::load(store), (QList{a, b}));
     QCOMPARE(LayoutStore::rename(Sample::otherId, QStringLiteral("new"), store),
              (QList{a, named(Sample::otherId, QStringLiteral("new"))}));
@@ -529,7 +527,7 @@ void LayoutStoreTest::noOtherKeyIsTouched()
     LayoutStore::load(store);
     LayoutStore::rename(Sample::id, QStringLiteral("new"), store);
     LayoutStore::remove(Sample::id, store);
-    QCOMPARE(store.values, (QVariantMap{{key, QStringLiteral("[]")}, {QStringLiteral("layouts.gap"), 6.0}}));
+    QCOMPARE(store.values, (QVariantMap{{Sample::key, QStringLiteral("[]")}, {QStringLiteral("layouts.gap"), 6.0}}));
 }
 
 void LayoutStoreTest::aTextOfOthersIsKeptBeforeItIsReplaced_data()
@@ -582,7 +580,7 @@ void LayoutStoreTest::theLastFiveAreKept()
     WatchedStore store;
     for (int i = 0; i < 7; ++i) {
         texts.append(QString(i + 1, u' ') + textOf({a}));
-        store.values.insert(key, texts.constLast());
+        store.values.insert(Sample::key, texts.constLast());
         LayoutStore::load(store);
         // Two of the same thousandth of a second would be one.
         const QDateTime now = QDateTime::currentDateTimeUtc();

@@ -498,7 +498,7 @@ void TestDotLayout::everyFieldKeepsTheRules()
     QVERIFY(count > 10000);
 }
 
-static int run(int argc, char **argv)
+static int runDotLayout(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     if (argc == 4 && qstrcmp(argv[1], "--layout") == 0)
@@ -506,6 +506,6 @@ static int run(int argc, char **argv)
     return runTest<TestDotLayout>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runDotLayout)
 
 #include "tst_dotlayout.moc"

@@ -2,6 +2,7 @@
 
 #include <QDBusArgument>
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QMutex>
 #include <QThread>
@@ -15,6 +16,12 @@ Q_DECLARE_METATYPE(SettingsGroups)
 
 QDBusArgument &operator<<(QDBusArgument &argument, const SettingsGroups &groups);
 const QDBusArgument &operator>>(const QDBusArgument &argument, SettingsGroups &groups);
+
+/// A value as the bus carries one of any type.
+inline QVariant wrapped(const QVariant &value)
+{
+    return QVariant::fromValue(QDBusVariant(value));
+}
 
 /// A settings portal on the session bus for as long as it lives. It answers on a thread of its own, so that who asks
 /// may block, and it can do what a real one does only on a bad day.

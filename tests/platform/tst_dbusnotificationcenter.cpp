@@ -189,7 +189,7 @@ void DBusNotificationCenterTest::aNameThatIsNoSignalIsLost()
     center.post(badName, {});
 }
 
-static int run(int argc, char **argv)
+static int runDBusNotificationCenter(int argc, char **argv)
 {
     if (argc == 2 && qstrcmp(argv[1], "--post") == 0) {
         const QCoreApplication application(argc, argv);
@@ -199,6 +199,6 @@ static int run(int argc, char **argv)
     return runInPrivateSession<DBusNotificationCenterTest>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runDBusNotificationCenter)
 
 #include "tst_dbusnotificationcenter.moc"

@@ -1,7 +1,7 @@
 #include "DconfUserDefaults.h"
+#include "OutsideStore.h"
 #include "PrivateSession.h"
 #include "TestProgram.h"
-#include "Tool.h"
 
 #include <QSignalSpy>
 
@@ -9,24 +9,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString suiteName = QStringLiteral("com.vexmoor.corvane");
-const QString folder = QStringLiteral("/com/vexmoor/corvane/");
 constexpr int keysOfOneProcess = 150;
-
-QString pathOf(const QString &key)
-{
-    return folder + key;
-}
-
-void writeFromOutside(const QString &key, const QString &value)
-{
-    dconf({QStringLiteral("write"), pathOf(key), value});
-}
-
-QString readFromOutside(const QString &key)
-{
-    return dconf({QStringLiteral("read"), pathOf(key)});
-}
 
 void set(UserDefaults &defaults, const QString &key, const QVariant &value)
 {
@@ -251,7 +234,7 @@ void DconfUserDefaultsTest::severalKeysChangedAtOnceAreAnnouncedOneByOne()
 {
     Followed followed;
     auto &[defaults, spy] = followed;
-    dconf({QStringLiteral("load"), folder}, "[/]\nbuttonTheme='a'\nlayouts.gap=2.0\n");
+    dconf({QStringLiteral("load"), suiteFolder}, "[/]\nbuttonTheme='a'\nlayouts.gap=2.0\n");
     QStringList keys = announced(spy);
     keys.sort();
     QCOMPARE(keys, QStringList({QStringLiteral("buttonTheme"), QStringLiteral("layouts.gap")}));
@@ -339,7 +322,7 @@ void DconfUserDefaultsTest::aKeyThatIsNoPathLivesInMemory()
     defaults.setValue(key, QStringLiteral("kept"));
     QCOMPARE(defaults.value(key), QVariant(QStringLiteral("kept")));
     QCOMPARE(spy.size(), 1);
-    QCOMPARE(dconf({QStringLiteral("dump"), folder}), QString());
+    QCOMPARE(dconf({QStringLiteral("dump"), suiteFolder}), QString());
 }
 
 void DconfUserDefaultsTest::aSuiteWhoseNameIsNoFolderCannotBeOpenedAndLivesInMemory_data()
@@ -399,13 +382,13 @@ int writeOnCommand(int argc, char **argv)
 
 }
 
-static int run(int argc, char **argv)
+static int runDconfUserDefaults(int argc, char **argv)
 {
     if (argc == 3 && qstrcmp(argv[1], "--write") == 0)
         return writeOnCommand(argc, argv);
     return runInPrivateSession<DconfUserDefaultsTest>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runDconfUserDefaults)
 
 #include "tst_dconfuserdefaults.moc"

@@ -109,7 +109,7 @@ void InstancesTest::whatIsNotInstalledIsNotStarted()
     QVERIFY(instances().claim(name()));
 }
 
-static int run(int argc, char **argv)
+static int runInstances(int argc, char **argv)
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -120,6 +120,6 @@ static int run(int argc, char **argv)
     return OtherInstance::run(arguments);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runInstances)
 
 #include "tst_instances.moc"

@@ -436,7 +436,7 @@ int runAnotherProgram(int argc, char **argv)
 
 }
 
-static int run(int argc, char **argv)
+static int runKeyMonitor(int argc, char **argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--another-program") == 0)
         return runAnotherProgram(argc, argv);
@@ -449,6 +449,6 @@ static int run(int argc, char **argv)
     return runTest<KeyMonitorTest>(argc, argv, around);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runKeyMonitor)
 
 #include "tst_keymonitor.moc"

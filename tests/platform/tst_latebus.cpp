@@ -1,10 +1,10 @@
 #include "DBusNotificationCenter.h"
 #include "DconfUserDefaults.h"
+#include "OutsideStore.h"
 #include "PortalAppearance.h"
 #include "PrivateSession.h"
 #include "SessionBus.h"
 #include "TestProgram.h"
-#include "Tool.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -17,9 +17,6 @@ using namespace std::chrono_literals;
 using Trouble = UserDefaults::Trouble;
 
 namespace {
-
-const QString suiteName = QStringLiteral("com.vexmoor.corvane");
-const QString path = QStringLiteral("/com/vexmoor/corvane/key");
 
 /// Accepts connections and says nothing.
 class SilentBus {
@@ -83,13 +80,13 @@ void LateBusTest::aBusThatComesIsUsed()
     silent.reset();
     QVERIFY(m_session.start());
     QTRY_COMPARE(defaults.trouble(), Trouble::none);
-    QCOMPARE(dconf({QStringLiteral("read"), path}), "true");
-    dconf({QStringLiteral("write"), path, QStringLiteral("false")});
+    QCOMPARE(readFromOutside(QStringLiteral("key")), "true");
+    writeFromOutside(QStringLiteral("key"), QStringLiteral("false"));
     QTRY_COMPARE(defaults.value(QStringLiteral("key")), QVariant(false));
     QVERIFY(SessionBus::connectionNow());
 }
 
-static int run(int argc, char **argv)
+static int runLateBus(int argc, char **argv)
 {
     PrivateSession session;
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(session.busSocket()));
@@ -97,6 +94,6 @@ static int run(int argc, char **argv)
     return runTest<LateBusTest>(argc, argv, session);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runLateBus)
 
 #include "tst_latebus.moc"

@@ -1,16 +1,13 @@
 #include "DconfService.h"
 #include "DconfUserDefaults.h"
+#include "OutsideStore.h"
 #include "PrivateSession.h"
 #include "TestProgram.h"
-#include "Tool.h"
 
 using namespace std::chrono_literals;
 using Trouble = UserDefaults::Trouble;
 
 namespace {
-
-const QString suiteName = QStringLiteral("com.vexmoor.corvane");
-const QString path = QStringLiteral("/com/vexmoor/corvane/key");
 
 QByteArray variable()
 {
@@ -49,11 +46,11 @@ void OtherFoldersTest::aChangeByAnotherProcessIsRead()
     DconfUserDefaults defaults(suiteName);
     defaults.setValue(QStringLiteral("key"), true);
     QVERIFY(defaults.finishWrites(5s));
-    dconf({QStringLiteral("write"), path, QStringLiteral("false")});
+    writeFromOutside(QStringLiteral("key"), QStringLiteral("false"));
     QTRY_COMPARE(defaults.value(QStringLiteral("key")), QVariant(false));
 }
 
-static int run(int argc, char **argv)
+static int runOtherFolders(int argc, char **argv)
 {
     PrivateSession session;
     if (!session.start())
@@ -66,6 +63,6 @@ static int run(int argc, char **argv)
     return runTest<OtherFoldersTest>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runOtherFolders)
 
 #include "tst_otherfolders.moc"

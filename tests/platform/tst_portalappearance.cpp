@@ -4,7 +4,6 @@
 #include "TestProgram.h"
 
 #include <QDBusConnectionInterface>
-#include <QDBusVariant>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPalette>
@@ -34,11 +33,6 @@ QVariant only(const QString &group, const QString &key, const QVariant &value)
 QVariant dark()
 {
     return only(shared, colorScheme, 1U);
-}
-
-QVariant wrapped(const QVariant &value)
-{
-    return QVariant::fromValue(QDBusVariant(value));
 }
 
 const auto aqua = AppearanceName::Aqua;
@@ -339,7 +333,7 @@ void PortalAppearanceTest::aPortalsPreferenceOutranksThePalette()
     QTRY_COMPARE(appearance.bestMatch(), darkAqua);
 }
 
-static int run(int argc, char **argv)
+static int runPortalAppearance(int argc, char **argv)
 {
     PrivateSession session;
     const QString services = session.dataFolder() + QStringLiteral("/dbus-1/services/");
@@ -357,6 +351,6 @@ static int run(int argc, char **argv)
     return runTest<PortalAppearanceTest>(argc, argv, session);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runPortalAppearance)
 
 #include "tst_portalappearance.moc"

@@ -1,8 +1,8 @@
 #include "DconfService.h"
 #include "DconfUserDefaults.h"
+#include "OutsideStore.h"
 #include "PrivateSession.h"
 #include "TestProgram.h"
-#include "Tool.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -13,19 +13,6 @@ using namespace std::chrono_literals;
 using Trouble = UserDefaults::Trouble;
 
 namespace {
-
-const QString suiteName = QStringLiteral("com.vexmoor.corvane");
-const QString folder = QStringLiteral("/com/vexmoor/corvane/");
-
-QString readFromOutside(const QString &key)
-{
-    return dconf({QStringLiteral("read"), folder + key});
-}
-
-void writeFromOutside(const QString &key, const QString &value)
-{
-    dconf({QStringLiteral("write"), folder + key, value});
-}
 
 }
 

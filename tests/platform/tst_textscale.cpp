@@ -3,19 +3,9 @@
 #include "TestProgram.h"
 #include "TextScale.h"
 
-#include <QDBusVariant>
 #include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QVariant wrapped(const QVariant &value)
-{
-    return QVariant::fromValue(QDBusVariant(value));
-}
-
-}
 
 class TextScaleTest : public QObject {
     Q_OBJECT

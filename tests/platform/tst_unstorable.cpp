@@ -1,5 +1,6 @@
 #include "DBusNotificationCenter.h"
 #include "DconfUserDefaults.h"
+#include "OutsideStore.h"
 #include "PortalAppearance.h"
 #include "PrivateSession.h"
 #include "TestProgram.h"
@@ -11,11 +12,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const QString suiteName = QStringLiteral("com.vexmoor.corvane");
-
 /// Makes a session without a bus, for the reason that the environment names.
-struct Trouble {
-    Trouble()
+struct MissingBus {
+    MissingBus()
     {
         const QByteArray name = qgetenv("CORVANE_TROUBLE");
         if (name == "dead_bus")
@@ -103,7 +102,7 @@ void UnstorableTest::theAppearanceIsThatOfThePalette()
     QVERIFY(!appearance.shouldReduceMotion());
 }
 
-static int run(int argc, char **argv)
+static int runUnstorable(int argc, char **argv)
 {
     PrivateSession session;
     const QByteArray programs = session.dataFolder().toLocal8Bit();
@@ -111,11 +110,11 @@ static int run(int argc, char **argv)
               "#!/bin/sh\ntouch \"$XDG_RUNTIME_DIR/started\"\nexit 1\n");
     qputenv("PATH", programs + ':' + qgetenv("PATH"));
     qputenv("DISPLAY", ":1");
-    const Trouble trouble;
+    const MissingBus missing;
     const QGuiApplication application(argc, argv);
     return runTest<UnstorableTest>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runUnstorable)
 
 #include "tst_unstorable.moc"

@@ -133,7 +133,7 @@ void WindowOverviewTest::withoutABusNothingHappens()
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
 }
 
-static int run(int argc, char **argv)
+static int runWindowOverview(int argc, char **argv)
 {
     PrivateSession session;
     const QString services = session.dataFolder() + "/dbus-1/services";
@@ -150,6 +150,6 @@ static int run(int argc, char **argv)
     return runTest<WindowOverviewTest>(argc, argv, session);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runWindowOverview)
 
 #include "tst_windowoverview.moc"

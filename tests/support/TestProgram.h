@@ -18,10 +18,10 @@ public:
 
 /// Stands once in the source file of a test class. `surroundings` is a function template that runs the class: one of
 /// those below, runInPrivateSession or runOnDesktop.
-#define CORVANE_TEST(Class, surroundings) CORVANE_TEST_MAIN(surroundings<Class>)
+#define CORVANE_TEST(Class, surroundings) static const TestCase caseOf##Class(__FILE__, &(surroundings<Class>));
 
 /// The same with a function of the file's own.
-#define CORVANE_TEST_MAIN(function) static const TestCase testCase(__FILE__, &(function));
+#define CORVANE_TEST_MAIN(function) static const TestCase caseOf##function(__FILE__, &(function));
 
 /// Every warning fails the test function that runs, but those in which the platform without a screen names what it
 /// cannot do. Holds until the end of that function.

@@ -21,7 +21,6 @@
 namespace {
 
 const QString trusted = QStringLiteral("agent.accessibilityTrusted");
-constexpr int startTime = 30000; // milliseconds; the sanitizers and a busy machine make it long
 // The accent of the product, with which the list marks a drag that it takes.
 constexpr QColor accent(90, 92, 242);
 

@@ -95,7 +95,7 @@ void TileScreensTest::forAWindowOnNoScreenThatWithTheKeyboardDecides()
     QCOMPARE(tileBeside({5000, 500}), QPoint(5085, 812));
 }
 
-static int run(int argc, char **argv)
+static int runTileScreens(int argc, char **argv)
 {
     QTemporaryFile screens;
     if (!screens.open())
@@ -110,6 +110,6 @@ static int run(int argc, char **argv)
     return runTest<TileScreensTest>(argc, argv);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runTileScreens)
 
 #include "tst_tilescreens.moc"

@@ -125,7 +125,7 @@ void AccessibleActionsTest::cleanupTestCase()
     QCOMPARE(m_program.complaints(), QStringList());
 }
 
-static int run(int argc, char **argv)
+static int runAccessibleActions(int argc, char **argv)
 {
     if (argc > 1 && qstrcmp(argv[1], "--window") == 0)
         return runWindow(argc, argv);
@@ -136,6 +136,6 @@ static int run(int argc, char **argv)
     return runTest<AccessibleActionsTest>(argc, argv, desktop);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runAccessibleActions)
 
 #include "tst_accessibleactions.moc"

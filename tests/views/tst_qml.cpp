@@ -23,12 +23,12 @@ private:
 };
 
 /// The tests written in QML, in the folder that "-input" names.
-static int run(int argc, char **argv)
+static int runQml(int argc, char **argv)
 {
     Setup setup;
     return quick_test_main_with_setup(argc, argv, "qml", "", &setup);
 }
 
-CORVANE_TEST_MAIN(run)
+CORVANE_TEST_MAIN(runQml)
 
 #include "tst_qml.moc"

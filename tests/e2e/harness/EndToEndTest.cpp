@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int startTime = 30000; // milliseconds; the sanitizers and a busy machine make it long
 constexpr int answerTime = 5000; // milliseconds
 
 bool isShown(const Accessible &root, const QString &text)

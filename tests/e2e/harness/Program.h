@@ -4,6 +4,9 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 
+/// How long a program may take to start, in milliseconds: the sanitizers and a busy machine make it long.
+constexpr int startTime = 30000;
+
 /// One run of a program: started with a given environment, its output collected line by line, ended with this
 /// object.
 class Program {

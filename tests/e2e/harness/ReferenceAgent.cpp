@@ -5,12 +5,6 @@
 #include <QFile>
 #include <QTest>
 
-namespace {
-
-constexpr int startTime = 20000; // milliseconds
-
-}
-
 ReferenceAgent::ReferenceAgent(const QProcessEnvironment &environment)
     : Program(QStringLiteral(CORVANE_AGENT_PROGRAM), environment)
 {
@@ -19,7 +13,7 @@ ReferenceAgent::ReferenceAgent(const QProcessEnvironment &environment)
 bool ReferenceAgent::start(const Store &store, const QStringList &arguments)
 {
     QFile::remove(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/autostart/com.vexmoor.corvane.desktop"));
-    return Program::start(arguments) && store.waitFor(QStringLiteral("agent.launchAtLogin"), false, startTime);
+    return Program::start(arguments) && store.waitFor(AgentKey::launchAtLogin, false, startTime);
 }
 
 Accessible ReferenceAgent::find(AtspiRole role, const QString &name) const

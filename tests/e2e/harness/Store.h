@@ -6,6 +6,14 @@
 
 struct _DConfClient;
 
+/// What the agent reports, by the names of the keys.
+namespace AgentKey {
+
+inline const QString launchAtLogin = QStringLiteral("agent.launchAtLogin");
+inline const QString trusted = QStringLiteral("agent.accessibilityTrusted");
+
+}
+
 /// The store the program shares with its agent, read and written as another process does. Keys are those of
 /// the contract, such as "agent.launchAtLogin"; values are bool, double and QString.
 class Store {
