@@ -175,6 +175,7 @@ void TestSettings::renamingAndDeletingRewriteTheSavedLayouts()
     QCOMPARE(stored(), list({work, play}));
     keyboard().press(XK_Return);
     QVERIFY(disappears(ATSPI_ROLE_PUSH_BUTTON, u"Save name"_s));
+    settle();
     const QString games = QString(play).replace(u"Play"_s, u"My Games"_s);
     QCOMPARE(stored(), list({work, games}));
 
