@@ -5,6 +5,9 @@
 #include <QPainter>
 #include <QQuickWindow>
 
+#include <algorithm>
+#include <cmath>
+
 /// Stripes one device pixel wide, black on the even ones: any stretching or smoothing turns some of them grey.
 class Stripes : public CrispItem {
     Q_OBJECT
@@ -24,6 +27,27 @@ protected:
 
 private:
     qreal m_shade = 0;
+};
+
+/// A black item with a white mark in each corner of its upper and lower 20 points, and with a red line at its left.
+class Marked : public CrispItem {
+    Q_OBJECT
+public:
+    /// Whether nothing is said of rows that are alike.
+    bool isPlain = false;
+    /// Of the pictures that were painted, in pixels.
+    int highest = 0;
+
+protected:
+    void paint(QPainter *painter) override
+    {
+        highest = std::max(highest, painter->device()->height());
+        painter->fillRect(boundingRect(), Qt::black);
+        painter->fillRect(QRectF(0, 0, 1.5, height()), Qt::red);
+        for (const qreal y : {0.0, height() - 18})
+            painter->fillRect(QRectF(3, y, 5, 18), Qt::white);
+    }
+    qreal unevenEnds() const override { return isPlain ? CrispItem::unevenEnds() : 20; }
 };
 
 class CrispItemTest : public QObject {
@@ -116,6 +140,45 @@ private slots:
         m_platform->look.setName(AppearanceName::DarkAqua);
         m_window->grabWindow();
         QCOMPARE(m_item->paintings, before + 4);
+    }
+
+    void rowsThatAreAlikeAreKeptOnce_data()
+    {
+        QTest::addColumn<qreal>("height");
+        QTest::newRow("just high enough") << 104.0;
+        QTest::newRow("fractional") << 151.3;
+        QTest::newRow("high") << 400.0;
+    }
+    void rowsThatAreAlikeAreKeptOnce()
+    {
+        QFETCH(const qreal, height);
+        m_window->resize(100, 440);
+        Marked item;
+        item.setParentItem(m_window->contentItem());
+        item.setPosition({10, 7});
+        item.setSize({30, height});
+        const QImage kept = m_window->grabWindow();
+        const qreal scale = m_window->effectiveDevicePixelRatio();
+        QVERIFY(item.highest <= std::ceil(20 * scale));
+        item.isPlain = true;
+        item.update();
+        QCOMPARE(m_window->grabWindow(), kept);
+        QVERIFY(item.highest >= height * scale);
+        item.isPlain = false;
+        for (const qreal other : {height + 10, height}) {
+            item.setHeight(other);
+            item.update();
+            QCOMPARE(m_window->grabWindow() == kept, other == height);
+        }
+    }
+
+    void aLowItemIsKeptAsItIs()
+    {
+        Marked item;
+        item.setParentItem(m_window->contentItem());
+        item.setSize({30, 55});
+        m_window->grabWindow();
+        QVERIFY(item.highest >= 55);
     }
 
     void withoutASizeNothingIsPainted()

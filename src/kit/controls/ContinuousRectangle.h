@@ -1,9 +1,12 @@
 #pragma once
 
+#include "ContinuousRect.h"
 #include "CrispItem.h"
 
 #include <QColor>
 #include <QPainterPath>
+
+#include <algorithm>
 
 /// A rectangle with continuous corners that fills the item: card, well, capsule or circle.
 /// A point in a cut-off corner is outside the item, also for the pointer.
@@ -23,6 +26,7 @@ public:
 
 protected:
     void paint(QPainter *painter) override;
+    qreal unevenEnds() const override { return longestCorner * std::max(m_radius, 0.0) + m_strokeWidth; }
 
 private:
     QColor m_color = Qt::transparent;

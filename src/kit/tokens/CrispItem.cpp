@@ -6,7 +6,15 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 
+#include <algorithm>
 #include <cmath>
+
+namespace {
+
+/// Rows that are alike, in pixels, below which keeping one for all of them is not worth the trouble.
+constexpr int fewestAlike = 64;
+
+}
 
 CrispItem::CrispItem(QQuickItem *parent) : QQuickItem(parent)
 {
@@ -34,6 +42,34 @@ void CrispItem::setBleed(qreal bleed)
     update();
 }
 
+/// All rows as they are, or the uneven ones at both ends and between them one of those that are alike.
+QList<CrispItem::Rows> CrispItem::rows(int height, int bleed) const
+{
+    const qreal ends = std::max(std::ceil(unevenEnds() * scaleFactor()), 1.0) + bleed;
+    // Pixels that are blended need their neighbours.
+    if (m_isScaled || !(2 * ends + fewestAlike <= height))
+        return {{0, height, 0, height}};
+    const int end = int(ends);
+    return {{0, end, 0, end}, {end, 1, end, height - 2 * end}, {end + 1, end, height - end, end}};
+}
+
+QImage CrispItem::picture(QSize pixels, int bleed, const QList<Rows> &rows)
+{
+    const qreal scale = scaleFactor();
+    QImage image(pixels.width(), rows.constLast().kept + rows.constLast().keptCount,
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (const Rows &part : rows) {
+        QImage canvas(image.scanLine(part.kept), image.width(), part.keptCount, image.bytesPerLine(), image.format());
+        canvas.setDevicePixelRatio(scale);
+        QPainter painter(&canvas);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(QPointF(bleed, bleed - part.shown) / scale);
+        paint(&painter);
+    }
+    return image;
+}
+
 QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
     const qreal scale = scaleFactor();
@@ -46,26 +82,31 @@ QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 
     const QSize pixels = inside.grownBy({bleed, bleed, bleed, bleed});
     const QPointF origin = -QPointF(bleed, bleed) / scale;
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::transparent);
-    {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(-origin);
-        paint(&painter);
+    const QList<Rows> rows = this->rows(pixels.height(), bleed);
+    // The picture keeps the ratio 1: from here on sizes are in pixels, and the software renderer would apply the ratio
+    // a second time.
+    QSGTexture *texture =
+        window()->createTextureFromImage(picture(pixels, bleed, rows), QQuickWindow::TextureHasAlphaChannel);
+    if (old && old->childCount() != rows.size()) {
+        delete old;
+        old = nullptr;
     }
-    // From here on sizes are in pixels: the software renderer would apply the ratio a second time.
-    image.setDevicePixelRatio(1);
-
-    auto *node = static_cast<QSGImageNode *>(old);
-    if (!node) {
-        node = window()->createImageNode();
-        node->setOwnsTexture(true);
+    QSGNode *node = old ? old : new QSGNode;
+    QSGNode *next = node->firstChild();
+    for (const Rows &part : rows) {
+        auto *image = static_cast<QSGImageNode *>(next);
+        next = next ? next->nextSibling() : nullptr;
+        if (!image) {
+            image = window()->createImageNode();
+            // The texture before goes when nobody shows it any more.
+            image->setOwnsTexture(node->childCount() + 1 == rows.size());
+            node->appendChildNode(image);
+        }
+        image->setTexture(texture);
+        image->setFiltering(m_isScaled ? QSGTexture::Linear : QSGTexture::Nearest);
+        image->setSourceRect(0, part.kept, pixels.width(), part.keptCount);
+        image->setRect(origin.x(), origin.y() + part.shown / scale, pixels.width() / scale, part.shownCount / scale);
     }
-    node->setFiltering(m_isScaled ? QSGTexture::Linear : QSGTexture::Nearest);
-    node->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel));
-    node->setRect(QRectF(origin, QSizeF(pixels) / scale));
     return node;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QQuickItem>
 
 class QPainter;
@@ -33,6 +34,11 @@ protected:
     /// item.
     QRectF pixelBounds() const;
 
+    /// How far from its upper and its lower edge one row of the picture may differ from the next, in points. Further in
+    /// they are all alike, so that one is kept for all, and a high item takes little memory. Infinite unless
+    /// overridden.
+    virtual qreal unevenEnds() const { return std::numeric_limits<qreal>::infinity(); }
+
     /// How far the picture reaches beyond the item on every side, in points; 0 to begin with.
     void setBleed(qreal bleed);
 
@@ -41,7 +47,17 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
+    /// Rows of the picture, in pixels: those that are kept, and where they are shown, perhaps drawn out.
+    struct Rows {
+        int kept;
+        int keptCount;
+        int shown;
+        int shownCount;
+    };
+
     qreal scaleFactor() const;
+    QList<Rows> rows(int height, int bleed) const;
+    QImage picture(QSize pixels, int bleed, const QList<Rows> &rows);
 
     qreal m_bleed = 0;
     bool m_isScaled = false;
