@@ -73,6 +73,11 @@ double Process::memory() const
     return double(number(QStringLiteral("/proc/%1/smaps_rollup").arg(m_pid), "Pss:")) / 1024;
 }
 
+double Process::ownMemory() const
+{
+    return double(number(QStringLiteral("/proc/%1/smaps_rollup").arg(m_pid), "Anonymous:")) / 1024;
+}
+
 Process::Activity Process::activity() const
 {
     Activity activity;

@@ -20,6 +20,10 @@ public:
     /// Proportional set size in MiB; 0 once the process has ended.
     double memory() const;
 
+    /// What it has written into memory and no file backs, in MiB: other than the proportional set size it does not
+    /// depend on what else runs. 0 once the process has ended.
+    double ownMemory() const;
+
     /// What the process did since it started, all threads together.
     struct Activity {
         long wakeups = 0;

@@ -57,7 +57,7 @@ Cost start(Screen &screen, const QString &application)
     if (!painted)
         qFatal("no window was painted in time");
     std::this_thread::sleep_for(seconds(2));
-    return {duration<double, std::milli>(*painted - begin).count(), process.memory()};
+    return {duration<double, std::milli>(*painted - begin).count(), process.ownMemory()};
 }
 
 Cost typical(Screen &screen, const QString &application)

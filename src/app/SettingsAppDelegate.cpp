@@ -161,8 +161,9 @@ void SettingsAppDelegate::present(EBWindow &window)
         QGuiApplication::setWindowIcon(windowIcon());
         Platform::current().appearance().wake();
         startAgent();
-        keepSettings();
+        // Before the copy of the settings, whose large blocks of memory then go back to the system.
         emit opened();
+        keepSettings();
     };
     connect(&window, &QQuickWindow::frameSwapped, this, finish,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));

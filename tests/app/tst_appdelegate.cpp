@@ -28,6 +28,7 @@ private slots:
     void theWindowTellsWhyChangesAreNotSaved();
     void theWindowOffersToRestoreLostSettings_data();
     void theWindowOffersToRestoreLostSettings();
+    void settingsAreCopiedOnceTheStartHasGivenItsMemoryBack();
     void whatHasChangedAtTheEndIsCopied();
     void closingTheLastWindowEndsTheProcess();
     void theGuideIsThisApplicationStartedAgain();
@@ -192,6 +193,28 @@ void TestAppDelegate::theWindowOffersToRestoreLostSettings()
     QTRY_VERIFY(!NamedItems::first(content, offer, QAccessible::Notification));
     QCOMPARE(store.values, values);
     QVERIFY(NamedItems::first(content, "Corvane\nVersion 1.4", QAccessible::StaticText));
+}
+
+void TestAppDelegate::settingsAreCopiedOnceTheStartHasGivenItsMemoryBack()
+{
+    const QTemporaryDir state;
+    m_platform->state = state.path();
+    FakeUserDefaults &store = m_platform->suite("com.vexmoor.corvane");
+    store.values = {{"showMinimizeButton", true}};
+    {
+        StoreKeeper keeper;
+        keeper.finish(5s);
+    }
+    store.values.clear();
+    SettingsAppDelegate delegate;
+    // Whoever looks after the copy puts one of lost settings aside first of all.
+    bool isUntouched = false;
+    connect(&delegate, &SettingsAppDelegate::opened, this,
+            [&] { isUntouched = QFile::exists(state.filePath("settings.copy")); });
+    delegate.applicationDidFinishLaunching();
+    QTRY_VERIFY(QFile::exists(state.filePath("settings.lost")));
+    QVERIFY(isUntouched);
+    delegate.finish(5s);
 }
 
 void TestAppDelegate::whatHasChangedAtTheEndIsCopied()
