@@ -16,6 +16,12 @@ public:
     /// Booleans and strings. Without a session to post to, the notification is dropped in silence.
     virtual void post(const QString &name, const QVariantMap &userInfo) = 0;
 
+    /// Whether there is a session to post to.
+    virtual bool isAvailable() const = 0;
+
+    /// Calls `lost` when the session's notifications cease, while `context` lives.
+    virtual void whenLost(QObject *context, std::function<void()> lost) = 0;
+
     /// Calls `observer` for every notification of that name while `context` lives.
     virtual void observe(const QString &name, QObject *context, Observer observer) = 0;
 };

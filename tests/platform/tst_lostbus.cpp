@@ -41,9 +41,14 @@ void LostBusTest::theApplicationOutlivesItsBusAndUsesTheNext()
     QVERIFY(defaults.finishWrites(5s));
     center.post(QStringLiteral("com.vexmoor.corvane.command"), {});
     appearance.settle();
+    QVERIFY(center.isAvailable());
+    QObject context;
+    int losses = 0;
+    center.whenLost(&context, [&losses] { ++losses; });
 
     m_session.stop();
-    QTRY_VERIFY(!SessionBus::connection());
+    QTRY_VERIFY(!center.isAvailable());
+    QTRY_COMPARE(losses, 1);
     QCOMPARE(defaults.value(key), QVariant(QStringLiteral("stored")));
     defaults.setValue(key, QStringLiteral("memory"));
     QVERIFY(!defaults.finishWrites(5s));

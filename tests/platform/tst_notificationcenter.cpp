@@ -11,6 +11,7 @@ private slots:
     void anObserverHearsItsOwnNameAlone();
     void anObserverHearsNothingAfterItsContextIsGone();
     void whatNobodyHearsIsLost();
+    void itIsAvailableInASession();
 
 private:
     static DistributedNotificationCenter &center() { return platform().distributedNotificationCenter(); }
@@ -67,6 +68,11 @@ void NotificationCenterTest::whatNobodyHearsIsLost()
     center().post(m_name, {{"n", "late"}});
     VERIFY_SOON(!heard.isEmpty());
     QCOMPARE(heard, QStringList("late"));
+}
+
+void NotificationCenterTest::itIsAvailableInASession()
+{
+    QVERIFY(center().isAvailable());
 }
 
 CORVANE_TEST(NotificationCenterTest, runOnDesktop)

@@ -25,6 +25,10 @@ public:
         }
     }
 
+    bool isAvailable() const override { return true; }
+
+    void whenLost(QObject *, std::function<void()>) override { }
+
     void observe(const QString &name, QObject *context, Observer observer) override
     {
         m_observers.append({name, context, std::move(observer)});

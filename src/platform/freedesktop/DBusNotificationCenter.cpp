@@ -63,6 +63,16 @@ void DBusNotificationCenter::post(const QString &name, const QVariantMap &userIn
         flush(*bus);
 }
 
+bool DBusNotificationCenter::isAvailable() const
+{
+    return SessionBus::connection().has_value();
+}
+
+void DBusNotificationCenter::whenLost(QObject *context, std::function<void()> lost)
+{
+    QObject::connect(&SessionBus::instance(), &SessionBus::lost, context, std::move(lost));
+}
+
 void DBusNotificationCenter::observe(const QString &name, QObject *context, Observer observer)
 {
     const auto signal = signalNamed(name);

@@ -8,5 +8,7 @@
 class DBusNotificationCenter : public DistributedNotificationCenter {
 public:
     void post(const QString &name, const QVariantMap &userInfo) override;
+    bool isAvailable() const override;
+    void whenLost(QObject *context, std::function<void()> lost) override;
     void observe(const QString &name, QObject *context, Observer observer) override;
 };

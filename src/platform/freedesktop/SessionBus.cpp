@@ -199,6 +199,7 @@ void SessionBus::disconnected()
         QDBusConnection::disconnectFromBus(m_bus->name());
     m_bus.reset();
     watchSocket();
+    emit lost();
 }
 
 void SessionBus::watchSocket()

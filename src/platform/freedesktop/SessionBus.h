@@ -62,6 +62,9 @@ signals:
     /// There is a connection, after there was none.
     void connected();
 
+    /// There is no connection any more.
+    void lost();
+
 private slots:
     void disconnected();
     void look();
