@@ -365,6 +365,8 @@ void TestInstall::theShellsCompleteCommandsKeysAndValues_data()
     QTest::newRow("Booleans") << u"--json set layouts.shelf "_s << QStringList{u"false"_s, u"true"_s};
     QTest::newRow("the agent's commands") << u"send set"_s << QStringList{u"setLaunchAtLogin"_s};
     QTest::newRow("actions") << u"layouts re"_s << QStringList{u"rename"_s};
+    QTest::newRow("no choice for a command without one") << u"send applySettings "_s << QStringList();
+    QTest::newRow("programs") << u"check-agent corvane-c"_s << QStringList{u"corvane-ctl"_s};
     QTest::newRow("layouts") << u"layouts show 3F"_s << QStringList{u"3F2504E0-4F89-41D3-9A0C-0305E82C3301"_s};
 }
 
@@ -381,16 +383,19 @@ void TestInstall::theShellsCompleteCommandsKeysAndValues()
             tree.path(u"share/bash-completion/completions/corvane-ctl"_s), typed);
     const QString fish = u"source '%1'; complete -C 'corvane-ctl %2' | string split -f1 \\t"_s.arg(
         tree.path(u"share/fish/vendor_completions.d/corvane-ctl.fish"_s), typed);
+    const QStringList zsh = {u"-f"_s, QStringLiteral(OFFERED_BY_ZSH), tree.path(u"share/zsh/site-functions"_s),
+                             u"corvane-ctl "_s + typed};
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"PATH"_s, tree.path(u"bin:"_s) + environment.value(u"PATH"_s));
-    for (const QStringList &shell :
-         {QStringList{u"bash"_s, u"-c"_s, bash}, QStringList{u"fish"_s, u"-N"_s, u"-c"_s, fish}}) {
+    for (const QStringList &shell : {QStringList{u"bash"_s, u"-c"_s, bash},
+                                     QStringList{u"fish"_s, u"-N"_s, u"-c"_s, fish}, QStringList{u"zsh"_s} + zsh}) {
         QProcess process;
         process.setProcessEnvironment(environment);
         process.start(shell.first(), shell.mid(1));
         QVERIFY2(process.waitForFinished(), qPrintable(shell.first()));
         QStringList offered = QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
         offered.sort();
+        offered.removeDuplicates();
         QTEST(offered, "offered");
     }
 }
