@@ -5,7 +5,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
-/// An agent that keeps to the contract but for the one rule that its argument names.
+/// An agent that keeps to the contract but for the one rule that its argument names, and the part of it after a dash.
 class BrokenAgent : public QObject {
     Q_OBJECT
 public:
@@ -46,13 +46,16 @@ private:
         const QVariant command = userInfo.value("command");
         const QVariant value = userInfo.value("value");
         if (command == QVariant("setLaunchAtLogin")) {
+            const bool isRepeated = breaks("login-twice") && m_store.value("agent.launchAtLogin") == value;
             if (value.typeId() == QMetaType::Bool || breaks("value"))
-                report("agent.launchAtLogin", value.toBool() && !breaks("login"));
+                report("agent.launchAtLogin", value.toBool() && !breaks("login") && !isRepeated);
         } else if (command == QVariant("requestAccessibility")) {
             report("agent.accessibilityTrusted", breaks("types") ? QVariant("yes") : QVariant(true));
         } else if (command == QVariant("applySettings")) {
             if (breaks("settings") && m_store.value("buttonTheme") != QVariant("classic"))
                 m_store.setValue("buttonTheme", "classic");
+            if (breaks("settings-unknown"))
+                m_store.setValue("note", QVariant());
             const QString layouts = m_store.value("layouts.saved").toString();
             if (breaks("layouts") && !layouts.isEmpty())
                 m_store.setValue("layouts.saved", QString(layouts).remove("\"colour\":\"blue\","));

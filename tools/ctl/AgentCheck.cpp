@@ -149,6 +149,10 @@ void AgentCheck::checkLogin()
         expect(false, QStringLiteral("asked to take it away, a login item is still reported"));
     else
         expect(setLogin(true, extra), QStringLiteral("an extra entry keeps it from doing what is asked for"));
+    post({{commandEntry, Shared::Command::setLaunchAtLogin}, {valueEntry, true}});
+    settle();
+    expect(m_rules.last().faults.size() > 0 || isRegistered(),
+           QStringLiteral("asked for the same once more, it takes the login item away"));
     expectAlive(QStringLiteral("setLaunchAtLogin"));
 }
 
@@ -196,6 +200,8 @@ void AgentCheck::checkSettings()
     QVariantMap chosen;
     QVariantMap strange;
     QVariantMap none;
+    chosen.insert(QStringLiteral("note"), QStringLiteral("from a newer application"));
+    none.insert(QStringLiteral("note"), QVariant());
     for (const Contract::StoreKey &key : Contract::storeKeys()) {
         if (key.writer != u"application")
             continue;
