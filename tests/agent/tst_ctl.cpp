@@ -1,4 +1,6 @@
+#include "BusDaemon.h"
 #include "CommandListener.h"
+#include "DconfService.h"
 #include "ExportFile.h"
 #include "PrivateSession.h"
 #include "Program.h"
@@ -56,6 +58,7 @@ private slots:
     void exportAndImportCarryEverything();
     void anImportThroughAPipeIsAppliedOnce();
     void aDryRunChangesNothing();
+    void aDryRunRefusesWhatTheImportWould();
     void aFileThatIsRefusedIsNamedWithItsLine();
     void anExportNamesWhatItLeavesOut();
     void watchingTellsOfChangesAndCommands();
@@ -63,7 +66,14 @@ private slots:
     void anIdMustMeanOneLayout();
     void unreadableLayoutsAreLeftAlone();
     void aNameCannotSteerTheTerminal();
-    void withoutABusNothingIsSavedAndThatIsSaid();
+    void columnsStandBelowEachOtherInEveryScript();
+    void otherLayoutsOfTheSameNumberShowAsChanged();
+    void anExportIsWrittenIntoAPipeThatHasAName();
+    void aResultThatCannotBeWrittenGivesOne_data();
+    void aResultThatCannotBeWrittenGivesOne();
+    void withoutABusNothingIsDoneAndThatIsSaid_data();
+    void withoutABusNothingIsDoneAndThatIsSaid();
+    void watchingEndsWithTheBus();
     void checkAgentPassesTheReferenceAgent();
 
 private:
@@ -136,6 +146,10 @@ void CtlTest::whatIsNotUnderstoodIsSaidAndGivesTwo()
     QCOMPARE(result.code, 2);
     QCOMPARE(result.output, QByteArray());
     QVERIFY2(result.errors.startsWith("corvane-ctl: "), result.errors);
+    const Result json = run(QStringList{u"--json"_s} + arguments);
+    QCOMPARE(json.code, 2);
+    const QString said = u"corvane-ctl: %1\n"_s.arg(json.json().object().value(u"error"_s).toString());
+    QVERIFY2(result.errors.startsWith(said.toUtf8()), json.output);
     QCOMPARE(m_store.readAll(), QVariantMap());
 }
 
@@ -359,6 +373,20 @@ void CtlTest::aDryRunChangesNothing()
     QCOMPARE(m_store.readAll(), QVariantMap());
 }
 
+void CtlTest::aDryRunRefusesWhatTheImportWould()
+{
+    QProcessEnvironment locked = QProcessEnvironment::systemEnvironment();
+    locked.insert(u"DCONF_PROFILE"_s,
+                  DconfService::makeLock(u"/com/vexmoor/corvane/buttonTheme"_s, m_folder.path()));
+    const QByteArray text = ExportFile::write({{u"buttonTheme"_s, u"soft"_s}});
+    for (const QStringList &options : {QStringList(), QStringList{u"--dry-run"_s}}) {
+        const Result result = run(QStringList{u"import"_s, u"-"_s} + options, text, locked);
+        QCOMPARE(result.code, 1);
+        QCOMPARE(result.errors,
+                 QByteArray("corvane-ctl: the administrator has locked \"buttonTheme\"; nothing was imported\n"));
+    }
+}
+
 void CtlTest::aFileThatIsRefusedIsNamedWithItsLine()
 {
     QFile bad(file(u"bad.json"_s));
@@ -449,21 +477,100 @@ void CtlTest::unreadableLayoutsAreLeftAlone()
 
 void CtlTest::aNameCannotSteerTheTerminal()
 {
-    m_store.write(u"layouts.saved"_s, u"[%1]"_s.arg(layoutText(id, u"\\u001b]0;owned\\u0007"_s)));
+    m_store.write(u"layouts.saved"_s, u"[%1]"_s.arg(layoutText(id, u"\\u001b]0;owned\\u0007\\u009b1m\\u202eturned"_s)));
     for (const QStringList &operands : {QStringList{u"list"_s}, QStringList{u"show"_s, id}}) {
         const QByteArray shown = run(QStringList{u"layouts"_s} + operands).output;
         QVERIFY2(shown.contains("]0;owned") && !shown.contains('\x1b') && !shown.contains('\a'), shown);
+        QVERIFY2(!shown.contains("\xc2\x9b") && !shown.contains("\xe2\x80\xae"), shown);
+        const Result json = run(QStringList{u"--json"_s, u"layouts"_s} + operands);
+        QVERIFY2(json.output.contains("\\u009b") && !json.output.contains("\xc2\x9b"), json.output);
+        QVERIFY(!json.json().isNull());
     }
 }
 
-void CtlTest::withoutABusNothingIsSavedAndThatIsSaid()
+void CtlTest::columnsStandBelowEachOtherInEveryScript()
 {
+    const QString layout = uR"([{"id":"%1","name":"","windows":[%2,%3]}])"_s;
+    const QString window = uR"({"app":"%1","bundleID":"","rect":{"h":1,"w":1,"x":0,"y":0},"title":"Notes"})"_s;
+    m_store.write(u"layouts.saved"_s, layout.arg(id, window.arg(u"日本語エディタ"_s), window.arg(u"Editor"_s)));
+    const QString shown = QString::fromUtf8(run({u"layouts"_s, u"show"_s, id}).output);
+    QVERIFY2(shown.contains(u"日本語エディタ  Notes\n"), qPrintable(shown));
+    QVERIFY2(shown.contains(u"Editor          Notes\n"), qPrintable(shown));
+}
+
+void CtlTest::otherLayoutsOfTheSameNumberShowAsChanged()
+{
+    m_store.write(u"layouts.saved"_s, u"[%1]"_s.arg(layoutText(id, u"Work"_s)));
+    const QByteArray file = ExportFile::write({{u"layouts.saved"_s, u"[%1]"_s.arg(layoutText(otherId, u"Work"_s))}});
+    QCOMPARE(run({u"import"_s, u"--dry-run"_s, u"-"_s}, file).output.simplified(),
+             QByteArray("KEY BEFORE AFTER layouts.saved 1 layout 1 layout (changed)"));
+}
+
+void CtlTest::anExportIsWrittenIntoAPipeThatHasAName()
+{
+    const Result result = run({u"export"_s, u"/dev/stdout"_s});
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(result.code, 0);
+    QVERIFY2(result.output.startsWith("{\n  \"format\": 1"), result.output);
+}
+
+void CtlTest::aResultThatCannotBeWrittenGivesOne_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("list") << QStringList{u"list"_s};
+    QTest::newRow("get") << QStringList{u"get"_s, u"buttonTheme"_s, u"--json"_s};
+    QTest::newRow("export") << QStringList{u"export"_s, u"-"_s};
+    QTest::newRow("help") << QStringList{u"--help"_s};
+    QTest::newRow("watch") << QStringList{u"watch"_s};
+}
+
+void CtlTest::aResultThatCannotBeWrittenGivesOne()
+{
+    QFETCH(QStringList, arguments);
+    QProcess process;
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start(program, arguments);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.readAllStandardError(), QByteArray("corvane-ctl: standard output: No space left on device\n"));
+    QCOMPARE(process.exitCode(), 1);
+}
+
+void CtlTest::withoutABusNothingIsDoneAndThatIsSaid_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("reason");
+    const QByteArray noBus = "there is no session bus";
+    QTest::newRow("set") << QStringList{u"set"_s, u"buttonTheme"_s, u"soft"_s} << noBus;
+    QTest::newRow("reset") << QStringList{u"reset"_s, u"--all"_s} << noBus;
+    QTest::newRow("send") << QStringList{u"send"_s, u"applySettings"_s} << noBus;
+    QTest::newRow("watch") << QStringList{u"watch"_s} << noBus;
+    QTest::newRow("import") << QStringList{u"import"_s, u"-"_s} << noBus + "; nothing was imported";
+}
+
+void CtlTest::withoutABusNothingIsDoneAndThatIsSaid()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, reason);
     QProcessEnvironment lonely = QProcessEnvironment::systemEnvironment();
     lonely.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
-    const Result result = run({u"set"_s, u"buttonTheme"_s, u"soft"_s}, {}, lonely);
+    const Result result = run(arguments, ExportFile::write({{u"buttonTheme"_s, u"soft"_s}}), lonely);
+    QCOMPARE(result.errors, "corvane-ctl: " + reason + '\n');
     QCOMPARE(result.code, 1);
-    QCOMPARE(result.errors, QByteArray("corvane-ctl: not saved: there is no session bus\n"));
     QCOMPARE(run({u"get"_s, u"buttonTheme"_s}, {}, lonely).output, QByteArray("classic\n"));
+}
+
+void CtlTest::watchingEndsWithTheBus()
+{
+    auto bus = std::make_unique<BusDaemon>(file(u"bus"_s), QStringList());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus->address()));
+    Program watch(program, environment);
+    QVERIFY(watch.start({u"watch"_s}));
+    QTRY_COMPARE(watch.standardOutput(), QStringList{uR"({"type":"watching"})"_s});
+    bus.reset();
+    QVERIFY(watch.waitForExit());
+    QCOMPARE(watch.exitCode(), 1);
+    QCOMPARE(watch.standardError(), QStringList{u"corvane-ctl: the session bus has ended"_s});
 }
 
 void CtlTest::checkAgentPassesTheReferenceAgent()

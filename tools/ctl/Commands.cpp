@@ -23,15 +23,17 @@ struct Command {
     /// `any` for as many as there are.
     qsizetype most;
     int (*run)(const Call &call);
+    /// Whether there must be a session to talk to.
+    bool needsSession = false;
 };
 
 constexpr Command commands[] = {
     {"list", "", "show every key with its type, value, default and writer", 0, 0, &StoreCommands::list},
     {"get", "KEY", "show the value of a key", 1, 1, &StoreCommands::get},
-    {"set", "KEY VALUE", "change a setting, and have the agent apply it", 2, 2, &StoreCommands::set},
-    {"reset", "KEY... | --all", "put settings back to their defaults", 0, any, &StoreCommands::reset},
-    {"watch", "", "print changes and commands as they come, a line of JSON each", 0, 0, &WatchCommand::run},
-    {"send", "COMMAND [true|false]", "post a command to the agent", 1, 2, &StoreCommands::send},
+    {"set", "KEY VALUE", "change a setting, and have the agent apply it", 2, 2, &StoreCommands::set, true},
+    {"reset", "KEY... | --all", "put settings back to their defaults", 0, any, &StoreCommands::reset, true},
+    {"watch", "", "print changes and commands as they come, a line of JSON each", 0, 0, &WatchCommand::run, true},
+    {"send", "COMMAND [true|false]", "post a command to the agent", 1, 2, &StoreCommands::send, true},
     {"export", "FILE | -", "write the settings to a file", 1, 1, &TransferCommands::exportTo},
     {"import", "FILE | - [--dry-run]", "take the settings from a file", 1, 1, &TransferCommands::importFrom},
     {"layouts", "list | show ID | rename ID NAME | delete ID", "look after the saved layouts", 1, 3,
@@ -58,9 +60,9 @@ void printHelp()
                                 "Exit status: 0 done, 1 refused or failed, 2 not understood."));
 }
 
-int misunderstood(const QString &text)
+int misunderstood(const Call &call, const QString &text)
 {
-    Output::remark(text);
+    Output::failure(call, text);
     Output::remark(QStringLiteral("try 'corvane-ctl --help'"));
     return ExitCode::usage;
 }
@@ -71,28 +73,30 @@ int Commands::run(const Call &call)
 {
     if (call.help) {
         printHelp();
-        return ExitCode::success;
+        return Output::delivered(ExitCode::success);
     }
     if (call.version) {
         Output::line(u"corvane-ctl "
                      + Platform::current().mainBundle().string(QStringLiteral("CFBundleShortVersionString")));
-        return ExitCode::success;
+        return Output::delivered(ExitCode::success);
     }
     if (!call.unknownOption.isEmpty())
-        return misunderstood(QStringLiteral("there is no option %1").arg(call.unknownOption));
+        return misunderstood(call, QStringLiteral("there is no option %1").arg(call.unknownOption));
     if (call.command.isEmpty())
-        return misunderstood(QStringLiteral("a command is missing"));
+        return misunderstood(call, QStringLiteral("a command is missing"));
     const auto *command = std::ranges::find_if(
         commands, [&](const Command &candidate) { return call.command == QLatin1String(candidate.name); });
     if (command == std::end(commands))
-        return misunderstood(QStringLiteral("there is no command \"%1\"").arg(call.command));
+        return misunderstood(call, QStringLiteral("there is no command \"%1\"").arg(call.command));
     const qsizetype count = call.operands.size();
     const bool isUnderstood = count >= command->least && (command->most == any || count <= command->most)
         && (!call.dryRun || call.command == u"import") && (!call.all || call.command == u"reset");
+    if (isUnderstood && command->needsSession && !Platform::current().distributedNotificationCenter().isAvailable())
+        return Output::failure(call, QStringLiteral("there is no session bus"));
     const int code = isUnderstood ? command->run(call) : ExitCode::usage;
-    if (code == ExitCode::usage) {
-        Output::remark(QStringLiteral("usage: corvane-ctl %1 %2")
-                           .arg(QLatin1String(command->name), QLatin1String(command->operands)));
-    }
-    return code;
+    if (code != ExitCode::usage)
+        return Output::delivered(code);
+    const QString usage =
+        QStringLiteral("usage: corvane-ctl %1 %2").arg(QLatin1String(command->name), QLatin1String(command->operands));
+    return Output::failure(call, usage.trimmed(), ExitCode::usage);
 }

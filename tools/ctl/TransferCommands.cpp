@@ -1,6 +1,7 @@
 #include "TransferCommands.h"
 
 #include "Output.h"
+#include "Platform.h"
 #include "SettingText.h"
 #include "SettingsTransfer.h"
 #include "Shared.h"
@@ -8,6 +9,7 @@
 #include "UserDefaults.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QSaveFile>
@@ -23,8 +25,16 @@ const QString standardStream = QStringLiteral("-");
 /// The reason why it could not be written; empty when it was.
 QString written(const QString &path, const QByteArray &bytes)
 {
-    if (path == standardStream)
-        return Output::bytes(bytes) ? QString() : QStringLiteral("nobody reads the output");
+    if (path == standardStream) {
+        Output::bytes(bytes);
+        return {};
+    }
+    if (const QFileInfo place(path); place.exists() && !place.isFile()) {
+        // A pipe or a device is written into, not replaced.
+        QFile file(path);
+        const bool isWritten = file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+        return isWritten ? QString() : QStringLiteral("%1: %2").arg(path, file.errorString());
+    }
     QSaveFile file(path);
     const bool isWritten = file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
     return isWritten ? QString() : QStringLiteral("%1: %2").arg(path, file.errorString());
@@ -71,8 +81,10 @@ void show(const Call &call, const QList<SettingsTransfer::Change> &changes)
     }
     QList<QStringList> rows = {{QStringLiteral("KEY"), QStringLiteral("BEFORE"), QStringLiteral("AFTER")}};
     for (const SettingsTransfer::Change &change : changes) {
-        rows.append(
-            {change.key, SettingText::shown(change.key, change.before), SettingText::shown(change.key, change.after)});
+        const QString before = SettingText::shown(change.key, change.before);
+        const QString after = SettingText::shown(change.key, change.after);
+        // As many layouts, but others.
+        rows.append({change.key, before, before == after ? after + QStringLiteral(" (changed)") : after});
     }
     Output::table(rows);
 }
@@ -113,15 +125,15 @@ int TransferCommands::importFrom(const Call &call)
         return refuse(call, name, reading.faults);
     UserDefaults &store = Shared::store();
     const QList<SettingsTransfer::Change> changes = SettingsTransfer::changes(reading.settings, store);
-    if (!call.dryRun) {
-        for (const SettingsTransfer::Change &change : changes) {
-            if (!store.isWritable(change.key))
-                return Output::failure(
-                    call, QStringLiteral("the administrator has locked \"%1\"; nothing was imported").arg(change.key));
-        }
-        if (!SettingsTransfer::apply(changes, store, 5s))
-            return Output::failure(call, QStringLiteral("the settings cannot be saved; nothing was imported"));
+    for (const SettingsTransfer::Change &change : changes) {
+        if (!store.isWritable(change.key))
+            return Output::failure(
+                call, QStringLiteral("the administrator has locked \"%1\"; nothing was imported").arg(change.key));
     }
+    if (!call.dryRun && !Platform::current().distributedNotificationCenter().isAvailable())
+        return Output::failure(call, QStringLiteral("there is no session bus; nothing was imported"));
+    if (!call.dryRun && !SettingsTransfer::apply(changes, store, 5s))
+        return Output::failure(call, QStringLiteral("the settings cannot be saved; nothing was imported"));
     show(call, changes);
     return ExitCode::success;
 }

@@ -12,7 +12,7 @@ namespace {
 
 const QString type = QStringLiteral("type");
 
-/// Prints; when nobody reads any more the program ends.
+/// Prints; when that cannot be read any more the program ends.
 void tell(const QJsonObject &event)
 {
     if (!Output::jsonLine(event))
@@ -52,15 +52,18 @@ private:
 
 }
 
-int WatchCommand::run(const Call & /*call*/)
+int WatchCommand::run(const Call &call)
 {
     Follower follower;
-    Platform::current().distributedNotificationCenter().observe(
-        Shared::Command::name, &follower, [](const QVariantMap &userInfo) {
-            QJsonObject event = QJsonObject::fromVariantMap(userInfo);
-            event.insert(type, QStringLiteral("command"));
-            tell(event);
-        });
-    tell({{type, QStringLiteral("watching")}});
-    return QCoreApplication::exec();
+    DistributedNotificationCenter &center = Platform::current().distributedNotificationCenter();
+    center.whenLost(&follower, [] { QCoreApplication::exit(ExitCode::failure); });
+    center.observe(Shared::Command::name, &follower, [](const QVariantMap &userInfo) {
+        QJsonObject event = QJsonObject::fromVariantMap(userInfo);
+        event.insert(type, QStringLiteral("command"));
+        tell(event);
+    });
+    if (!Output::jsonLine(QJsonObject{{type, QStringLiteral("watching")}}))
+        return ExitCode::failure;
+    const int code = QCoreApplication::exec();
+    return code == ExitCode::success ? code : Output::failure(call, QStringLiteral("the session bus has ended"));
 }
