@@ -33,19 +33,19 @@
     </message>
     <message>
         <source>Allowed in System Settings.</source>
-        <translation>Permitido en Configuración del sistema.</translation>
+        <translation>Permitido en Ajustes del Sistema.</translation>
     </message>
     <message>
         <source>Opens Privacy &amp; Security in System Settings.</source>
-        <translation>Abre «Privacidad y seguridad» en Configuración del sistema.</translation>
+        <translation>Abre «Privacidad y seguridad» en Ajustes del Sistema.</translation>
     </message>
     <message>
         <source>Switch on Corvane in the list in System Settings.</source>
-        <translation>Active Corvane en la lista de Configuración del sistema.</translation>
+        <translation>Active Corvane en la lista de Ajustes del Sistema.</translation>
     </message>
     <message>
         <source>Switch on Corvane in the list. Not there? Drag in the tile under System Settings.</source>
-        <translation>Active Corvane en la lista. ¿No está? Arrastre la ficha que hay bajo Configuración del sistema.</translation>
+        <translation>Active Corvane en la lista. ¿No está? Arrastre la ficha que hay bajo Ajustes del Sistema.</translation>
     </message>
     <message>
         <source>Open Again</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation>Abrir Configuración del sistema</translation>
+        <translation>Abrir Ajustes del Sistema</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>For the full-screen button and ⌘F.</source>
-        <translation>Para el botón de pantalla completa y ⌘F.</translation>
+        <translation>El botón y ⌘F.</translation>
     </message>
     <message>
         <source>Own Space</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>Optional. Pick a look and a size; you can change them any time in Settings.</source>
-        <translation>Opcional. El aspecto y el tamaño también se cambian en Configuración.</translation>
+        <translation>Opcional. El aspecto y el tamaño también se cambian en Ajustes.</translation>
     </message>
     <message>
         <source>Size</source>
@@ -359,7 +359,7 @@
     <message>
         <source>%1 Settings</source>
         <extracomment>The title of the settings window; %1 is the product&apos;s name.</extracomment>
-        <translation>Configuración de %1</translation>
+        <translation>Ajustes de %1</translation>
     </message>
 </context>
 <context>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>Waiting for your OK in System Settings › General › Login Items.</source>
-        <translation>A la espera de su visto bueno en Configuración del sistema › General › Ítems de inicio.</translation>
+        <translation>A la espera de su visto bueno en Ajustes del Sistema › General › Ítems de inicio.</translation>
     </message>
     <message>
         <source>So the buttons are there whenever you open Mission Control.</source>
@@ -456,7 +456,7 @@
     </message>
     <message>
         <source>Open Settings</source>
-        <translation>Abrir Configuración</translation>
+        <translation>Abrir Ajustes</translation>
     </message>
     <message>
         <source>Welcome guide</source>
@@ -717,7 +717,7 @@
     <message>
         <source>Settings · %1</source>
         <extracomment>The line above a page&apos;s heading; %1 is the page&apos;s number.</extracomment>
-        <translation>Configuración · %1</translation>
+        <translation>Ajustes · %1</translation>
     </message>
 </context>
 <context>

@@ -977,6 +977,7 @@ Version %2</translation>
     <name>Theme</name>
     <message>
         <source>Classic</source>
+        <translatorcomment>« Classique » est plus large que les 53 points d’un aspect.</translatorcomment>
         <translation>Usuel</translation>
     </message>
     <message>
