@@ -22,6 +22,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "dconf-service, libqt6svg6,\
  qml6-module-qtqml, qml6-module-qtqml-models, qml6-module-qtqml-workerscript,\
  qml6-module-qtquick, qml6-module-qtquick-templates, qml6-module-qtquick-window, qt6-wayland")
+# dbus-daemon is the bus that "corvane-ctl check-agent" starts; the session may have another one.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "at-spi2-core, dbus-daemon, fonts-dejavu-core, fonts-inter")
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/DebianLayout.cmake")
 set(CPACK_CORVANE_RESOURCES "${PROJECT_SOURCE_DIR}/resources")
