@@ -4,7 +4,6 @@
 #include "EBApp.h"
 #include "Platform.h"
 #include "Shared.h"
-#include "ViewEngine.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
@@ -31,19 +30,18 @@ AboutWindow::AboutWindow(QQmlEngine &engine)
     //: The title of the About window; %1 is the product's name.
     setTitle(tr("About %1").arg(EBApps::displayName(EBApp::corvane)));
     center();
-    auto *screen = ViewEngine::make(engine, screenView,
-                                    {
-                                        {QStringLiteral("app"), EBApps::rawValue(EBApp::corvane)},
-                                        {QStringLiteral("version"), versionText()},
-                                        {QStringLiteral("blurb"),
-                                         tr("Close, minimize and full-screen windows right in Mission Control, with "
-                                            "buttons on every window and the "
-                                            "shortcuts you already know.")},
-                                        {QStringLiteral("offersUpdates"), AgentBundle::updatesAvailable()},
-                                        {QStringLiteral("website"), website},
-                                    });
+    auto *screen = host(engine, screenView,
+                        {
+                            {QStringLiteral("app"), EBApps::rawValue(EBApp::corvane)},
+                            {QStringLiteral("version"), versionText()},
+                            {QStringLiteral("blurb"),
+                             tr("Close, minimize and full-screen windows right in Mission Control, with "
+                                "buttons on every window and the "
+                                "shortcuts you already know.")},
+                            {QStringLiteral("offersUpdates"), AgentBundle::updatesAvailable()},
+                            {QStringLiteral("website"), website},
+                        });
     connect(screen, SIGNAL(checkForUpdates()), this, SLOT(checkForUpdates()));
-    host(screen);
 }
 
 void AboutWindow::keyPressEvent(QKeyEvent *event)

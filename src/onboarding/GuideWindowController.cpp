@@ -2,7 +2,6 @@
 
 #include "GuideVisibility.h"
 #include "Platform.h"
-#include "ViewEngine.h"
 
 #include <QEvent>
 
@@ -24,8 +23,8 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
     m_window.setTitle(tr("Welcome to Corvane"));
     m_window.center();
     m_window.installEventFilter(this);
-    m_window.host(ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
-                                   {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}}));
+    m_window.host(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
+                  {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}});
     connect(&m_flow, &OnboardingFlow::stepChanged, this, &GuideWindowController::followStep);
     followStep();
     m_keyMonitor = Platform::current().monitorKeyDown([this](const KeyDown &key) {

@@ -4,7 +4,6 @@
 #include "EBKit.h"
 #include "Motion.h"
 #include "Platform.h"
-#include "ViewEngine.h"
 
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -55,6 +54,9 @@ EBWindow::EBWindow(EBApp app, QSize contentSize, Style style) : m_app(app), m_st
 
 void EBWindow::host(QQuickItem *view)
 {
+    // The chrome imports the kit, before which there is no environment.
+    QQuickItem *chrome = makeChrome(qmlEngine(view));
+    EBEnvironment::of(contentItem())->setEbApp(m_app);
     addItem(view);
     auto *handle = new Handle(contentItem());
     // Before a window is shown it has its size already, and its content item has none.
@@ -65,15 +67,13 @@ void EBWindow::host(QQuickItem *view)
     connect(this, &QWindow::widthChanged, view, fill);
     connect(this, &QWindow::heightChanged, view, fill);
     fill();
-    addChrome(qmlEngine(view));
-    EBEnvironment::of(contentItem())->setEbApp(m_app);
+    addItem(chrome);
 }
 
-void EBWindow::addChrome(QQmlEngine *engine)
+QQuickItem *EBWindow::makeChrome(QQmlEngine *engine)
 {
-    auto *chrome = ViewEngine::make(*engine, QStringLiteral("qrc:/qt/qml/Embera/Window/WindowChrome.qml"),
-                                    {{QStringLiteral("window"), QVariant::fromValue(this)}});
-    addItem(chrome);
+    return ViewEngine::make(*engine, QStringLiteral("qrc:/qt/qml/Embera/Window/WindowChrome.qml"),
+                            {{QStringLiteral("window"), QVariant::fromValue(this)}});
 }
 
 void EBWindow::addItem(QQuickItem *item)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EBApp.h"
+#include "ViewEngine.h"
 
 #include <QQuickWindow>
 #include <QVariantAnimation>
@@ -34,6 +35,13 @@ public:
     /// never drives the window's size. The window takes ownership.
     void host(QQuickItem *view);
 
+    /// The same with a view that is made there.
+    template <typename View = QQuickItem>
+    View *host(QQmlEngine &engine, const QString &url, const QVariantMap &properties = {})
+    {
+        return ViewEngine::make<View>(engine, url, properties, [this](QQuickItem *view) { host(view); });
+    }
+
     /// Places the window in the middle of its screen.
     void center();
 
@@ -62,7 +70,7 @@ signals:
     void loudGroundChanged();
 
 private:
-    void addChrome(QQmlEngine *engine);
+    QQuickItem *makeChrome(QQmlEngine *engine);
     void addItem(QQuickItem *item);
     void fixSize(QSize size);
 

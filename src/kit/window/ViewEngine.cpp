@@ -17,11 +17,15 @@ void ViewEngine::prefetch(const QUrl &url)
 }
 
 QQuickItem *ViewEngine::makeItem(QQmlEngine &engine, const QString &url, const QVariantMap &properties,
-                                 const QMetaObject &type)
+                                 const QMetaObject &type, const Place &place)
 {
     QQmlComponent component(&engine, QUrl(url));
-    auto *view = component.isReady() ? component.createWithInitialProperties(properties) : nullptr;
-    if (!type.cast(view))
+    auto *view = qobject_cast<QQuickItem *>(component.beginCreate(engine.rootContext()));
+    if (view && place)
+        place(view);
+    component.setInitialProperties(view, properties);
+    component.completeCreate();
+    if (!type.cast(view) || component.isError())
         qFatal("%s", qPrintable(component.errorString()));
-    return qobject_cast<QQuickItem *>(view);
+    return view;
 }

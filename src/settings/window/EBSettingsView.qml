@@ -39,12 +39,11 @@ FocusScope {
     PageArea {
         id: page
         anchors {
-            left: sidebar.right
-            leftMargin: 8
             right: parent.right
             top: parent.top
             bottom: parent.bottom
         }
+        width: parent.width - sidebar.width - 2 * 8
         model: view.model
         roomHeight: view.roomHeight
     }

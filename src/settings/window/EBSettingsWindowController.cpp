@@ -4,7 +4,6 @@
 #include "Platform.h"
 #include "SettingsModel.h"
 #include "SidebarModel.h"
-#include "ViewEngine.h"
 
 #include <QScreen>
 
@@ -53,16 +52,15 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
             m_placedHeight = m_window->height();
     });
 
-    m_root = ViewEngine::make<MeasuredItem>(
-        engine, rootView,
-        {
-            {QStringLiteral("version"), version},
-            {QStringLiteral("pages"), QVariant::fromValue(new SidebarModel(pages, this))},
-            {QStringLiteral("model"), QVariant::fromValue(m_model)},
-        });
+    m_root =
+        m_window->host<MeasuredItem>(engine, rootView,
+                                     {
+                                         {QStringLiteral("version"), version},
+                                         {QStringLiteral("pages"), QVariant::fromValue(new SidebarModel(pages, this))},
+                                         {QStringLiteral("model"), QVariant::fromValue(m_model)},
+                                     });
     connect(m_root, &MeasuredItem::measured, this, &EBSettingsWindowController::fit);
     connect(m_window.get(), &QWindow::screenChanged, this, [this] { adapt(m_root->contentSize(), Place::kept); });
-    m_window->host(m_root);
     m_window->center();
     m_root->settle();
     fit(m_root->contentSize());

@@ -53,12 +53,11 @@ ScrollArea {
         id: page
         anchors {
             left: parent.left
-            right: parent.right
             top: parent.top
             leftMargin: 16
-            rightMargin: 24
             topMargin: 18
         }
+        width: area.width - 16 - 24
 
         EBLabel {
             width: parent.width

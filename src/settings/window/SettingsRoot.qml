@@ -14,7 +14,8 @@ MeasuredItem {
 
     EBSettingsView {
         id: view
-        anchors.fill: parent
+        width: parent.width
+        height: parent.height
         version: root.version
         pages: root.pages
         model: root.model
