@@ -376,8 +376,7 @@ void CtlTest::aDryRunChangesNothing()
 void CtlTest::aDryRunRefusesWhatTheImportWould()
 {
     QProcessEnvironment locked = QProcessEnvironment::systemEnvironment();
-    locked.insert(u"DCONF_PROFILE"_s,
-                  DconfService::makeLock(u"/com/vexmoor/corvane/buttonTheme"_s, m_folder.path()));
+    locked.insert(u"DCONF_PROFILE"_s, DconfService::makeLock(u"/com/vexmoor/corvane/buttonTheme"_s, m_folder.path()));
     const QByteArray text = ExportFile::write({{u"buttonTheme"_s, u"soft"_s}});
     for (const QStringList &options : {QStringList(), QStringList{u"--dry-run"_s}}) {
         const Result result = run(QStringList{u"import"_s, u"-"_s} + options, text, locked);
@@ -529,7 +528,7 @@ void CtlTest::aResultThatCannotBeWrittenGivesOne()
     QFETCH(QStringList, arguments);
     QProcess process;
     process.setStandardOutputFile(u"/dev/full"_s);
-    process.start(program, arguments);
+    process.start(ctlProgram, arguments);
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.readAllStandardError(), QByteArray("corvane-ctl: standard output: No space left on device\n"));
     QCOMPARE(process.exitCode(), 1);
@@ -564,7 +563,7 @@ void CtlTest::watchingEndsWithTheBus()
     auto bus = std::make_unique<BusDaemon>(file(u"bus"_s), QStringList());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus->address()));
-    Program watch(program, environment);
+    Program watch(ctlProgram, environment);
     QVERIFY(watch.start({u"watch"_s}));
     QTRY_COMPARE(watch.standardOutput(), QStringList{uR"({"type":"watching"})"_s});
     bus.reset();
