@@ -1,4 +1,5 @@
 #include "PortalAppearance.h"
+#include "PortalSettings.h"
 #include "PrivateSession.h"
 #include "SettingsPortal.h"
 #include "TestProgram.h"
@@ -61,6 +62,7 @@ private slots:
     void aChangedSettingIsFollowed();
     void aChangeThatChangesNothingIsNotAnnounced();
     void nobodyButThePortalIsListenedTo();
+    void nothingButTheSettingsThatAreUsedIsKept();
     void manyChangesAtOnceAreOne();
     void aPortalThatAppearsLaterIsAsked();
     void aPortalThatReturnsIsAskedAgain();
@@ -251,6 +253,16 @@ void PortalAppearanceTest::nobodyButThePortalIsListenedTo()
     portal.change(shared, contrast, 1U);
     QTRY_COMPARE(appearance.bestMatch(), contrastAqua);
     QCOMPARE(spy.size(), 1);
+}
+
+void PortalAppearanceTest::nothingButTheSettingsThatAreUsedIsKept()
+{
+    const auto large = std::make_shared<int>();
+    PortalSettings settings;
+    QVERIFY(!settings.take(QStringLiteral("org.example"), colorScheme, QVariant::fromValue(large)));
+    QCOMPARE(settings.count(), 0);
+    QVERIFY(settings.take(shared, colorScheme, QVariant::fromValue(large)));
+    QCOMPARE(large.use_count(), 1);
 }
 
 void PortalAppearanceTest::manyChangesAtOnceAreOne()

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <atomic>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
@@ -48,6 +49,8 @@ private slots:
 
     void theCopyFollowsEveryChangeAndIsForThePersonAlone();
     void theCopyIsWrittenAWhileAfterTheChangeAndOnce();
+    void whatIsCopiedAlreadyIsNotWrittenAgain();
+    void whereNothingWasStoredNoCopyIsBegun();
     void whatTheAgentReportsIsNotCopied();
     void whileChangesCannotBeStoredTheCopyStays();
     void aStoreThatIsEmptyAlthoughThereIsACopyIsLost();
@@ -138,6 +141,27 @@ void TestStoreKeeper::theCopyIsWrittenAWhileAfterTheChangeAndOnce()
     QTRY_COMPARE(copy(), (QVariantMap{{"buttonTheme", "mono"}}));
 }
 
+void TestStoreKeeper::whatIsCopiedAlreadyIsNotWrittenAgain()
+{
+    // A file that was replaced is another one.
+    const auto number = [this] {
+        struct stat status = {};
+        return stat(QFile::encodeName(file("settings.copy")).constData(), &status) == 0 ? status.st_ino : 0;
+    };
+    store().values = {{"buttonTheme", "classic"}};
+    startsWithLost();
+    const auto before = number();
+    QVERIFY(before != 0);
+    startsWithLost();
+    QCOMPARE(number(), before);
+}
+
+void TestStoreKeeper::whereNothingWasStoredNoCopyIsBegun()
+{
+    QVERIFY(!startsWithLost());
+    QVERIFY(!QFile::exists(file("settings.copy")));
+}
+
 void TestStoreKeeper::whatTheAgentReportsIsNotCopied()
 {
     store().values = {{"agent.accessibilityTrusted", true}, {"agent.launchAtLogin", true}, {"maximizeMode", "fill"}};
@@ -188,6 +212,7 @@ void TestStoreKeeper::aStoreThatWasEmptiedWhileSomebodyCopiedIsNotLost()
     store().values = {{"buttonTheme", "soft"}};
     {
         StoreKeeper keeper;
+        QTRY_COMPARE(copy(), store().values);
         store().values.clear();
         store().storedChanged(QString());
         QVERIFY(!keeper.hasLost());
