@@ -100,6 +100,69 @@ def database_damaged_before(world, random, share):
     return f"{count} damaged databases: {count} windows"
 
 
+def database_cut_short(world, random, share):
+    count, database = tries(20, share), pathlib.Path(world.environment["HOME"], ".config", "dconf", "user")
+    world.write(MINIMIZE, "true")
+    small = database.read_bytes()
+    for number in range(count):
+        world.load("[/]\n" + "".join(f"{key}='{random.choice('ab') * 30_000}'\n" for key in KEYS))
+        process, window = world.open(page=random.choice(["buttons", "shortcuts", "layouts"]))
+        if number % 2:
+            world.answers(process, window)
+        # Into the file as it is, as cp does: what has it mapped now reads beyond its end.
+        database.write_bytes(small[:random.randrange(len(small))] if number % 4 > 1 else small)
+        world.answers(process, window)
+        world.kill(process, signal.SIGTERM)
+    return f"{count} times a smaller one is written over it: the window answers"
+
+
+def nowhere_to_store(world, _random, share):
+    count, folder = tries(20, share), pathlib.Path(world.environment["HOME"], ".config", "dconf")
+    process, window = world.open()
+    world.click(window, SWITCH)
+    until(world.stored, "the first flip is not stored", 20)
+    for number in range(count):
+        world.agrees(window)
+        before = world.stored()
+        aside = folder.rename(folder.with_name("aside"))
+        folder.touch()
+        world.click(window, SWITCH)
+        # Long enough to be refused, and shorter than the time after which it is tried again.
+        time.sleep(0.5)
+        world.agrees(window)
+        folder.unlink()
+        aside.rename(folder)
+        # Somebody else's success gives reason to try again.
+        world.write(FOLDER + "layouts.gap", f"{number}.0")
+        until(lambda stored=before: world.stored() != stored, f"flip {number} is not stored", 20)
+    world.answers(process, window)
+    return f"{count} flips while the folder is a file: the window shows none of them, and each is stored afterwards"
+
+
+def store_lost(world, random, share):
+    count, state = tries(20, share), pathlib.Path(world.environment["HOME"], ".local", "state", "corvane-settings")
+    for number in range(count):
+        world.write(MINIMIZE, "true")
+        process, _ = world.open()
+        until((state / "settings.copy").exists, "no copy of the settings", 20)
+        world.kill(process)
+        world.run("dconf", "reset", "-f", "/")
+        is_damaged = number % 2 == 1
+        if is_damaged:
+            damaged = bytearray((state / "settings.copy").read_bytes())
+            damaged[random.randrange(len(damaged))] ^= 1 << random.randrange(8)
+            (state / "settings.copy").write_bytes(damaged)
+        process, window = world.open()
+        if not is_damaged:
+            until((state / "settings.lost").exists, "the lost settings are not kept", 20)
+        world.answers(process, window)
+        if world.stored() or is_damaged == (state / "settings.lost").exists():
+            raise Lost(f"{world.stored() or 'nothing'} stored, {sorted(file.name for file in state.iterdir())}")
+        world.kill(process)
+        shutil.rmtree(state)
+    return f"{count} stores emptied between two starts: kept for the person to decide, and none is offered from a damaged copy"
+
+
 def wrong_values(world, random, share):
     count = tries(400, share)
     process, window = world.open()
@@ -310,7 +373,10 @@ ATTACKS = [
         ("killed while it writes", killed_while_it_writes),
         ("the store's service killed while it writes", service_killed_while_it_writes),
         ("the store's service stopped", service_stopped),
-        ("database damaged before the start", database_damaged_before)]),
+        ("nowhere to store", nowhere_to_store),
+        ("database damaged before the start", database_damaged_before),
+        ("database cut short while it runs", database_cut_short),
+        ("settings gone at the start", store_lost)]),
     ("Values", [
         ("values of wrong types and odd texts in every key", wrong_values),
         ("monstrous texts", monsters),
