@@ -17,6 +17,14 @@ KitTestCase {
         label: "Remove"
         size: 28
     }
+    EBIconButton {
+        id: other
+
+        x: 60
+        y: 20
+        glyph: "minus"
+        label: "Other"
+    }
     SignalSpy {
         id: clicks
 
@@ -66,6 +74,23 @@ KitTestCase {
         button.focus = false;
         tryVerify(() => toolTip() === null);
         button.y = 20;
+    }
+
+    Component {
+        id: tip
+
+        EBToolTip { }
+    }
+
+    // As a row does that goes in the moment in which its tip comes up.
+    function test_a_tool_tip_of_what_is_taken_out_of_the_window_does_not_come_up() {
+        const place = button.parent;
+        const taken = createTemporaryObject(tip, testCase, {target: button, delay: 1});
+        button.parent = null;
+        const later = createTemporaryObject(tip, testCase, {target: other, delay: 20});
+        tryVerify(() => later.visible);
+        verify(!taken.visible);
+        button.parent = place;
     }
 
     function test_a_click_in_the_circle_presses_and_in_a_corner_misses() {

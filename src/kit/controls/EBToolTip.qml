@@ -22,9 +22,18 @@ T.ToolTip {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     delay: 700
-    // Nothing but the pointer and the focus ends it.
+    // Nothing but the pointer and the focus ends it, or that the item is taken out of its window.
     closePolicy: T.Popup.NoAutoClose
     Component.onCompleted: open()
+
+    Connections {
+        target: tip.parent
+
+        function onWindowChanged(window) {
+            if (!window)
+                tip.close();
+        }
+    }
 
     background: ContinuousRectangle {
         radius: 6
