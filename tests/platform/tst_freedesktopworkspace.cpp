@@ -319,7 +319,7 @@ void FreedesktopWorkspaceTest::anApplicationWithoutAnIconHasNone()
 {
     QFETCH(QString, entry);
     makeIcon(QStringLiteral("icon.png"));
-    makeIcon(QStringLiteral("wide.png"), {2049, 1});
+    makeIcon(QStringLiteral("wide.png"), {2049, 2049});
     write(QStringLiteral("long.svg"),
           QStringLiteral(
               "<svg xmlns='http://www.w3.org/2000/svg' width='48' height='48'><rect width='48' height='48'/>%1</svg>")
