@@ -14,6 +14,10 @@ fault begins with "NO".
 |---|---|
 {rows}
 
+A bus that dies in the very moment of a call takes the answer with it, and Qt waits for that for ever. What this program
+asks has an end (`SessionBus::answer`); what Qt asks by itself for assistive technologies has none. One of 150 starts whose
+bus was killed hung there.
+
 A short form of some of them is a test (`e2e_attack`). What reads foreign data is fuzzed besides (`fuzz/`).
 """
 
