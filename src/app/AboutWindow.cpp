@@ -4,6 +4,7 @@
 #include "EBApp.h"
 #include "Platform.h"
 #include "Shared.h"
+#include "ViewEngine.h"
 
 #include <QKeyEvent>
 #include <QQuickItem>
@@ -42,6 +43,11 @@ AboutWindow::AboutWindow(QQmlEngine &engine)
                             {QStringLiteral("website"), website},
                         });
     connect(screen, SIGNAL(checkForUpdates()), this, SLOT(checkForUpdates()));
+}
+
+void AboutWindow::prefetch(ViewEngine &engine)
+{
+    engine.prefetch(QUrl(screenView));
 }
 
 void AboutWindow::keyPressEvent(QKeyEvent *event)

@@ -26,21 +26,14 @@
 
 namespace {
 
-/// Makes the kit's body the application's font, so that no other is loaded for items that set none.
-void chooseBodyFace()
+/// Loads the faces that a window is set in. The kit's body becomes the application's font, so that no other is loaded
+/// for items that set none.
+void loadFaces(const QList<QFont> &faces)
 {
+    EBKitFonts::registerFonts();
     QGuiApplication::setFont(EBTypes::font(EBTypeRole::body));
-}
-
-/// Loads the faces that the settings window is set in.
-void loadFaces()
-{
-    chooseBodyFace();
-    const QFont medium = EBTypes::systemFont(13, QFont::Medium);
-    for (const QFont &font :
-         {EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
-          EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono), medium})
-        QFontMetricsF(font).horizontalAdvance(QStringLiteral("x"));
+    for (const QFont &face : faces)
+        QFontMetricsF(face).horizontalAdvance(QStringLiteral("x"));
 }
 
 bool isPage(const QString &id)
@@ -188,9 +181,13 @@ void SettingsAppDelegate::finish(std::chrono::milliseconds limit)
 
 void SettingsAppDelegate::openOnboarding()
 {
-    EBKitFonts::registerFonts();
-    chooseBodyFace();
-    Platform::current().appearance().settle();
+    GuideWindowController::prefetch(m_engine);
+    Platform &platform = Platform::current();
+    platform.appearance();
+    loadFaces({EBTypes::font(EBTypeRole::hero), EBTypes::font(EBTypeRole::lead), EBTypes::font(EBTypeRole::body),
+               EBTypes::font(EBTypeRole::bodyStrong), EBTypes::font(EBTypeRole::small),
+               EBTypes::font(EBTypeRole::mono)});
+    platform.appearance().settle();
     const auto run = LaunchFlags::replay() ? OnboardingFlow::Run::replay : OnboardingFlow::Run::first;
     m_guide = std::make_unique<GuideWindowController>(m_engine, run, &SettingsAppDelegate::finishOnboarding);
     m_guide->window().center();
@@ -206,9 +203,12 @@ void SettingsAppDelegate::finishOnboarding()
 
 void SettingsAppDelegate::openAbout()
 {
-    EBKitFonts::registerFonts();
-    chooseBodyFace();
-    Platform::current().appearance().settle();
+    AboutWindow::prefetch(m_engine);
+    Platform &platform = Platform::current();
+    platform.appearance();
+    loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
+               EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono)});
+    platform.appearance().settle();
     m_about = std::make_unique<AboutWindow>(m_engine);
     present(*m_about);
 }
@@ -218,8 +218,9 @@ void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
     const QList<EBSettingsPage> pages = SettingsPages::make();
     // From here to the controller this thread works beside the one that loads the views.
     EBSettingsWindowController::prefetch(m_engine, pages, initial);
-    EBKitFonts::registerFonts();
-    loadFaces();
+    loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
+               EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono),
+               EBTypes::systemFont(13, QFont::Medium)});
     Platform &platform = Platform::current();
     // Asked early, the desktop has answered by the time the first frame is drawn.
     platform.appearance();

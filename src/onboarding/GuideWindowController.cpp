@@ -2,6 +2,7 @@
 
 #include "GuideVisibility.h"
 #include "Platform.h"
+#include "ViewEngine.h"
 
 #include <QEvent>
 
@@ -10,6 +11,9 @@ namespace {
 constexpr QSize guideSize(560, 388); // points
 // In line with the texts of the practice and the choice of a look, and well above them.
 constexpr QPoint buttonsPlace(28, 12);
+
+const QString rootView = QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml");
+const QString firstStep = QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/WelcomeStep.qml");
 
 }
 
@@ -23,8 +27,7 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
     m_window.setTitle(tr("Welcome to Corvane"));
     m_window.center();
     m_window.installEventFilter(this);
-    m_window.host(engine, QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml"),
-                  {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}});
+    m_window.host(engine, rootView, {{QStringLiteral("flow"), QVariant::fromValue(&m_flow)}});
     connect(&m_flow, &OnboardingFlow::stepChanged, this, &GuideWindowController::followStep);
     followStep();
     m_keyMonitor = Platform::current().monitorKeyDown([this](const KeyDown &key) {
@@ -37,6 +40,12 @@ GuideWindowController::GuideWindowController(QQmlEngine &engine, OnboardingFlow:
 }
 
 GuideWindowController::~GuideWindowController() = default;
+
+void GuideWindowController::prefetch(ViewEngine &engine)
+{
+    engine.prefetch(QUrl(rootView));
+    engine.prefetch(QUrl(firstStep));
+}
 
 void GuideWindowController::finish()
 {

@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class ViewEngine;
+
 /// The window of the onboarding. It hides and comes back as GuideVisibility asks. However the onboarding ends, it ends
 /// here, once.
 class GuideWindowController : public QObject {
@@ -15,6 +17,9 @@ public:
     /// `onFinish` is run once, when the onboarding ends. The window is made and centred, and not shown yet.
     GuideWindowController(QQmlEngine &engine, OnboardingFlow::Run run, std::function<void()> onFinish);
     ~GuideWindowController() override;
+
+    /// Begins to load what the guide starts with, while the caller prepares the rest.
+    static void prefetch(ViewEngine &engine);
 
     EBWindow &window() { return m_window; }
     OnboardingFlow &flow() { return m_flow; }
