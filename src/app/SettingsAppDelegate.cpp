@@ -36,6 +36,11 @@ void loadFaces(const QList<QFont> &faces)
         QFontMetricsF(face).horizontalAdvance(QStringLiteral("x"));
 }
 
+std::optional<QString> initialPage()
+{
+    return qEnvironmentVariableIsSet("CV_TAB") ? std::optional(qEnvironmentVariable("CV_TAB")) : std::nullopt;
+}
+
 bool isPage(const QString &id)
 {
     const QList<EBSettingsPage> pages = SettingsPages::make();
@@ -70,6 +75,16 @@ SettingsAppDelegate::SettingsAppDelegate()
 
 SettingsAppDelegate::~SettingsAppDelegate() = default;
 
+void SettingsAppDelegate::prefetch()
+{
+    if (LaunchFlags::onboarding())
+        GuideWindowController::prefetch(m_engine);
+    else if (LaunchFlags::about())
+        AboutWindow::prefetch(m_engine);
+    else if (!LaunchFlags::service())
+        EBSettingsWindowController::prefetch(m_engine, SettingsPages::make(), initialPage());
+}
+
 void SettingsAppDelegate::applicationDidFinishLaunching()
 {
     Platform &platform = Platform::current();
@@ -89,10 +104,7 @@ void SettingsAppDelegate::applicationDidFinishLaunching()
         });
         return;
     }
-    std::optional<QString> initial;
-    if (qEnvironmentVariableIsSet("CV_TAB"))
-        initial = qEnvironmentVariable("CV_TAB");
-    openSettings(initial);
+    openSettings(initialPage());
 }
 
 bool SettingsAppDelegate::perform(const Instances::Request &request)
@@ -181,7 +193,6 @@ void SettingsAppDelegate::finish(std::chrono::milliseconds limit)
 
 void SettingsAppDelegate::openOnboarding()
 {
-    GuideWindowController::prefetch(m_engine);
     Platform &platform = Platform::current();
     platform.appearance();
     loadFaces({EBTypes::font(EBTypeRole::hero), EBTypes::font(EBTypeRole::lead), EBTypes::font(EBTypeRole::body),
@@ -203,7 +214,6 @@ void SettingsAppDelegate::finishOnboarding()
 
 void SettingsAppDelegate::openAbout()
 {
-    AboutWindow::prefetch(m_engine);
     Platform &platform = Platform::current();
     platform.appearance();
     loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
@@ -215,9 +225,6 @@ void SettingsAppDelegate::openAbout()
 
 void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
 {
-    const QList<EBSettingsPage> pages = SettingsPages::make();
-    // From here to the controller this thread works beside the one that loads the views.
-    EBSettingsWindowController::prefetch(m_engine, pages, initial);
     loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
                EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono),
                EBTypes::systemFont(13, QFont::Medium)});
@@ -225,7 +232,8 @@ void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
     // Asked early, the desktop has answered by the time the first frame is drawn.
     platform.appearance();
     const QString version = platform.mainBundle().string(QStringLiteral("CFBundleShortVersionString"));
-    m_settings = std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, pages, initial);
+    m_settings =
+        std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, SettingsPages::make(), initial);
     // The window owns it.
     new ImportDrop(m_engine, *m_settings->window());
     connect(&Shared::store(), &UserDefaults::troubleChanged, this, &SettingsAppDelegate::tell);

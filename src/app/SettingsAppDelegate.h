@@ -30,6 +30,9 @@ public:
     /// Closing the last window ends the process, except in the onboarding: the guide ends it itself.
     static bool applicationShouldTerminateAfterLastWindowClosed();
 
+    /// Begins to load what this start will show, while the caller does other things.
+    void prefetch();
+
     /// To be called before the process ends: completes the copy of the settings as far as that takes no longer than
     /// this.
     void finish(std::chrono::milliseconds limit);

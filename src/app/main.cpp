@@ -46,6 +46,9 @@ int main(int argc, char *argv[])
     const std::future<void> warmUp = NativePlatform::warmUp();
     int ownName = 1;
     QGuiApplication application(ownName, argv);
+    SettingsAppDelegate delegate;
+    // The views load while the bus is asked.
+    delegate.prefetch();
     if (RunningInstance::takesOver())
         return 0;
     Language::use(Language::chosen(QLocale::system().uiLanguages()));
@@ -54,7 +57,6 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));
 
-    SettingsAppDelegate delegate;
     // Qt has read the environment by then, and programs that are started later are not to inherit it.
     QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment] {
         environment.reset();
