@@ -12,6 +12,8 @@ struct Solid {
     const QQuickItem *item;
     QString name;
     QRectF place;
+    /// With the ring that shows the focus, where it may have one.
+    QRectF ring;
 };
 
 /// The letters of a text; those in the size of a poster are a picture, which may run out of its window.
@@ -20,36 +22,50 @@ bool isReadable(const QQuickItem *text)
     return !text->property("text").toString().isEmpty() && text->property("font").value<QFont>().pixelSize() < 60;
 }
 
+/// Where the item is seen: what lies in a part that is scrolled away is cut off there.
 QRectF placeOf(const QQuickItem *item)
 {
-    return item->mapRectToScene(item->boundingRect());
+    QRectF place = item->mapRectToScene(item->boundingRect());
+    for (const QQuickItem *parent = item->parentItem(); parent; parent = parent->parentItem()) {
+        if (parent->clip() && parent->inherits("QQuickFlickable"))
+            place &= parent->mapRectToScene(parent->boundingRect());
+    }
+    return place;
 }
 
-/// Every text, control, card and pretend window; a button with the ring that shows the focus.
+/// Every text, control, card and pretend window that is seen.
 QList<Solid> solidsIn(QQuickItem *view)
 {
     QList<Solid> solids;
+    const auto add = [&solids](const QQuickItem *item, const QString &name, qreal ring = 0) {
+        if (const QRectF place = placeOf(item); !place.isEmpty())
+            solids.append({item, name, place, place.adjusted(-ring, -ring, ring, ring)});
+    };
     for (QQuickItem *item : Views::visible(view)) {
         const auto *element = QAccessible::queryAccessibleInterface(item);
         const QAccessible::Role role = element ? element->role() : QAccessible::NoRole;
         if (item->inherits("QQuickText") && isReadable(item))
-            solids.append({item, item->property("text").toString(), placeOf(item)});
+            add(item, item->property("text").toString());
         else if (role == QAccessible::Button)
-            solids.append({item, element->text(QAccessible::Name), placeOf(item).adjusted(-4, -4, 4, 4)});
+            add(item, element->text(QAccessible::Name), 4);
         else if (role == QAccessible::CheckBox || role == QAccessible::RadioButton)
-            solids.append({item, element->text(QAccessible::Name), placeOf(item)});
+            add(item, element->text(QAccessible::Name));
     }
     for (const char *type : {"EBGroup", "EBWell", "DemoCell", "KeyCap", "EBSegmented", "DragTileContent"}) {
         for (const QQuickItem *item : Views::visible(view, type))
-            solids.append({item, QString::fromLatin1(type), placeOf(item)});
+            add(item, QString::fromLatin1(type));
     }
     return solids;
 }
 
 bool collide(const Solid &one, const Solid &other)
 {
-    const QRectF common = one.place & other.place;
-    return common.width() >= 1 && common.height() >= 1 && !one.item->isAncestorOf(other.item)
+    // Only one of them has the focus.
+    const auto overlap = [](const QRectF &ring, const QRectF &place) {
+        const QRectF common = ring & place;
+        return common.width() >= 1 && common.height() >= 1;
+    };
+    return (overlap(one.ring, other.place) || overlap(one.place, other.ring)) && !one.item->isAncestorOf(other.item)
         && !other.item->isAncestorOf(one.item);
 }
 
@@ -86,12 +102,12 @@ QStringList Fit::faults(QQuickItem *view, const QRectF &frame)
         const Solid &one = solids.at(i);
         if (one.item->inherits("QQuickText") && isCut(one.item))
             faults.append(one.name + QStringLiteral(" is cut"));
-        const bool isBelow = one.place.top() >= frame.top() && scrolls(one.item);
-        if (leaves(one.place, isBelow ? frame.adjusted(0, 0, 0, one.place.bottom()) : frame))
+        const bool isBelow = one.ring.top() >= frame.top() && scrolls(one.item);
+        if (leaves(one.ring, isBelow ? frame.adjusted(0, 0, 0, one.ring.bottom()) : frame))
             faults.append(one.name + QStringLiteral(" leaves the window"));
         for (qsizetype j = 0; j < solids.size(); ++j) {
             const Solid &other = solids.at(j);
-            if (other.item->isAncestorOf(one.item) && leaves(one.place, other.place))
+            if (other.item->isAncestorOf(one.item) && leaves(one.ring, other.ring))
                 faults.append(one.name + QStringLiteral(" leaves ") + other.name);
             if (j < i && collide(one, other))
                 faults.append(one.name + QStringLiteral(" lies over ") + other.name);
