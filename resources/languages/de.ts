@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>For the full-screen button and ⌘F.</source>
-        <translation>Für den Vollbild-Knopf und ⌘F.</translation>
+        <translation>Für den Knopf und ⌘F.</translation>
     </message>
     <message>
         <source>Own Space</source>
@@ -476,6 +476,14 @@
     <message>
         <source>Welcome to Corvane</source>
         <translation>Willkommen bei Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>ImportOffer</name>
+    <message>
+        <source>Changed: %1</source>
+        <extracomment>%1 is the names of saved layouts. They stay, but what they put back is another.</extracomment>
+        <translation>Geändert: %1</translation>
     </message>
 </context>
 <context>

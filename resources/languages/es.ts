@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation>Abrir Ajustes del Sistema</translation>
+        <translation>Abrir Ajustes</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -476,6 +476,14 @@
     <message>
         <source>Welcome to Corvane</source>
         <translation>Le damos la bienvenida a Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>ImportOffer</name>
+    <message>
+        <source>Changed: %1</source>
+        <extracomment>%1 is the names of saved layouts. They stay, but what they put back is another.</extracomment>
+        <translation>Con cambios: %1</translation>
     </message>
 </context>
 <context>

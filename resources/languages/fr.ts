@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>macOS asks you first before Corvane can tell which window the pointer is on. Nothing is recorded or sent anywhere.</source>
-        <translation>macOS vous demande votre accord avant que Corvane puisse savoir sur quelle fenêtre se trouve le pointeur. Rien n’est enregistré ni envoyé.</translation>
+        <translation>macOS demande votre accord avant que Corvane sache sur quelle fenêtre est le pointeur. Rien n’est enregistré ni envoyé.</translation>
     </message>
     <message>
         <source>Accessibility</source>
@@ -33,19 +33,19 @@
     </message>
     <message>
         <source>Allowed in System Settings.</source>
-        <translation>Autorisé dans les Paramètres système.</translation>
+        <translation>Autorisé dans les Réglages Système.</translation>
     </message>
     <message>
         <source>Opens Privacy &amp; Security in System Settings.</source>
-        <translation>Ouvre «&#xa0;Confidentialité et sécurité&#xa0;» dans les Paramètres système.</translation>
+        <translation>Ouvre «&#xa0;Confidentialité et sécurité&#xa0;» dans les Réglages Système.</translation>
     </message>
     <message>
         <source>Switch on Corvane in the list in System Settings.</source>
-        <translation>Activez Corvane dans la liste des Paramètres système.</translation>
+        <translation>Activez Corvane dans la liste des Réglages Système.</translation>
     </message>
     <message>
         <source>Switch on Corvane in the list. Not there? Drag in the tile under System Settings.</source>
-        <translation>Activez Corvane dans la liste. Absent&#xa0;? Faites-y glisser la vignette sous les Paramètres système.</translation>
+        <translation>Activez Corvane dans la liste. Absent&#xa0;? Faites-y glisser la vignette sous les Réglages Système.</translation>
     </message>
     <message>
         <source>Open Again</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Open System Settings</source>
-        <translation>Ouvrir les Paramètres système</translation>
+        <translation>Ouvrir les Réglages</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -130,7 +130,7 @@
     </message>
     <message>
         <source>For the full-screen button and ⌘F.</source>
-        <translation>Pour le bouton Plein écran et ⌘F.</translation>
+        <translation>Le bouton et ⌘F.</translation>
     </message>
     <message>
         <source>Own Space</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>Optional. Pick a look and a size; you can change them any time in Settings.</source>
-        <translation>Facultatif. L’apparence et la taille se changent aussi dans les Paramètres.</translation>
+        <translation>Facultatif. L’apparence et la taille se changent aussi dans les Réglages.</translation>
     </message>
     <message>
         <source>Size</source>
@@ -359,7 +359,7 @@
     <message>
         <source>%1 Settings</source>
         <extracomment>The title of the settings window; %1 is the product&apos;s name.</extracomment>
-        <translation>Paramètres de %1</translation>
+        <translation>Réglages de %1</translation>
     </message>
 </context>
 <context>
@@ -416,7 +416,7 @@
     </message>
     <message>
         <source>Waiting for your OK in System Settings › General › Login Items.</source>
-        <translation>En attente de votre accord dans Paramètres système › Général › Ouverture.</translation>
+        <translation>En attente de votre accord dans Réglages Système › Général › Ouverture.</translation>
     </message>
     <message>
         <source>So the buttons are there whenever you open Mission Control.</source>
@@ -456,7 +456,7 @@
     </message>
     <message>
         <source>Open Settings</source>
-        <translation>Ouvrir les Paramètres</translation>
+        <translation>Ouvrir les Réglages</translation>
     </message>
     <message>
         <source>Welcome guide</source>
@@ -476,6 +476,14 @@
     <message>
         <source>Welcome to Corvane</source>
         <translation>Bienvenue dans Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>ImportOffer</name>
+    <message>
+        <source>Changed: %1</source>
+        <extracomment>%1 is the names of saved layouts. They stay, but what they put back is another.</extracomment>
+        <translation>Modifié&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -717,7 +725,7 @@
     <message>
         <source>Settings · %1</source>
         <extracomment>The line above a page&apos;s heading; %1 is the page&apos;s number.</extracomment>
-        <translation>Paramètres · %1</translation>
+        <translation>Réglages · %1</translation>
     </message>
 </context>
 <context>

@@ -479,10 +479,18 @@
     </message>
 </context>
 <context>
+    <name>ImportOffer</name>
+    <message>
+        <source>Changed: %1</source>
+        <extracomment>%1 is the names of saved layouts. They stay, but what they put back is another.</extracomment>
+        <translation>変更あり：%1</translation>
+    </message>
+</context>
+<context>
     <name>ImportSheet</name>
     <message>
         <source>Import these settings?</source>
-        <translation>これらの設定を読み込みますか？</translation>
+        <translation>設定を読み込みますか？</translation>
     </message>
     <message>
         <source>Nothing to import</source>

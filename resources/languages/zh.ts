@@ -479,6 +479,14 @@
     </message>
 </context>
 <context>
+    <name>ImportOffer</name>
+    <message>
+        <source>Changed: %1</source>
+        <extracomment>%1 is the names of saved layouts. They stay, but what they put back is another.</extracomment>
+        <translation>已更改：%1</translation>
+    </message>
+</context>
+<context>
     <name>ImportSheet</name>
     <message>
         <source>Import these settings?</source>

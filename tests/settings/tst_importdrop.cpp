@@ -68,6 +68,8 @@ private slots:
     void thePageBehindIsDisabledWhileItAsks();
     void theFocusReturnsWhereItWas();
     void aFileThatChangesNothingSaysSo();
+    void aDefaultThatIsStoredIsNoChange();
+    void otherWindowsUnderTheSameNamesAreAChange();
     void whatCannotBeSavedIsSaidAndCanBeTriedAgain();
     void aSecondFileIsRefusedWhileOneIsAskedAbout();
     void aLongListScrolls();
@@ -286,6 +288,26 @@ void ImportDropTest::aFileThatChangesNothingSaysSo()
     QCOMPARE(window.focused(), u"Cancel"_s);
     window.pressKey(Qt::Key_Return);
     QTRY_VERIFY(!window.isShown(u"Nothing to import"_s));
+}
+
+void ImportDropTest::aDefaultThatIsStoredIsNoChange()
+{
+    m_settings = {{u"showMinimizeButton"_s, false}, {u"layouts.saved"_s, u"[]"_s}};
+    DropWindow window;
+    QVERIFY(window.drag({exported()}) && window.drop());
+    QVERIFY(window.item(u"Everything in this file is set already."_s, QAccessible::StaticText));
+}
+
+void ImportDropTest::otherWindowsUnderTheSameNamesAreAChange()
+{
+    const QString layout =
+        uR"([{"created":%1,"id":"3F2504E0-4F89-41D3-9A0C-0305E82C3301","name":"Work","windows":[]}])"_s;
+    m_settings = {{u"layouts.saved"_s, layout.arg(1)}};
+    DropWindow window;
+    window.store.values = {{u"layouts.saved"_s, layout.arg(2)}};
+    QVERIFY(window.drag({exported()}) && window.drop());
+    QVERIFY(window.sheet());
+    QVERIFY(window.item(u"Changed: Work"_s, QAccessible::StaticText));
 }
 
 void ImportDropTest::whatCannotBeSavedIsSaidAndCanBeTriedAgain()

@@ -16,9 +16,18 @@ QVariantList ImportOffer::changes() const
 {
     QVariantList list;
     for (const SettingsTransfer::Change &change : SettingsTransfer::changes(m_settings, Shared::store())) {
+        const QString before = SettingWords::value(change.key, change.before);
+        QString after = SettingWords::value(change.key, change.after);
+        if (before == after) {
+            // A default that is stored is the same to a person. Layouts may have their names and other windows.
+            if (change.key != Shared::Key::layoutsSaved || !change.before.isValid() || !change.after.isValid())
+                continue;
+            //: %1 is the names of saved layouts. They stay, but what they put back is another.
+            after = tr("Changed: %1").arg(after);
+        }
         list.append(QVariantMap{{QStringLiteral("title"), SettingWords::title(change.key)},
-                                {QStringLiteral("before"), SettingWords::value(change.key, change.before)},
-                                {QStringLiteral("after"), SettingWords::value(change.key, change.after)}});
+                                {QStringLiteral("before"), before},
+                                {QStringLiteral("after"), after}});
     }
     return list;
 }

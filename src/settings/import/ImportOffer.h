@@ -13,7 +13,7 @@ class ImportOffer : public QObject {
     QML_UNCREATABLE("A file that is dropped makes one")
     /// The name of the file, without its folder.
     Q_PROPERTY(QString fileName READ fileName CONSTANT)
-    /// What the import changes: a list of {title, before, after}, in a person's words.
+    /// What the import changes for a person: a list of {title, before, after}, in the words of the pages.
     Q_PROPERTY(QVariantList changes READ changes CONSTANT)
     /// The settings could not be stored, and everything is as it was.
     Q_PROPERTY(bool hasFailed READ hasFailed NOTIFY hasFailedChanged)

@@ -13,6 +13,8 @@ FocusScope {
     /// Null until a file is dropped.
     property ImportOffer offer: null
     readonly property var changes: offer ? offer.changes : []
+    /// Between the card and the edges of a window that is low, in points.
+    readonly property int margin: 16
 
     signal accepted
     signal cancelled
@@ -61,7 +63,7 @@ FocusScope {
         anchors.centerIn: parent
         visible: sheet.offer
         width: 400
-        height: Math.min(column.implicitHeight + 2 * 24, sheet.height - 2 * 40)
+        height: Math.min(column.implicitHeight + 2 * 24, sheet.height - 2 * margin)
         radius: 22
         color: EB.paper
         strokeColor: EB.lineStrong
@@ -127,7 +129,7 @@ FocusScope {
 
                 width: parent.width
                 visible: sheet.changes.length > 0
-                height: Math.min(contentHeight, sheet.height - 2 * 40 - 2 * 24 - 3 * column.spacing - title.parent.height - buttons.height - (failure.visible ? failure.height + column.spacing : 0))
+                height: Math.min(contentHeight, sheet.height - 2 * margin - 2 * 24 - 3 * column.spacing - title.parent.height - buttons.height - (failure.visible ? failure.height + column.spacing : 0))
                 contentHeight: group.implicitHeight
                 clip: contentHeight > height
                 interactive: clip

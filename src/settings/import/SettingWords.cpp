@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QLocale>
 
 namespace {
 
@@ -46,7 +45,7 @@ QString gap(double points)
         return PageText{"LayoutsPane", "Small"}.translated();
     if (points == 12)
         return PageText{"LayoutsPane", "Large"}.translated();
-    return QLocale().toString(points);
+    return QString::number(points);
 }
 
 QString names(const QString &layouts)
