@@ -22,10 +22,10 @@ bool isReadable(const QQuickItem *text)
     return !text->property("text").toString().isEmpty() && text->property("font").value<QFont>().pixelSize() < 60;
 }
 
-/// Where the item is seen: what lies in a part that is scrolled away is cut off there.
-QRectF placeOf(const QQuickItem *item)
+/// Where the item is seen, with a ring around it: what lies in a part that is scrolled away is cut off there.
+QRectF placeOf(const QQuickItem *item, qreal ring)
 {
-    QRectF place = item->mapRectToScene(item->boundingRect());
+    QRectF place = item->mapRectToScene(item->boundingRect()).adjusted(-ring, -ring, ring, ring);
     for (const QQuickItem *parent = item->parentItem(); parent; parent = parent->parentItem()) {
         if (parent->clip() && parent->inherits("QQuickFlickable"))
             place &= parent->mapRectToScene(parent->boundingRect());
@@ -38,8 +38,8 @@ QList<Solid> solidsIn(QQuickItem *view)
 {
     QList<Solid> solids;
     const auto add = [&solids](const QQuickItem *item, const QString &name, qreal ring = 0) {
-        if (const QRectF place = placeOf(item); !place.isEmpty())
-            solids.append({item, name, place, place.adjusted(-ring, -ring, ring, ring)});
+        if (const QRectF place = placeOf(item, 0); !place.isEmpty())
+            solids.append({item, name, place, placeOf(item, ring)});
     };
     for (QQuickItem *item : Views::visible(view)) {
         const auto *element = QAccessible::queryAccessibleInterface(item);
