@@ -63,7 +63,7 @@ FocusScope {
         anchors.centerIn: parent
         visible: sheet.offer
         width: 400
-        height: Math.min(column.implicitHeight + 2 * 24, sheet.height - 2 * margin)
+        height: Math.min(column.implicitHeight + 2 * 24, sheet.height - 2 * sheet.margin)
         radius: 22
         color: EB.paper
         strokeColor: EB.lineStrong
@@ -129,7 +129,7 @@ FocusScope {
 
                 width: parent.width
                 visible: sheet.changes.length > 0
-                height: Math.min(contentHeight, sheet.height - 2 * margin - 2 * 24 - 3 * column.spacing - title.parent.height - buttons.height - (failure.visible ? failure.height + column.spacing : 0))
+                height: Math.min(contentHeight, sheet.height - 2 * sheet.margin - 2 * 24 - 3 * column.spacing - title.parent.height - buttons.height - (failure.visible ? failure.height + column.spacing : 0))
                 contentHeight: group.implicitHeight
                 clip: contentHeight > height
                 interactive: clip
