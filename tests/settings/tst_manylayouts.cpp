@@ -1,6 +1,7 @@
 #include "SettingsWindow.h"
 #include "TestProgram.h"
 
+#include <QTranslator>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -23,6 +24,19 @@ QString hundredLayouts()
     }
     return '[' + layouts.join(',') + ']';
 }
+
+/// Counts the rows that are made, by a text that each asks for once.
+class RowCounter : public QTranslator {
+public:
+    mutable int rows = 0;
+
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        rows += qstrcmp(text, "Name of layout %1") == 0 ? 1 : 0;
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+};
 
 /// The settings window on the Layouts page with a hundred layouts.
 class ManyLayouts : public SettingsWindow {
@@ -82,6 +96,7 @@ private slots:
     void init();
     void cleanupTestCase() { m_settings.reset(); }
     void onlyRowsNearTheViewHaveItems();
+    void noOtherRowsAreMadeWhileThePageOpens();
     void noPictureIsMuchHigherThanTheWindow();
     void whereverTheViewIsItsRowsAreThere_data();
     void whereverTheViewIsItsRowsAreThere();
@@ -117,6 +132,17 @@ void TestManyLayouts::onlyRowsNearTheViewHaveItems()
     QVERIFY(settings.rows().size() <= most);
     settings.scrollTo(settings.end());
     QVERIFY(settings.rows().size() <= most);
+}
+
+void TestManyLayouts::noOtherRowsAreMadeWhileThePageOpens()
+{
+    m_settings.reset();
+    RowCounter counter;
+    QCoreApplication::installTranslator(&counter);
+    m_settings = std::make_unique<ManyLayouts>();
+    QCoreApplication::removeTranslator(&counter);
+    QVERIFY(counter.rows > 2);
+    QVERIFY2(counter.rows < count / 2, qPrintable(QString::number(counter.rows)));
 }
 
 void TestManyLayouts::noPictureIsMuchHigherThanTheWindow()

@@ -47,7 +47,8 @@ ScrollArea {
     Binding {
         target: content.item as PaneStack
         property: "viewBottom"
-        value: area.contentY + area.height - page.y - pane.y
+        // Until it is anchored the area is as high as the page.
+        value: area.contentY + Math.min(area.height, area.Window.height) - page.y - pane.y
     }
     Column {
         id: page
