@@ -60,6 +60,7 @@ private slots:
     void aFileThatLeavesAgainLeavesNothingBehind();
     void theSheetListsWhatChanges();
     void settingsAreCalledAsOnTheirPages();
+    void aNumberIsWrittenInPlainDigits();
     void importStoresAndAnnouncesOnceAndCloses_data();
     void importStoresAndAnnouncesOnceAndCloses();
     void cancelChangesNothing_data();
@@ -186,6 +187,13 @@ void ImportDropTest::settingsAreCalledAsOnTheirPages()
                                      {u"maximizeMode"_s, u"fullscreen"_s},
                                      {u"layouts.gap"_s, QVariant()}})
         QVERIFY2(names.contains(SettingWords::value(key, value)), qPrintable(key));
+}
+
+void ImportDropTest::aNumberIsWrittenInPlainDigits()
+{
+    const auto back = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    QCOMPARE(SettingWords::value(u"layouts.gap"_s, 7.5), u"7.5"_s);
 }
 
 void ImportDropTest::importStoresAndAnnouncesOnceAndCloses_data()
