@@ -48,6 +48,7 @@ private slots:
     void whereThePlaceIsUnknownTheFirstPageHasTheScreen();
     void theBackgroundFollowsTheAppearance();
     void theViewFillsTheWindow();
+    void aPageIsMadeInItsPlaceAndNotLaidOutAgain();
 
 private:
     void make(const std::optional<QString> &initial = {});
@@ -58,6 +59,7 @@ private:
     void moveTo(int top);
     /// A page whose content is that high.
     EBSettingsPage page(const QString &id, int height);
+    EBSettingsPage page(const QString &id, const QString &content);
 
     QTemporaryDir m_folder;
     FakePlatform *m_platform = nullptr;
@@ -236,9 +238,14 @@ void TestSettingsWindow::moveTo(int top)
 
 EBSettingsPage TestSettingsWindow::page(const QString &id, int height)
 {
+    return page(id, QString("Item { implicitHeight: %1 }").arg(height));
+}
+
+EBSettingsPage TestSettingsWindow::page(const QString &id, const QString &content)
+{
     QFile file(m_folder.filePath(id + ".qml"));
     if (file.open(QIODevice::WriteOnly))
-        file.write(QString("import QtQuick\nItem { implicitHeight: %1 }").arg(height).toUtf8());
+        file.write("import QtQuick\nimport Embera.Tokens\n" + content.toUtf8());
     return {id, id, GlyphName::gear, {}, QUrl::fromLocalFile(file.fileName())};
 }
 
@@ -403,6 +410,32 @@ void TestSettingsWindow::theViewFillsTheWindow()
     m_controller->fit(QSizeF(620, 555));
     const QQuickItem *view = Views::visible(window().contentItem(), "SettingsRoot").constFirst();
     QTRY_COMPARE(view->size(), QSizeF(620, 555));
+}
+
+// Laying texts out is what takes longest of a start.
+void TestSettingsWindow::aPageIsMadeInItsPlaceAndNotLaidOutAgain()
+{
+    const EBSettingsPage recording = page("recording", R"(Item {
+        property real firstWidth: 0
+        property string firstProduct
+        property int changes: 0
+
+        objectName: "recording"
+        implicitHeight: 100
+        onWidthChanged: changes += firstWidth > 0
+        Component.onCompleted: {
+            firstProduct = EBEnvironment.ebApp;
+            firstWidth = width;
+        }
+    })");
+    m_controller = std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4",
+                                                                QList<EBSettingsPage>{recording}, std::nullopt);
+    show();
+    const auto *item = window().contentItem()->findChild<QQuickItem *>("recording");
+    QVERIFY(item);
+    QCOMPARE(item->property("firstProduct").toString(), "corvane");
+    QCOMPARE(item->property("firstWidth").toReal(), item->width());
+    QCOMPARE(item->property("changes").toInt(), 0);
 }
 
 CORVANE_TEST(TestSettingsWindow, runInGui)

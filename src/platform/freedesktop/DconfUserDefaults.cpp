@@ -5,12 +5,6 @@
 #include <QDBusError>
 #include <QDBusMessage>
 
-// GIO has members named like the Qt keyword.
-#pragma push_macro("signals")
-#undef signals
-#include <dconf.h>
-#pragma pop_macro("signals")
-
 #include <utility>
 
 namespace {
@@ -21,10 +15,16 @@ constexpr int answerLimit = 2000;
 const QString service = QStringLiteral("ca.desrt.dconf");
 const QString writerInterface = QStringLiteral("ca.desrt.dconf.Writer");
 
+/// Whether dconf can hold something there.
+bool isPath(const QByteArray &path)
+{
+    return path.startsWith('/') && !path.contains("//") && !path.contains('\0');
+}
+
 QByteArray folderOf(const QString &suiteName)
 {
     const QByteArray folder = '/' + suiteName.toUtf8().replace('.', '/') + '/';
-    return dconf_is_dir(folder.constData(), nullptr) && !folder.contains('\0') ? folder : QByteArray();
+    return isPath(folder) ? folder : QByteArray();
 }
 
 UserDefaults::Trouble troubleIn(const QDBusError &error)
@@ -64,10 +64,10 @@ bool DconfUserDefaults::canOpen(const QString &suiteName)
 void DconfUserDefaults::follow()
 {
     auto bus = SessionBus::connectionNow();
-    if (!bus || bus->name() == m_followed || m_database.writer().isEmpty())
+    if (!bus || bus->name() == m_followed || m_database->writer().isEmpty())
         return;
     m_followed = bus->name();
-    bus->connect(QString(), m_database.writer(), writerInterface, QStringLiteral("Notify"), this,
+    bus->connect(QString(), m_database->writer(), writerInterface, QStringLiteral("Notify"), this,
                  SLOT(heard(QString, QStringList, QString)));
     bus->connect(QString(), SessionBus::busPath, SessionBus::busName, QStringLiteral("NameOwnerChanged"), {service},
                  QString(), this, SLOT(serviceChanged(QString, QString, QString)));
@@ -102,7 +102,7 @@ void DconfUserDefaults::tryAgain()
 std::optional<QByteArray> DconfUserDefaults::path(const QString &key) const
 {
     const QByteArray path = m_folder + key.toUtf8();
-    if (m_folder.isEmpty() || path.contains('\0') || !dconf_is_key(path.constData(), nullptr))
+    if (m_folder.isEmpty() || !isPath(path) || path.endsWith('/'))
         return std::nullopt;
     return path;
 }
@@ -110,14 +110,14 @@ std::optional<QByteArray> DconfUserDefaults::path(const QString &key) const
 QVariant DconfUserDefaults::storedValue(const QString &key) const
 {
     const auto path = this->path(key);
-    return path ? m_database.value(*path) : QVariant();
+    return path ? m_database->value(*path) : QVariant();
 }
 
 // A profile without a database that can be written is no lock.
 bool DconfUserDefaults::isWritable(const QString &key) const
 {
     const auto path = this->path(key);
-    return !path || m_database.writer().isEmpty() || m_database.isWritable(*path);
+    return !path || m_database->writer().isEmpty() || m_database->isWritable(*path);
 }
 
 void DconfUserDefaults::store(const QString &key, const QVariant &value)
@@ -126,7 +126,7 @@ void DconfUserDefaults::store(const QString &key, const QVariant &value)
     const auto bus = SessionBus::connection();
     if (!isWritable(key)) {
         storeFinished(Trouble::locked);
-    } else if (!path || !bus || m_database.writer().isEmpty()) {
+    } else if (!path || !bus || m_database->writer().isEmpty()) {
         storeFinished(Trouble::noStore);
     } else {
         m_path = *path;
@@ -134,8 +134,8 @@ void DconfUserDefaults::store(const QString &key, const QVariant &value)
         m_isWriting = true;
         m_hasServiceEnded = false;
         QDBusMessage call =
-            QDBusMessage::createMethodCall(service, m_database.writer(), writerInterface, QStringLiteral("Change"));
-        call << DconfDatabase::change(m_path, m_value);
+            QDBusMessage::createMethodCall(service, m_database->writer(), writerInterface, QStringLiteral("Change"));
+        call << m_database->change(m_path, m_value);
         bus->callWithCallback(call, this, SLOT(written(QString)), SLOT(refused(QDBusError, QDBusMessage)), answerLimit);
     }
 }
@@ -145,7 +145,7 @@ void DconfUserDefaults::written(const QString &tag)
     m_ownWrite = tag;
     m_isWriting = false;
     m_hasTriedAgain = false;
-    storeFinished(m_database.holds(m_path, m_value) ? Trouble::none : Trouble::unknown);
+    storeFinished(m_database->holds(m_path, m_value) ? Trouble::none : Trouble::unknown);
 }
 
 void DconfUserDefaults::refused(const QDBusError &error, const QDBusMessage &)

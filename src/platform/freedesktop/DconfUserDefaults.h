@@ -41,7 +41,7 @@ private:
     std::optional<QByteArray> path(const QString &key) const;
 
     QByteArray m_folder;
-    DconfDatabase m_database;
+    const std::unique_ptr<DconfDatabase> m_database = DconfDatabase::make();
     /// The connection on which changes are heard.
     QString m_followed;
     /// What is being written.

@@ -24,17 +24,14 @@ QByteArray busAddress()
     return address.isEmpty() ? "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus" : address;
 }
 
-/// Connects, says hello and leaves. That may take for ever.
-bool answers(const QByteArray &address)
+/// Connects and says hello. That may take for ever.
+SessionBus::OwnConnection connectApartTo(const QByteArray &address)
 {
-    DBusConnection *bus = dbus_connection_open_private(address.constData(), nullptr);
+    SessionBus::OwnConnection bus(dbus_connection_open_private(address.constData(), nullptr));
     if (!bus)
-        return false;
-    dbus_connection_set_exit_on_disconnect(bus, FALSE);
-    const bool hasAnswered = dbus_bus_register(bus, nullptr) != FALSE;
-    dbus_connection_close(bus);
-    dbus_connection_unref(bus);
-    return hasAnswered;
+        return nullptr;
+    dbus_connection_set_exit_on_disconnect(bus.get(), FALSE);
+    return dbus_bus_register(bus.get(), nullptr) ? std::move(bus) : nullptr;
 }
 
 /// The toolkit's own connection, or where that is lost, another one.
@@ -101,6 +98,17 @@ std::optional<QDBusConnection> SessionBus::connectionWithin(std::chrono::millise
     return self.current();
 }
 
+void SessionBus::Close::operator()(DBusConnection *bus) const
+{
+    dbus_connection_close(bus);
+    dbus_connection_unref(bus);
+}
+
+SessionBus::OwnConnection SessionBus::connectApart()
+{
+    return connectApartTo(busAddress());
+}
+
 /// What is left of the patience that the first attempt is met with.
 std::chrono::milliseconds SessionBus::left() const
 {
@@ -148,7 +156,7 @@ void SessionBus::begin()
     auto result = std::make_shared<std::promise<bool>>();
     m_attempt = result->get_future().share();
     std::thread([this, result, address = m_address] {
-        result->set_value(answers(address));
+        result->set_value(connectApartTo(address) != nullptr);
         QMetaObject::invokeMethod(this, &SessionBus::take, Qt::QueuedConnection);
     }).detach();
 }

@@ -11,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+struct DBusConnection;
+
 /// The message bus of the person's session, used only where one is already there.
 ///
 /// A bus may accept connections and then say nothing, and Qt would wait for it for ever. So a thread of its own, which
@@ -48,6 +50,16 @@ public:
 
     /// Waits for the connection as long as that and no longer.
     static std::optional<QDBusConnection> connectionWithin(std::chrono::milliseconds limit);
+
+    /// Ends a connection.
+    struct Close {
+        void operator()(DBusConnection *bus) const;
+    };
+    using OwnConnection = std::unique_ptr<DBusConnection, Close>;
+
+    /// A connection of the caller's own; null where the bus cannot be spoken to. One that does not answer is waited for
+    /// as long as it likes. An application object need not exist yet.
+    static OwnConnection connectApart();
 
     /// A call that any bus answers, after it has taken everything sent before.
     static QDBusMessage question();

@@ -2,11 +2,7 @@
 
 #include "SessionBus.h"
 
-// GIO has members named like the Qt keyword.
-#pragma push_macro("signals")
-#undef signals
-#include <gio/gio.h>
-#pragma pop_macro("signals")
+#include <dbus/dbus.h>
 
 #include <memory>
 
@@ -17,28 +13,43 @@ constexpr int answerLimit = 50; // milliseconds
 constexpr double smallest = 0.5;
 constexpr double largest = 3;
 
-using Variant = std::unique_ptr<GVariant, decltype(&g_variant_unref)>;
+struct Unref {
+    void operator()(DBusMessage *message) const { dbus_message_unref(message); }
+};
+using Message = std::unique_ptr<DBusMessage, Unref>;
 
-/// Qt's own connection wants an application object.
-Variant askPortal()
+/// The portal's answer, which is null where it gives none. Qt's own connection wants an application object.
+Message askPortal()
 {
-    static GDBusConnection *const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+    const SessionBus::OwnConnection bus = SessionBus::connectApart();
     if (!bus)
-        return {nullptr, g_variant_unref};
-    g_dbus_connection_set_exit_on_close(bus, FALSE);
-    GVariant *answer = g_dbus_connection_call_sync(
-        bus, "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings",
-        "Read", g_variant_new("(ss)", "org.gnome.desktop.interface", "text-scaling-factor"), G_VARIANT_TYPE("(v)"),
-        G_DBUS_CALL_FLAGS_NO_AUTO_START, answerLimit, nullptr, nullptr);
-    return {answer, g_variant_unref};
+        return nullptr;
+    const Message question(dbus_message_new_method_call("org.freedesktop.portal.Desktop",
+                                                        "/org/freedesktop/portal/desktop",
+                                                        "org.freedesktop.portal.Settings", "Read"));
+    const char *const group = "org.gnome.desktop.interface";
+    const char *const key = "text-scaling-factor";
+    dbus_message_append_args(question.get(), DBUS_TYPE_STRING, &group, DBUS_TYPE_STRING, &key, DBUS_TYPE_INVALID);
+    dbus_message_set_auto_start(question.get(), FALSE);
+    return Message(dbus_connection_send_with_reply_and_block(bus.get(), question.get(), answerLimit, nullptr));
 }
 
-/// The portal wraps the value more than once.
-Variant unwrapped(Variant value)
+/// The number in the answer, which the portal wraps more than once; 0 where there is none.
+double numberIn(const Message &answer)
 {
-    while (value && g_variant_is_container(value.get()))
-        value.reset(g_variant_get_child_value(value.get(), 0));
-    return value;
+    if (!answer || !dbus_message_has_signature(answer.get(), "v"))
+        return 0;
+    DBusMessageIter value;
+    dbus_message_iter_init(answer.get(), &value);
+    while (dbus_message_iter_get_arg_type(&value) == DBUS_TYPE_VARIANT) {
+        DBusMessageIter inside;
+        dbus_message_iter_recurse(&value, &inside);
+        value = inside;
+    }
+    double number = 0;
+    if (dbus_message_iter_get_arg_type(&value) == DBUS_TYPE_DOUBLE)
+        dbus_message_iter_get_basic(&value, &number);
+    return number;
 }
 
 }
@@ -47,9 +58,6 @@ double TextScale::read()
 {
     if (!SessionBus::hasAnswered())
         return 1;
-    const Variant answer = unwrapped(askPortal());
-    if (!answer || !g_variant_is_of_type(answer.get(), G_VARIANT_TYPE_DOUBLE))
-        return 1;
-    const double scale = g_variant_get_double(answer.get());
+    const double scale = numberIn(askPortal());
     return scale >= smallest && scale <= largest ? scale : 1;
 }

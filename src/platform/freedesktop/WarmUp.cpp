@@ -1,5 +1,7 @@
 #include "WarmUp.h"
 
+#include "DconfDatabase.h"
+
 #include <QLibrary>
 
 #include <fontconfig/fontconfig.h>
@@ -11,5 +13,6 @@ std::future<void> WarmUp::begin()
     return std::async(std::launch::async, [] {
         FcInit();
         QLibrary(QStringLiteral("Qt6QmlWorkerScript"), QT_VERSION_MAJOR).load();
+        DconfDatabase::make();
     });
 }
