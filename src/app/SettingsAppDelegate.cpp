@@ -26,12 +26,17 @@
 
 namespace {
 
-/// Loads the faces that a window is set in. The kit's body becomes the application's font, so that no other is loaded
-/// for items that set none.
-void loadFaces(const QList<QFont> &faces)
+/// A font of the kit that is made before this has the face of another. The kit's body becomes the application's font,
+/// so that no other is loaded for items that set none.
+void useKitFonts()
 {
     EBKitFonts::registerFonts();
     QGuiApplication::setFont(EBTypes::font(EBTypeRole::body));
+}
+
+/// Loads the faces that a window is set in.
+void loadFaces(const QList<QFont> &faces)
+{
     for (const QFont &face : faces)
         QFontMetricsF(face).horizontalAdvance(QStringLiteral("x"));
 }
@@ -195,6 +200,7 @@ void SettingsAppDelegate::openOnboarding()
 {
     Platform &platform = Platform::current();
     platform.appearance();
+    useKitFonts();
     loadFaces({EBTypes::font(EBTypeRole::hero), EBTypes::font(EBTypeRole::lead), EBTypes::font(EBTypeRole::body),
                EBTypes::font(EBTypeRole::bodyStrong), EBTypes::font(EBTypeRole::small),
                EBTypes::font(EBTypeRole::mono)});
@@ -216,6 +222,7 @@ void SettingsAppDelegate::openAbout()
 {
     Platform &platform = Platform::current();
     platform.appearance();
+    useKitFonts();
     loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
                EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono)});
     platform.appearance().settle();
@@ -225,6 +232,7 @@ void SettingsAppDelegate::openAbout()
 
 void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
 {
+    useKitFonts();
     loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
                EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono),
                EBTypes::systemFont(13, QFont::Medium)});
