@@ -16,7 +16,7 @@ public:
     /// Booleans and strings. Without a session to post to, the notification is dropped in silence.
     virtual void post(const QString &name, const QVariantMap &userInfo) = 0;
 
-    /// Whether there is a session to post to.
+    /// Whether there is a session to post to; one that does not answer yet is waited for, up to five seconds.
     virtual bool isAvailable() const = 0;
 
     /// Calls `lost` when the session's notifications cease, while `context` lives.

@@ -7,12 +7,15 @@
 #include "Store.h"
 #include "TestProgram.h"
 
+#include <QDBusConnectionInterface>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -73,6 +76,7 @@ private slots:
     void aResultThatCannotBeWrittenGivesOne();
     void withoutABusNothingIsDoneAndThatIsSaid_data();
     void withoutABusNothingIsDoneAndThatIsSaid();
+    void aBusThatIsBusyIsWaitedFor();
     void watchingEndsWithTheBus();
     void checkAgentPassesTheReferenceAgent();
 
@@ -556,6 +560,27 @@ void CtlTest::withoutABusNothingIsDoneAndThatIsSaid()
     QCOMPARE(result.errors, "corvane-ctl: " + reason + '\n');
     QCOMPARE(result.code, 1);
     QCOMPARE(run({u"get"_s, u"buttonTheme"_s}, {}, lonely).output, QByteArray("classic\n"));
+}
+
+void CtlTest::aBusThatIsBusyIsWaitedFor()
+{
+    const BusDaemon bus(file(u"busy"_s), QStringList());
+    const QString name = u"busy"_s;
+    const auto closed = qScopeGuard([&] { QDBusConnection::disconnectFromBus(name); });
+    const auto connection = QDBusConnection::connectToBus(QString::fromUtf8(bus.address()), name);
+    const auto daemon = pid_t(connection.interface()->servicePid(u"org.freedesktop.DBus"_s).value());
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus.address()));
+    process.setProcessEnvironment(environment);
+    QVERIFY(daemon > 0 && kill(daemon, SIGSTOP) == 0);
+    const auto awake = qScopeGuard([&] { kill(daemon, SIGCONT); });
+    process.start(ctlProgram, {u"send"_s, u"applySettings"_s});
+    QVERIFY(!process.waitForFinished(1000));
+    kill(daemon, SIGCONT);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 0);
 }
 
 void CtlTest::watchingEndsWithTheBus()

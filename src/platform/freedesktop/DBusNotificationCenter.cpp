@@ -14,6 +14,9 @@ namespace {
 /// Long enough for any bus that works, short enough for a person not to notice one that does not.
 constexpr std::chrono::milliseconds flushLimit = 250ms;
 
+/// A busy machine may keep its bus from answering for a while.
+constexpr std::chrono::seconds slowestSession{5};
+
 constexpr int longestName = 255;
 
 struct Signal {
@@ -65,7 +68,7 @@ void DBusNotificationCenter::post(const QString &name, const QVariantMap &userIn
 
 bool DBusNotificationCenter::isAvailable() const
 {
-    return SessionBus::connection().has_value();
+    return SessionBus::connectionWithin(slowestSession).has_value();
 }
 
 void DBusNotificationCenter::whenLost(QObject *context, std::function<void()> lost)
