@@ -38,6 +38,7 @@ void finishWrites(SettingsAppDelegate &delegate)
 int main(int argc, char *argv[])
 {
     NativePlatform::secureStreams();
+    NativePlatform::keepLargeBlocksApart();
     LaunchFlags::setArguments(argc, argv);
     chooseRenderer();
     std::shared_ptr<void> environment = NativePlatform::prepareEnvironment();

@@ -25,6 +25,10 @@ std::unique_ptr<Platform> make();
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.
 [[nodiscard]] std::shared_ptr<void> prepareEnvironment();
 
+/// From now on large blocks of memory go back to the system as soon as they are freed, and none of them is put where an
+/// earlier one was. To be called before anything large is made.
+void keepLargeBlocksApart();
+
 /// To be called once the first window is shown: the memory that the start has freed goes back to the system, and from
 /// then on what is large does so as soon as it is freed.
 void giveMemoryBack();

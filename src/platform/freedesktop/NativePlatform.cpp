@@ -30,6 +30,14 @@ std::shared_ptr<void> NativePlatform::prepareEnvironment()
     return std::make_shared<StartEnvironment>();
 }
 
+// Setting the one limit keeps the C library from moving both, so the other is set where it would come to be.
+void NativePlatform::keepLargeBlocksApart()
+{
+    constexpr int mebibyte = 1024 * 1024;
+    mallopt(M_MMAP_THRESHOLD, mebibyte);
+    mallopt(M_TRIM_THRESHOLD, 4 * mebibyte);
+}
+
 // The C library keeps ever larger blocks once one of them was freed, unless it is told a size.
 void NativePlatform::giveMemoryBack()
 {
