@@ -1,8 +1,8 @@
 #include "KeySymbols.h"
 
 #include <QKeySequence>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -28,11 +28,31 @@ constexpr std::array symbols = {
     QT_TRANSLATE_NOOP("QShortcut", "Down"),
 };
 
-/// Symbols, with a letter or a digit after them if there is one: "⌥⌘W", "⌘←", or the "⌥" of "⌥-click".
-const QRegularExpression &combination()
+bool isSymbol(QChar character)
 {
-    static const QRegularExpression expression(QStringLiteral("[⌘⌥⌃⇧↩←→↑↓]+[A-Z0-9]?"));
-    return expression;
+    return std::any_of(symbols.begin(), symbols.end(),
+                       [character](const Symbol &symbol) { return symbol.symbol == character; });
+}
+
+bool isLetterOrDigit(QChar character)
+{
+    return (character >= u'A' && character <= u'Z') || (character >= u'0' && character <= u'9');
+}
+
+/// Symbols, with a letter or a digit after them if there is one: "⌥⌘W", "⌘←", or the "⌥" of "⌥-click". Every label is
+/// looked through while a window starts, and a regular expression would load its library for that.
+QList<QStringView> combinations(QStringView text)
+{
+    QList<QStringView> found;
+    const auto *end = text.end();
+    for (const auto *begin = std::find_if(text.begin(), end, isSymbol); begin != end;) {
+        const auto *behind = std::find_if_not(begin, end, isSymbol);
+        if (behind != end && isLetterOrDigit(*behind))
+            ++behind;
+        found.append(QStringView(begin, behind));
+        begin = std::find_if(behind, end, isSymbol);
+    }
+    return found;
 }
 
 QString named(QStringView combination)
@@ -54,19 +74,19 @@ QString named(QStringView combination)
 QString KeySymbols::spelled(const QString &text)
 {
     QString spelled;
-    qsizetype end = 0;
-    for (const QRegularExpressionMatch &match : combination().globalMatch(text)) {
-        spelled += QStringView(text).mid(end, match.capturedStart() - end) + named(match.capturedView());
-        end = match.capturedEnd();
+    const QChar *end = text.begin();
+    for (const QStringView &combination : combinations(text)) {
+        spelled += QStringView(end, combination.begin()) + named(combination);
+        end = combination.end();
     }
-    spelled += QStringView(text).mid(end);
+    spelled += QStringView(end, text.end());
     return spelled.replace(QStringLiteral(" … "), tr(" to "));
 }
 
 QString KeySymbols::keysIn(const QString &text)
 {
     QStringList keys;
-    for (const QRegularExpressionMatch &match : combination().globalMatch(text))
-        keys.append(named(match.capturedView()));
+    for (const QStringView &combination : combinations(text))
+        keys.append(named(combination));
     return keys.join(QStringLiteral(", "));
 }
