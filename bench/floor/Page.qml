@@ -75,10 +75,7 @@ Empty {
         color: page.chip
         border.color: "#b3b2ae"
 
-        property alias bar: bar.visible
-
         Rectangle {
-            id: bar
             anchors.centerIn: parent
             width: 7
             height: 1

@@ -26,19 +26,19 @@
 
 namespace {
 
-/// A font of the kit that is made before this has the face of another. The kit's body becomes the application's font,
-/// so that no other is loaded for items that set none.
-void useKitFonts()
+void loadFace(const QFont &face)
+{
+    QFontMetricsF(face).horizontalAdvance(QStringLiteral("x"));
+}
+
+/// Registers the kit's faces and loads those that a window is set in. The body's becomes the application's font, so
+/// that no other is loaded for items that set none.
+void loadFaces(std::initializer_list<EBTypeRole> roles)
 {
     EBKitFonts::registerFonts();
     QGuiApplication::setFont(EBTypes::font(EBTypeRole::body));
-}
-
-/// Loads the faces that a window is set in.
-void loadFaces(const QList<QFont> &faces)
-{
-    for (const QFont &face : faces)
-        QFontMetricsF(face).horizontalAdvance(QStringLiteral("x"));
+    for (const EBTypeRole role : roles)
+        loadFace(EBTypes::font(role));
 }
 
 std::optional<QString> initialPage()
@@ -200,10 +200,8 @@ void SettingsAppDelegate::openOnboarding()
 {
     Platform &platform = Platform::current();
     platform.appearance();
-    useKitFonts();
-    loadFaces({EBTypes::font(EBTypeRole::hero), EBTypes::font(EBTypeRole::lead), EBTypes::font(EBTypeRole::body),
-               EBTypes::font(EBTypeRole::bodyStrong), EBTypes::font(EBTypeRole::small),
-               EBTypes::font(EBTypeRole::mono)});
+    loadFaces({EBTypeRole::hero, EBTypeRole::lead, EBTypeRole::body, EBTypeRole::bodyStrong, EBTypeRole::small,
+               EBTypeRole::mono});
     platform.appearance().settle();
     const auto run = LaunchFlags::replay() ? OnboardingFlow::Run::replay : OnboardingFlow::Run::first;
     m_guide = std::make_unique<GuideWindowController>(m_engine, run, &SettingsAppDelegate::finishOnboarding);
@@ -222,9 +220,7 @@ void SettingsAppDelegate::openAbout()
 {
     Platform &platform = Platform::current();
     platform.appearance();
-    useKitFonts();
-    loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
-               EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono)});
+    loadFaces({EBTypeRole::title, EBTypeRole::body, EBTypeRole::bodyStrong, EBTypeRole::caption, EBTypeRole::mono});
     platform.appearance().settle();
     m_about = std::make_unique<AboutWindow>(m_engine);
     present(*m_about);
@@ -232,10 +228,9 @@ void SettingsAppDelegate::openAbout()
 
 void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
 {
-    useKitFonts();
-    loadFaces({EBTypes::font(EBTypeRole::title), EBTypes::font(EBTypeRole::body), EBTypes::font(EBTypeRole::bodyStrong),
-               EBTypes::font(EBTypeRole::caption), EBTypes::font(EBTypeRole::mono),
-               EBTypes::systemFont(13, QFont::Medium)});
+    loadFaces({EBTypeRole::title, EBTypeRole::body, EBTypeRole::bodyStrong, EBTypeRole::caption, EBTypeRole::mono});
+    // The sidebar's.
+    loadFace(EBTypes::systemFont(13, QFont::Medium));
     Platform &platform = Platform::current();
     // Asked early, the desktop has answered by the time the first frame is drawn.
     platform.appearance();
