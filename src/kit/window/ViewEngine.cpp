@@ -21,10 +21,12 @@ QQuickItem *ViewEngine::makeItem(QQmlEngine &engine, const QString &url, const Q
 {
     QQmlComponent component(&engine, QUrl(url));
     auto *view = qobject_cast<QQuickItem *>(component.beginCreate(engine.rootContext()));
-    if (view && place)
-        place(view);
-    component.setInitialProperties(view, properties);
-    component.completeCreate();
+    if (view) {
+        if (place)
+            place(view);
+        component.setInitialProperties(view, properties);
+        component.completeCreate();
+    }
     if (!type.cast(view) || component.isError())
         qFatal("%s", qPrintable(component.errorString()));
     return view;
