@@ -10,7 +10,12 @@
 #include <QPalette>
 #include <QSignalSpy>
 
+using namespace std::chrono_literals;
+
 namespace {
+
+/// Enough for a machine that is busy with other tests.
+constexpr auto patience = 10s;
 
 const QString shared = QStringLiteral("org.freedesktop.appearance");
 const QString gnome = QStringLiteral("org.gnome.desktop.interface");
@@ -121,7 +126,7 @@ void PortalAppearanceTest::whatThePortalSaysIsKnownOnceSettled()
 {
     QFETCH(QVariant, answer);
     const SettingsPortal portal(answer);
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QTEST(*appearance.bestMatch(), "name");
     QTEST(appearance.shouldReduceMotion(), "reducesMotion");
@@ -139,12 +144,10 @@ void PortalAppearanceTest::anAnswerThatMeansNothingCountsAsNone()
 {
     QFETCH(QVariant, answer);
     SettingsPortal portal(answer);
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     QSignalSpy spy(&appearance, &Appearance::changed);
     appearance.settle();
     QCOMPARE(appearance.bestMatch(), aqua);
-    // What is told before the bus knows who listens is not heard.
-    QTRY_VERIFY(!portal.calls().isEmpty());
     portal.change(shared, colorScheme, 1U);
     QTRY_COMPARE(appearance.bestMatch(), darkAqua);
     QCOMPARE(spy.size(), 1);
@@ -154,7 +157,7 @@ void PortalAppearanceTest::anAnswerThatMeansNothingCountsAsNone()
 void PortalAppearanceTest::everythingIsAskedInOneQuestion()
 {
     const SettingsPortal portal(dark());
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QCOMPARE(portal.calls(), QStringList(QStringLiteral("ReadAll")));
 }
@@ -162,7 +165,7 @@ void PortalAppearanceTest::everythingIsAskedInOneQuestion()
 void PortalAppearanceTest::whatThePortalSaysArrivesAsAChangeWithoutSettling()
 {
     const SettingsPortal portal(dark());
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     QSignalSpy spy(&appearance, &Appearance::changed);
     QCOMPARE(appearance.bestMatch(), aqua);
     QTRY_COMPARE(appearance.bestMatch(), darkAqua);
@@ -200,7 +203,7 @@ void PortalAppearanceTest::settlingAgainWaitsForNothing()
 void PortalAppearanceTest::aChangedSettingIsFollowed()
 {
     SettingsPortal portal(groups({}));
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     portal.change(shared, colorScheme, 1U);
     QTRY_COMPARE(appearance.bestMatch(), darkAqua);
@@ -219,7 +222,7 @@ void PortalAppearanceTest::aChangedSettingIsFollowed()
 void PortalAppearanceTest::aChangeThatChangesNothingIsNotAnnounced()
 {
     SettingsPortal portal(dark());
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QSignalSpy spy(&appearance, &Appearance::changed);
     portal.change(shared, colorScheme, 1U);
@@ -233,7 +236,7 @@ void PortalAppearanceTest::aChangeThatChangesNothingIsNotAnnounced()
 void PortalAppearanceTest::nobodyButThePortalIsListenedTo()
 {
     SettingsPortal portal(groups({}));
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QSignalSpy spy(&appearance, &Appearance::changed);
     // Somebody else claims to be the portal, and then the bus.
@@ -268,7 +271,7 @@ void PortalAppearanceTest::nothingButTheSettingsThatAreUsedIsKept()
 void PortalAppearanceTest::manyChangesAtOnceAreOne()
 {
     SettingsPortal portal(groups({}));
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QSignalSpy spy(&appearance, &Appearance::changed);
     for (uint i = 0; i < 401; ++i)
@@ -279,7 +282,7 @@ void PortalAppearanceTest::manyChangesAtOnceAreOne()
 
 void PortalAppearanceTest::aPortalThatAppearsLaterIsAsked()
 {
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QCOMPARE(appearance.bestMatch(), aqua);
     const SettingsPortal portal(dark());
@@ -289,7 +292,7 @@ void PortalAppearanceTest::aPortalThatAppearsLaterIsAsked()
 void PortalAppearanceTest::aPortalThatReturnsIsAskedAgain()
 {
     auto portal = std::make_unique<SettingsPortal>(dark());
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QCOMPARE(appearance.bestMatch(), darkAqua);
     portal.reset();
@@ -301,7 +304,7 @@ void PortalAppearanceTest::aPortalThatReturnsIsAskedAgain()
 void PortalAppearanceTest::aPortalThatIsNotRunningIsStartedAndAskedOnlyWhenWoken()
 {
     const QString started = m_session.runtimeFolder() + QStringLiteral("/started");
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QVERIFY(!QFile::exists(started));
     appearance.wake();
@@ -315,7 +318,7 @@ void PortalAppearanceTest::aPortalThatIsNotRunningIsStartedAndAskedOnlyWhenWoken
 void PortalAppearanceTest::aRunningPortalIsNotDisturbedByWaking()
 {
     const SettingsPortal portal(dark());
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     appearance.wake();
     // The bus answers in order.
@@ -326,7 +329,7 @@ void PortalAppearanceTest::aRunningPortalIsNotDisturbedByWaking()
 
 void PortalAppearanceTest::withoutAPortalThePaletteDecidesAndIsFollowed()
 {
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QSignalSpy spy(&appearance, &Appearance::changed);
     QCOMPARE(appearance.bestMatch(), aqua);
@@ -340,7 +343,7 @@ void PortalAppearanceTest::aPortalsPreferenceOutranksThePalette()
 {
     QGuiApplication::setPalette(QPalette(Qt::black));
     SettingsPortal portal(only(shared, colorScheme, 2U));
-    PortalAppearance appearance;
+    PortalAppearance appearance(patience);
     appearance.settle();
     QCOMPARE(appearance.bestMatch(), aqua);
     portal.change(shared, colorScheme, 0U);

@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr int firstAnswerLimit = 50; // milliseconds
-constexpr int laterAnswerLimit = 25000;
+constexpr int laterAnswerLimit = 25000; // milliseconds
 constexpr int frame = 16; // milliseconds
 
 const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
@@ -26,7 +25,7 @@ bool isDarkPalette()
 
 }
 
-PortalAppearance::PortalAppearance() : m_settled(firstAnswerLimit)
+PortalAppearance::PortalAppearance(std::chrono::milliseconds patience) : m_settled(patience)
 {
     if (QCoreApplication *application = QCoreApplication::instance())
         application->installEventFilter(this);

@@ -8,6 +8,7 @@
 #include <QDBusVariant>
 #include <QDeadlineTimer>
 
+#include <chrono>
 #include <memory>
 
 class QDBusConnection;
@@ -23,13 +24,14 @@ class QDBusPendingCallWatcher;
 class PortalAppearance : public Appearance {
     Q_OBJECT
 public:
-    PortalAppearance();
+    /// `patience` is how long `settle` may wait, from now on.
+    explicit PortalAppearance(std::chrono::milliseconds patience = std::chrono::milliseconds(50));
     ~PortalAppearance() override;
 
     std::optional<AppearanceName> bestMatch() const override;
     bool shouldReduceMotion() const override { return m_look.reduceMotion; }
 
-    /// Waits for the portal's first answer until 50 ms after this object was made, and no longer.
+    /// Waits for the portal's first answer until the patience is over that began when this object was made.
     void settle() override;
 
     void wake() override;
