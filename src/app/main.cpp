@@ -5,6 +5,7 @@
 #include "SettingsAppDelegate.h"
 #include "Shared.h"
 #include "UserDefaults.h"
+#include "ViewEngine.h"
 
 #include <QDeadlineTimer>
 #include <QGuiApplication>
@@ -44,16 +45,16 @@ int main(int argc, char *argv[])
     std::shared_ptr<void> environment = NativePlatform::prepareEnvironment();
     Platform::install(NativePlatform::make());
     // The warm-up and the connection to the display take about as long, and neither needs the other.
-    const std::future<void> warmUp = NativePlatform::warmUp();
+    const std::future<void> warmUp = NativePlatform::warmUp(ViewEngine::warmUp);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
     SettingsAppDelegate delegate;
+    warmUp.wait();
     // The views load while the bus is asked.
     delegate.prefetch();
     if (RunningInstance::takesOver())
         return 0;
     Language::use(Language::chosen(QLocale::system().uiLanguages()));
-    warmUp.wait();
     // The name is also the window class on X11.
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));

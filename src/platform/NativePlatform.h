@@ -3,6 +3,7 @@
 #include "LoginItem.h"
 #include "Platform.h"
 
+#include <functional>
 #include <future>
 #include <memory>
 
@@ -17,9 +18,9 @@ void secureStreams();
 /// that object must exist before any service but the bundles is asked for.
 std::unique_ptr<Platform> make();
 
-/// Does what a start can get done while the program still connects to the display, on a thread of its own. Nothing may
-/// ask for a font before the result is there.
-[[nodiscard]] std::future<void> warmUp();
+/// Does what a start can get done while the program still connects to the display, on a thread of its own, `views` in
+/// the middle of it. Nothing may ask for a font before the result is there.
+[[nodiscard]] std::future<void> warmUp(std::function<void()> views);
 
 /// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.

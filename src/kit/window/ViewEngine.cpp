@@ -1,6 +1,9 @@
 #include "ViewEngine.h"
 
+#include "QuickTypes.h"
+
 #include <QCoreApplication>
+#include <QLibrary>
 #include <QQmlComponent>
 
 ViewEngine::ViewEngine()
@@ -9,6 +12,14 @@ ViewEngine::ViewEngine()
     setImportPathList(QStringList{QStringLiteral("qrc:/qt/qml")} + importPathList());
     // Not the application's own quit(), which closes the windows first: the guide takes a closed window for its end.
     connect(this, &QQmlEngine::quit, qApp, [] { QCoreApplication::exit(); });
+}
+
+void ViewEngine::warmUp()
+{
+    QuickTypes::registerNow();
+    // A module that every view imports has its types there. The engine would look for it in a dozen places; if it is
+    // missing here, it still does.
+    QLibrary(QStringLiteral("Qt6QmlWorkerScript"), QT_VERSION_MAJOR).load();
 }
 
 void ViewEngine::prefetch(const QUrl &url)

@@ -13,6 +13,10 @@ class ViewEngine : public QQmlEngine {
 public:
     ViewEngine();
 
+    /// Does what the first view would wait for. May be called on any thread and before there is an application object;
+    /// no view may be loaded before it has ended.
+    static void warmUp();
+
     /// Begins to load a view on the engine's own thread. Making it later waits only for what is then left to do.
     void prefetch(const QUrl &url);
 

@@ -19,10 +19,10 @@ std::unique_ptr<Platform> NativePlatform::make()
     return makeFreedesktopPlatform();
 }
 
-std::future<void> NativePlatform::warmUp()
+std::future<void> NativePlatform::warmUp(std::function<void()> views)
 {
     SessionBus::instance().begin();
-    return WarmUp::begin();
+    return WarmUp::begin(std::move(views));
 }
 
 std::shared_ptr<void> NativePlatform::prepareEnvironment()

@@ -2,17 +2,13 @@
 
 #include "DconfDatabase.h"
 
-#include <QLibrary>
-
 #include <fontconfig/fontconfig.h>
 
-// The engine would find the library by itself, but only when it meets the import. If it is missing here it is still
-// looked for there.
-std::future<void> WarmUp::begin()
+std::future<void> WarmUp::begin(std::function<void()> views)
 {
-    return std::async(std::launch::async, [] {
+    return std::async(std::launch::async, [views = std::move(views)] {
         FcInit();
-        QLibrary(QStringLiteral("Qt6QmlWorkerScript"), QT_VERSION_MAJOR).load();
+        views();
         DconfDatabase::make();
     });
 }
