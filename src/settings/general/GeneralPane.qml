@@ -35,16 +35,21 @@ PaneStack {
             isOn: launchAtLogin.value || loginNeedsApproval.value
             onFlipped: value => GeneralActions.setLaunchAtLogin(value)
         }
-        EBRow {
-            visible: loginNeedsApproval.value
-            title: qsTr("Login Items")
-            detail: qsTr("Allow Corvane there to finish.")
+        Loader {
+            width: parent.width
+            active: loginNeedsApproval.value
+            visible: active
 
-            EBButton {
-                variant: "secondary"
-                size: "xs"
-                text: qsTr("Open")
-                onClicked: GeneralActions.openLoginItems()
+            sourceComponent: EBRow {
+                title: qsTr("Login Items")
+                detail: qsTr("Allow Corvane there to finish.")
+
+                EBButton {
+                    variant: "secondary"
+                    size: "xs"
+                    text: qsTr("Open")
+                    onClicked: GeneralActions.openLoginItems()
+                }
             }
         }
         EBSwitchRow {
@@ -62,9 +67,12 @@ PaneStack {
             title: qsTr("Accessibility")
             detail: trusted.value ? qsTr("Corvane can see which window you point at.") : qsTr("Needed to see which window you point at in Mission Control.")
 
-            EBStatus {
-                visible: trusted.value
-                state: "allowed"
+            Loader {
+                active: trusted.value
+                visible: active
+                sourceComponent: EBStatus {
+                    state: "allowed"
+                }
             }
             EBButton {
                 visible: !trusted.value
