@@ -181,6 +181,18 @@ private slots:
         QVERIFY(item.highest >= 55);
     }
 
+    void itIsPaintedOnlyWhileItIsVisible()
+    {
+        m_item->setSize({24, 24});
+        m_item->setVisible(false);
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, 0);
+        m_item->setVisible(true);
+        m_window->grabWindow();
+        QCOMPARE(m_item->paintings, 1);
+        QVERIFY(m_window->grabWindow().pixel(0, 12) == qRgb(0, 0, 0));
+    }
+
     void withoutASizeNothingIsPainted()
     {
         m_item->setSize({0, 24});

@@ -75,7 +75,8 @@ QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     const qreal scale = scaleFactor();
     const int bleed = int(std::ceil(m_bleed * scale));
     const QSize inside(int(std::ceil(width() * scale)), int(std::ceil(height() * scale)));
-    if (inside.isEmpty()) {
+    // Qt Quick asks for the picture of what is not visible too.
+    if (inside.isEmpty() || !isVisible()) {
         delete old;
         return nullptr;
     }
@@ -120,6 +121,6 @@ void CrispItem::geometryChange(const QRectF &now, const QRectF &before)
 void CrispItem::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
-    if (change == ItemDevicePixelRatioHasChanged)
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemVisibleHasChanged)
         update();
 }

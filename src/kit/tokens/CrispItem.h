@@ -9,7 +9,8 @@ class QPainter;
 ///
 /// Its picture is as many pixels as the item covers and is shown unscaled: a painted item of Qt Quick rounds
 /// its size to whole points, which stretches an odd size at a scale of 1.5. It is drawn anew only when the
-/// size, the scale, the appearance or a property that notifies with `changed` changes.
+/// size, the scale, the appearance or a property that notifies with `changed` changes, and when it comes into view:
+/// what is not visible has no picture.
 ///
 /// A subclass declares what it draws as `Q_PROPERTY(… MEMBER m_x NOTIFY changed)`, and may take colours from the
 /// palette while it paints.
