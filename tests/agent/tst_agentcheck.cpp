@@ -71,7 +71,7 @@ void AgentCheckTest::anAgentThatBreaksARuleFailsOnThatOne_data()
     for (const char *part : {"login-twice", "settings-unknown"})
         QTest::newRow(part) << QString(part) << std::chrono::milliseconds(20s);
     for (const char *rule : {"one", "login"})
-        QTest::newRow(rule) << QString(rule) << std::chrono::milliseconds(2s);
+        QTest::newRow(rule) << QString(rule) << std::chrono::milliseconds(1s);
     for (const char *rule : {"value", "strangers", "settings", "layouts", "types"})
         QTest::newRow(rule) << QString(rule) << std::chrono::milliseconds(20s);
 }

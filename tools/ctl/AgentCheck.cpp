@@ -6,6 +6,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -14,6 +15,9 @@
 using namespace std::chrono_literals;
 
 namespace {
+
+/// How long an agent is looked at that should do nothing.
+constexpr std::chrono::milliseconds moment = 200ms;
 
 const QString commandEntry = QStringLiteral("command");
 const QString valueEntry = QStringLiteral("value");
@@ -34,6 +38,11 @@ void lookAround()
 QVariantMap command(const QString &name)
 {
     return {{commandEntry, name}};
+}
+
+QVariantMap loginCommand(bool on)
+{
+    return {{commandEntry, Shared::Command::setLaunchAtLogin}, {valueEntry, on}};
 }
 
 }
@@ -96,11 +105,17 @@ AgentCheck::Process AgentCheck::start() const
 
 void AgentCheck::revive()
 {
-    if (m_agent && m_agent->state() != QProcess::NotRunning && owner() == m_owner)
+    if (m_agent && !hasEnded() && owner() == m_owner)
         return;
     m_agent = start();
-    waitFor([this] { return !owner().isEmpty() || m_agent->state() == QProcess::NotRunning; }, m_startPatience);
+    waitFor([this] { return !owner().isEmpty() || hasEnded(); }, m_startPatience);
     m_owner = owner();
+    m_answers = !m_owner.isEmpty() && listens() && setLogin(false);
+}
+
+bool AgentCheck::hasEnded() const
+{
+    return m_agent->state() == QProcess::NotRunning;
 }
 
 void AgentCheck::begin(const char *name, const char *demand)
@@ -116,8 +131,7 @@ void AgentCheck::expect(bool isTrue, const QString &fault)
 
 void AgentCheck::expectAlive(const QString &after)
 {
-    expect(m_agent->state() != QProcess::NotRunning && owner() == m_owner,
-           QStringLiteral("it has ended, or lost its name, after %1").arg(after));
+    expect(!hasEnded() && owner() == m_owner, QStringLiteral("it has ended, or lost its name, after %1").arg(after));
 }
 
 void AgentCheck::checkName()
@@ -125,8 +139,7 @@ void AgentCheck::checkName()
     begin("name", "holds the name com.vexmoor.corvane while it runs");
     revive();
     expect(!m_owner.isEmpty(),
-           m_agent->state() == QProcess::NotRunning ? QStringLiteral("it ended before it held the name")
-                                                    : QStringLiteral("nobody holds the name"));
+           hasEnded() ? QStringLiteral("it ended before it held the name") : QStringLiteral("nobody holds the name"));
 }
 
 void AgentCheck::checkOne()
@@ -147,51 +160,46 @@ void AgentCheck::checkLogin()
         expect(false, QStringLiteral("asked for, no login item is reported, nor one that waits for approval"));
     else if (!setLogin(false))
         expect(false, QStringLiteral("asked to take it away, a login item is still reported"));
+    else if (!setLogin(true, extra))
+        expect(false, QStringLiteral("an extra entry keeps it from doing what is asked for"));
     else
-        expect(setLogin(true, extra), QStringLiteral("an extra entry keeps it from doing what is asked for"));
-    post({{commandEntry, Shared::Command::setLaunchAtLogin}, {valueEntry, true}});
+        expect(keepsLoginItem({{loginCommand(true)}}),
+               QStringLiteral("asked for the same once more, it takes the login item away"));
     settle();
-    expect(m_rules.last().faults.size() > 0 || isRegistered(),
-           QStringLiteral("asked for the same once more, it takes the login item away"));
     expectAlive(QStringLiteral("setLaunchAtLogin"));
 }
 
 void AgentCheck::checkValue()
 {
     begin("value", "takes no value for none: only a Boolean registers or unregisters it");
-    setLogin(true);
-    const bool before = isRegistered();
     const QString name = Shared::Command::setLaunchAtLogin;
-    post(command(name));
+    QList<QVariantList> odd = {{command(name)}};
     for (const QVariant &value : {QVariant(QStringLiteral("false")), QVariant(0), QVariant(0.0)})
-        post({{commandEntry, name}, {valueEntry, value}});
-    settle();
-    expect(isRegistered() == before,
+        odd.append({QVariantMap{{commandEntry, name}, {valueEntry, value}}});
+    expect(keepsLoginItem(odd),
            QStringLiteral("without a value, or with a text or a number for one, it unregisters itself"));
+    settle();
     expectAlive(QStringLiteral("a value that is no Boolean"));
 }
 
 void AgentCheck::checkStrangers()
 {
     begin("strangers", "passes over what it does not know");
-    const bool before = setLogin(true) && isRegistered();
-    const QList<QVariantMap> strangers = {
+    const QList<QVariantList> strangers = {
+        {QVariantMap()},
+        {command(QStringLiteral("fly"))},
+        {command(QString())},
+        {command(QStringLiteral("SETLAUNCHATLOGIN"))},
+        {QVariantMap{{commandEntry, 7}}},
+        {QVariantMap{{valueEntry, false}}},
+        {QVariantMap{{commandEntry, QStringLiteral("fly")}, {valueEntry, false}}},
         {},
-        command(QStringLiteral("fly")),
-        command(QString()),
-        command(QStringLiteral("SETLAUNCHATLOGIN")),
-        {{commandEntry, 7}},
-        {{valueEntry, false}},
-        {{commandEntry, QStringLiteral("fly")}, {valueEntry, false}},
+        {QStringLiteral("applySettings")},
+        {7, false},
     };
-    for (const QVariantMap &stranger : strangers)
-        post(stranger);
-    postBroken({});
-    postBroken({QStringLiteral("applySettings")});
-    postBroken({7, false});
+    expect(keepsLoginItem(strangers), QStringLiteral("a command that nobody knows changes its login item"));
     settle();
     expectAlive(QStringLiteral("commands that nobody knows"));
-    expect(isRegistered() == before, QStringLiteral("a command that nobody knows changes its login item"));
 }
 
 void AgentCheck::checkSettings()
@@ -243,8 +251,8 @@ void AgentCheck::checkLayouts()
 void AgentCheck::checkTypes()
 {
     begin("types", "reports Booleans and nothing else in its keys");
-    post(command(Shared::Command::requestAccessibility));
-    post(command(Shared::Command::checkForUpdates));
+    post({command(Shared::Command::requestAccessibility)});
+    post({command(Shared::Command::checkForUpdates)});
     settle();
     expectAlive(QStringLiteral("requestAccessibility and checkForUpdates"));
     for (const Contract::StoreKey &key : Contract::storeKeys()) {
@@ -254,12 +262,7 @@ void AgentCheck::checkTypes()
     }
 }
 
-void AgentCheck::post(const QVariantMap &userInfo) const
-{
-    postBroken({userInfo});
-}
-
-void AgentCheck::postBroken(const QVariantList &arguments) const
+void AgentCheck::post(const QVariantList &arguments) const
 {
     const QString interface = Shared::Command::name.section(u'.', 0, -2);
     QDBusMessage signal = QDBusMessage::createSignal(u'/' + QString(interface).replace(u'.', u'/'), interface,
@@ -268,16 +271,51 @@ void AgentCheck::postBroken(const QVariantList &arguments) const
     m_bus.send(signal);
 }
 
-bool AgentCheck::setLogin(bool on, const QVariantMap &extras) const
+bool AgentCheck::listens()
 {
-    // What is reported already would say nothing: so the agent is asked for the opposite of what is stored.
-    store(Shared::Key::agentLaunchAtLogin, !on);
+    pretendLogin(false);
+    const QDeadlineTimer deadline(m_patience);
+    do {
+        post({loginCommand(true)});
+    } while (!waitFor([this] { return isRegistered(); }, moment) && !deadline.hasExpired());
+    return isRegistered();
+}
+
+void AgentCheck::pretendLogin(bool on) const
+{
+    store(Shared::Key::agentLaunchAtLogin, on);
     store(Shared::Key::agentLaunchAtLoginNeedsApproval, false);
     Shared::store().finishWrites(m_patience);
-    QVariantMap userInfo = {{commandEntry, Shared::Command::setLaunchAtLogin}, {valueEntry, on}};
+}
+
+bool AgentCheck::setLogin(bool on, const QVariantMap &extras)
+{
+    pretendLogin(!on);
+    QVariantMap userInfo = loginCommand(on);
     userInfo.insert(extras);
-    post(userInfo);
-    return waitFor([&] { return isRegistered() == on; }, m_patience);
+    QElapsedTimer timer;
+    timer.start();
+    post({userInfo});
+    m_answers = waitFor([&] { return isRegistered() == on || hasEnded(); }, m_patience) && isRegistered() == on;
+    m_answerTime = std::chrono::milliseconds(timer.elapsed());
+    return m_answers;
+}
+
+bool AgentCheck::keepsLoginItem(const QList<QVariantList> &followers)
+{
+    if (!setLogin(true) || !setLogin(false))
+        return true;
+    bool hasReported = false;
+    const auto ear = QObject::connect(&Shared::store(), &UserDefaults::changed,
+                                      [&](const QString &key) { hasReported |= Contract::isAgentState(key); });
+    post({loginCommand(true)});
+    for (const QVariantList &follower : followers)
+        post(follower);
+    waitFor([&] { return hasReported || hasEnded(); }, m_patience);
+    QObject::disconnect(ear);
+    // With this report the followers are in its hands, and what it makes of them takes no longer than that took.
+    waitFor([] { return false; }, moment + 10 * m_answerTime);
+    return isRegistered();
 }
 
 bool AgentCheck::isRegistered() const
@@ -286,13 +324,13 @@ bool AgentCheck::isRegistered() const
         || Shared::value(Shared::Key::agentLaunchAtLoginNeedsApproval).toBool();
 }
 
-QStringList AgentCheck::changedAfter(const QVariantMap &values) const
+QStringList AgentCheck::changedAfter(const QVariantMap &values)
 {
     UserDefaults &settings = Shared::store();
     for (auto value = values.cbegin(); value != values.cend(); ++value)
         settings.setValue(value.key(), value.value());
     settings.finishWrites(m_patience);
-    post(command(Shared::Command::applySettings));
+    post({command(Shared::Command::applySettings)});
     settle();
     QStringList changed;
     for (auto value = values.cbegin(); value != values.cend(); ++value) {
@@ -318,15 +356,11 @@ bool AgentCheck::waitFor(const std::function<bool()> &condition, std::chrono::mi
     return true;
 }
 
-void AgentCheck::settle() const
+void AgentCheck::settle()
 {
-    constexpr int slowest = 500; // milliseconds
-    // Whoever answers has most likely done what was sent before.
-    m_bus.call(QDBusMessage::createMethodCall(m_owner, QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus.Peer"),
-                                              QStringLiteral("Ping")),
-               QDBus::Block, slowest);
-    const QDeadlineTimer deadline(300ms);
-    while (!deadline.hasExpired()) {
-        lookAround();
-    }
+    // The bus keeps the order of the commands, and an agent that of its reports: with this one, it has done what was
+    // asked for before. One that does something later, in another thread for instance, has a moment more.
+    if (m_answers)
+        setLogin(!isRegistered());
+    waitFor([] { return false; }, moment);
 }

@@ -40,6 +40,7 @@ private:
     Process start() const;
     /// Starts it once more where a rule before has ended it.
     void revive();
+    bool hasEnded() const;
     void begin(const char *name, const char *demand);
     /// Notes a fault of the rule that is being tried.
     void expect(bool isTrue, const QString &fault);
@@ -55,19 +56,26 @@ private:
     void checkLayouts();
     void checkTypes();
 
-    void post(const QVariantMap &userInfo) const;
-    /// Posts the signal with other arguments than a command has.
-    void postBroken(const QVariantList &arguments) const;
+    /// Posts the command's signal; a command has one argument, a map.
+    void post(const QVariantList &arguments) const;
+    /// Whether it does what it is asked for, in the end: it has its name before it listens, so it is asked again.
+    bool listens();
+    /// Stores what would be reported with the login item registered or not. The report of what is stored already
+    /// could not be told from none.
+    void pretendLogin(bool on) const;
     /// Has the login item registered or not, and waits until the agent says so.
-    bool setLogin(bool on, const QVariantMap &extras = {}) const;
+    bool setLogin(bool on, const QVariantMap &extras = {});
+    /// Whether it still registers itself when signals with these arguments come right behind the command. An agent
+    /// that does not do so without them either has nothing to lose: true.
+    bool keepsLoginItem(const QList<QVariantList> &followers);
     bool isRegistered() const;
     /// Stores the values, an invalid one removes its key, posts "applySettings", and says which are not as they were
     /// left.
-    QStringList changedAfter(const QVariantMap &values) const;
+    QStringList changedAfter(const QVariantMap &values);
     QString owner() const;
     static bool waitFor(const std::function<bool()> &condition, std::chrono::milliseconds limit);
-    /// Gives the agent time to do what it should not.
-    void settle() const;
+    /// Waits until the agent has done what it was asked for so far.
+    void settle();
 
     const QString m_program;
     const QStringList m_arguments;
@@ -76,5 +84,8 @@ private:
     QDBusConnection m_bus;
     Process m_agent;
     QString m_owner;
+    /// Whether it has reported what it was asked for last, and after how long.
+    bool m_answers = true;
+    std::chrono::milliseconds m_answerTime{0};
     QList<Rule> m_rules;
 };
