@@ -43,19 +43,4 @@ Flickable {
         }
         Component.onCompleted: setSource("ScrollBar.qml", {area: area})
     }
-    WheelHandler {
-        enabled: area.scrolls
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-        // A notch of a wheel is 120 units, and scrolls 60 points.
-        onWheel: event => area.scrollTo(area.contentY - (event.pixelDelta.y || event.angleDelta.y / 2))
-    }
-    DragHandler {
-        property real start: 0
-
-        enabled: area.scrolls
-        acceptedDevices: PointerDevice.TouchScreen
-        target: null
-        onActiveChanged: start = area.contentY
-        onActiveTranslationChanged: area.scrollTo(start - activeTranslation.y)
-    }
 }
