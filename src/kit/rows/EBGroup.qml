@@ -38,11 +38,17 @@ Item {
     Repeater {
         id: rules
 
-        EBRule {
+        RuleFace {
             required property real modelData
 
             y: modelData - height
-            inset: KitMetrics.rowInset
+            anchors {
+                left: parent?.left
+                leftMargin: KitMetrics.rowInset
+                right: parent?.right
+            }
+            height: KitMetrics.ruleHeight
+            color: EB.line
         }
     }
     // Over the content, so that nothing in it hides the edge.
