@@ -100,7 +100,7 @@ Item {
             }
         }
     }
-    Column {
+    Loader {
         id: noticePlace
         anchors {
             left: parent.left
@@ -110,43 +110,9 @@ Item {
             rightMargin: 10
             bottomMargin: 12
         }
-        visible: sidebar.notice !== ""
-        spacing: 6
-
-        EBText {
-            id: noticeText
-            x: 8
-            width: parent.width - x - 4
-            text: sidebar.notice
-            role: "caption"
-            color: EB.inkMuted
-            horizontalAlignment: Text.AlignLeft
-            wrapMode: Text.Wrap
-            Accessible.role: Accessible.Notification
-            Accessible.name: text
-            Accessible.ignored: !visible
-            Accessible.onNameChanged: if (visible)
-                Announcer.announce(noticeText)
-        }
-        Flow {
-            width: parent.width
-            spacing: 4
-            visible: sidebar.answers.length > 0
-
-            Repeater {
-                model: sidebar.answers
-
-                EBButton {
-                    required property int index
-                    required property string modelData
-
-                    text: modelData
-                    variant: "secondary"
-                    size: "xs"
-                    onClicked: sidebar.answered(index)
-                }
-            }
-        }
+        active: sidebar.notice !== ""
+        visible: active
+        Component.onCompleted: setSource("SidebarNotice.qml", {sidebar: sidebar})
     }
     // As high as the two lines beside it, and in line with the pages' glyphs.
     Mark {
