@@ -69,7 +69,7 @@ QQuickWindow *TestAppDelegate::window()
 
 QString TestAppDelegate::selection()
 {
-    const QQuickItem *root = Views::visible(window()->contentItem(), "SettingsRoot").constFirst();
+    const QQuickItem *root = Views::visible(window()->contentItem(), "EBSettingsView").constFirst();
     return root->property("model").value<EBSettingsWindowController::Model *>()->selection();
 }
 

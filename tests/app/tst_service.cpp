@@ -68,7 +68,7 @@ void TestService::aRequestOpensTheSettings()
     QVERIFY(m_platform->programs.receive({action, page}));
     const auto *window = qobject_cast<QQuickWindow *>(QGuiApplication::topLevelWindows().value(0));
     QVERIFY(window && window->isVisible());
-    const QQuickItem *root = Views::visible(window->contentItem(), "SettingsRoot").constFirst();
+    const QQuickItem *root = Views::visible(window->contentItem(), "EBSettingsView").constFirst();
     QCOMPARE(root->property("model").value<EBSettingsWindowController::Model *>()->selection(), shown);
 }
 

@@ -408,7 +408,7 @@ void TestSettingsWindow::theViewFillsTheWindow()
     show();
     m_platform->look.setReduceMotion(true);
     m_controller->fit(QSizeF(620, 555));
-    const QQuickItem *view = Views::visible(window().contentItem(), "SettingsRoot").constFirst();
+    const QQuickItem *view = Views::visible(window().contentItem(), "EBSettingsView").constFirst();
     QTRY_COMPARE(view->size(), QSizeF(620, 555));
 }
 

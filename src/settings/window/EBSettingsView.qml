@@ -1,18 +1,16 @@
 import QtQuick
 import Corvane.Settings.Window
 
-/// The sidebar with the pages, and beside it the page that is selected.
-FocusScope {
+/// What the settings window hosts: the sidebar with the pages, and beside it the page that is selected.
+MeasuredItem {
     id: view
 
     required property string version
     required property SidebarModel pages
     required property SettingsModel model
-    /// How high the window can become.
-    required property real roomHeight
 
-    implicitWidth: 620
-    implicitHeight: Math.max(sidebar.implicitHeight + 2 * 8, page.implicitHeight)
+    LayoutMirroring.childrenInherit: true
+    contentSize: Qt.size(620, Math.max(sidebar.implicitHeight + 2 * 8, page.implicitHeight))
     focus: true
     Keys.onPressed: event => event.accepted = page.scrollByKey(event.key)
 

@@ -12,6 +12,11 @@ void layOut(QQuickItem *item)
 
 }
 
+MeasuredItem::MeasuredItem(QQuickItem *parent) : QQuickItem(parent)
+{
+    setFlag(ItemIsFocusScope);
+}
+
 void MeasuredItem::settle()
 {
     for (QQuickItem *child : childItems())

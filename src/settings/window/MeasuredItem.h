@@ -5,7 +5,7 @@
 
 #include <limits>
 
-/// A root view that tells how large its content wants to be. Whoever sizes the window listens.
+/// A root view that tells how large its content wants to be. Whoever sizes the window listens. It is a focus scope.
 class MeasuredItem : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -14,7 +14,7 @@ class MeasuredItem : public QQuickItem {
     /// How high the window can become where it stands, in points. Content beyond it must scroll.
     Q_PROPERTY(qreal roomHeight READ roomHeight WRITE setRoomHeight NOTIFY roomHeightChanged)
 public:
-    using QQuickItem::QQuickItem;
+    explicit MeasuredItem(QQuickItem *parent = nullptr);
 
     QSizeF contentSize() const { return m_contentSize; }
     void setContentSize(QSizeF size);
