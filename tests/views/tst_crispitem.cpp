@@ -29,25 +29,28 @@ private:
     qreal m_shade = 0;
 };
 
-/// A black item with a white mark in each corner of its upper and lower 20 points, and with a red line at its left.
+/// A black item with a white mark in each corner of 20 points and a red line at its left.
 class Marked : public CrispItem {
     Q_OBJECT
 public:
-    /// Whether nothing is said of rows that are alike.
+    /// Whether nothing is said of rows and columns that are alike.
     bool isPlain = false;
-    /// Of the pictures that were painted, in pixels.
-    int highest = 0;
+    /// Of the picture that was painted last, in pixels.
+    QSize painted;
 
 protected:
     void paint(QPainter *painter) override
     {
-        highest = std::max(highest, painter->device()->height());
-        painter->fillRect(boundingRect(), Qt::black);
-        painter->fillRect(QRectF(0, 0, 1.5, height()), Qt::red);
-        for (const qreal y : {0.0, height() - 18})
-            painter->fillRect(QRectF(3, y, 5, 18), Qt::white);
+        painted = {painter->device()->width(), painter->device()->height()};
+        const QRectF bounds = pixelBounds();
+        painter->fillRect(bounds, Qt::black);
+        painter->fillRect(QRectF(0, 0, 1.5, bounds.height()), Qt::red);
+        for (const qreal x : {3.0, bounds.width() - 19}) {
+            for (const qreal y : {0.0, bounds.height() - 18})
+                painter->fillRect(QRectF(x, y, 15, 18), Qt::white);
+        }
     }
-    qreal unevenEnds() const override { return isPlain ? CrispItem::unevenEnds() : 20; }
+    qreal unevenEdge() const override { return isPlain ? CrispItem::unevenEdge() : 20; }
 };
 
 class CrispItemTest : public QObject {
@@ -142,43 +145,39 @@ private slots:
         QCOMPARE(m_item->paintings, before + 4);
     }
 
-    void rowsThatAreAlikeAreKeptOnce_data()
+    void rowsAndColumnsThatAreAlikeAreKeptOnce_data()
     {
-        QTest::addColumn<qreal>("height");
-        QTest::newRow("just high enough") << 104.0;
-        QTest::newRow("fractional") << 151.3;
-        QTest::newRow("high") << 400.0;
+        QTest::addColumn<QSizeF>("size");
+        QTest::newRow("just large enough") << QSizeF(60, 60);
+        QTest::newRow("fractional") << QSizeF(70.3, 151.3);
+        QTest::newRow("high") << QSizeF(40, 400);
+        QTest::newRow("wide") << QSizeF(80, 40);
     }
-    void rowsThatAreAlikeAreKeptOnce()
+    void rowsAndColumnsThatAreAlikeAreKeptOnce()
     {
-        QFETCH(const qreal, height);
+        QFETCH(const QSizeF, size);
         m_window->resize(100, 440);
         Marked item;
         item.setParentItem(m_window->contentItem());
         item.setPosition({10, 7});
-        item.setSize({30, height});
+        item.setSize(size);
         const QImage kept = m_window->grabWindow();
         const qreal scale = m_window->effectiveDevicePixelRatio();
-        QVERIFY(item.highest <= std::ceil(20 * scale));
+        // Both ends, a pixel for rounding at each and the one that is kept for all.
+        const qreal most = 2 * 20 * scale + 3;
+        for (const auto &[points, pixels] :
+             {std::pair(size.width(), item.painted.width()), std::pair(size.height(), item.painted.height())})
+            QCOMPARE(qreal(pixels), points == 40 ? 40 * scale : most);
         item.isPlain = true;
         item.update();
         QCOMPARE(m_window->grabWindow(), kept);
-        QVERIFY(item.highest >= height * scale);
+        QVERIFY(item.painted.width() >= size.width() * scale && item.painted.height() >= size.height() * scale);
         item.isPlain = false;
-        for (const qreal other : {height + 10, height}) {
-            item.setHeight(other);
+        for (const QSizeF &other : {size + QSizeF(10, 10), size}) {
+            item.setSize(other);
             item.update();
-            QCOMPARE(m_window->grabWindow() == kept, other == height);
+            QCOMPARE(m_window->grabWindow() == kept, other == size);
         }
-    }
-
-    void aLowItemIsKeptAsItIs()
-    {
-        Marked item;
-        item.setParentItem(m_window->contentItem());
-        item.setSize({30, 55});
-        m_window->grabWindow();
-        QVERIFY(item.highest >= 55);
     }
 
     void itIsPaintedOnlyWhileItIsVisible()

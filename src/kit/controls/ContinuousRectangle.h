@@ -26,7 +26,7 @@ public:
 
 protected:
     void paint(QPainter *painter) override;
-    qreal unevenEnds() const override { return longestCorner * std::max(m_radius, 0.0) + m_strokeWidth; }
+    qreal unevenEdge() const override { return longestCorner * std::max(m_radius, 0.0) + m_strokeWidth; }
 
 private:
     QColor m_color = Qt::transparent;

@@ -11,8 +11,12 @@
 
 namespace {
 
-/// Rows that are alike, in pixels, below which keeping one for all of them is not worth the trouble.
-constexpr int fewestAlike = 64;
+/// Rows or columns that are alike, below which keeping one for all of them is not worth the trouble.
+constexpr int fewestAlike = 16;
+
+/// In pixels. At a fractional scale an item may lie at half a pixel; this much further on all parts of its picture are
+/// rounded alike.
+constexpr qreal pastTheHalf = 1.0 / 256;
 
 }
 
@@ -31,7 +35,8 @@ qreal CrispItem::scaleFactor() const
 QRectF CrispItem::pixelBounds() const
 {
     const qreal scale = scaleFactor();
-    return {0, 0, std::round(width() * scale) / scale, std::round(height() * scale) / scale};
+    return {0, 0, (std::round(width() * scale) - m_leftOut.width()) / scale,
+            (std::round(height() * scale) - m_leftOut.height()) / scale};
 }
 
 void CrispItem::setBleed(qreal bleed)
@@ -42,31 +47,34 @@ void CrispItem::setBleed(qreal bleed)
     update();
 }
 
-/// All rows as they are, or the uneven ones at both ends and between them one of those that are alike.
-QList<CrispItem::Rows> CrispItem::rows(int height, int bleed) const
+/// All of a direction as it is, or the uneven bands at both ends and between them one row or column of those that are
+/// alike.
+QList<CrispItem::Band> CrispItem::bands(int length, int bleed) const
 {
-    const qreal ends = std::max(std::ceil(unevenEnds() * scaleFactor()), 1.0) + bleed;
+    // One more, as the far edge may lie that much further in.
+    const qreal ends = std::ceil(unevenEdge() * scaleFactor()) + 1 + bleed;
     // Pixels that are blended need their neighbours.
-    if (m_isScaled || !(2 * ends + fewestAlike <= height))
-        return {{0, height, 0, height}};
+    if (m_isScaled || !(2 * ends + fewestAlike <= length))
+        return {{0, length, 0, length}};
     const int end = int(ends);
-    return {{0, end, 0, end}, {end, 1, end, height - 2 * end}, {end + 1, end, height - end, end}};
+    return {{0, end, 0, end}, {end, 1, end, length - 2 * end}, {end + 1, end, length - end, end}};
 }
 
-QImage CrispItem::picture(QSize pixels, int bleed, const QList<Rows> &rows)
+QImage CrispItem::picture(QSize kept, QSize shown, int bleed)
 {
     const qreal scale = scaleFactor();
-    QImage image(pixels.width(), rows.constLast().kept + rows.constLast().keptCount,
-                 QImage::Format_ARGB32_Premultiplied);
+    QImage image(kept, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    for (const Rows &part : rows) {
-        QImage canvas(image.scanLine(part.kept), image.width(), part.keptCount, image.bytesPerLine(), image.format());
-        canvas.setDevicePixelRatio(scale);
-        QPainter painter(&canvas);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(QPointF(bleed, bleed - part.shown) / scale);
-        paint(&painter);
-    }
+    // An image keeps what the painter needed for as long as it lives, and the software renderer would apply its ratio a
+    // second time, so both belong to another one over the same pixels.
+    QImage canvas(image.bits(), image.width(), image.height(), image.bytesPerLine(), image.format());
+    canvas.setDevicePixelRatio(scale);
+    QPainter painter(&canvas);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QPointF(bleed, bleed) / scale);
+    m_leftOut = shown - kept;
+    paint(&painter);
+    m_leftOut = {0, 0};
     return image;
 }
 
@@ -82,31 +90,36 @@ QSGNode *CrispItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     }
 
     const QSize pixels = inside.grownBy({bleed, bleed, bleed, bleed});
-    const QPointF origin = -QPointF(bleed, bleed) / scale;
-    const QList<Rows> rows = this->rows(pixels.height(), bleed);
-    // The picture keeps the ratio 1: from here on sizes are in pixels, and the software renderer would apply the ratio
-    // a second time.
+    const QList<Band> rows = bands(pixels.height(), bleed);
+    const QList<Band> columns = bands(pixels.width(), bleed);
+    const auto kept = [](const Band &last) { return last.kept + last.keptCount; };
     QSGTexture *texture =
-        window()->createTextureFromImage(picture(pixels, bleed, rows), QQuickWindow::TextureHasAlphaChannel);
-    if (old && old->childCount() != rows.size()) {
+        window()->createTextureFromImage(picture({kept(columns.constLast()), kept(rows.constLast())}, pixels, bleed),
+                                         QQuickWindow::TextureHasAlphaChannel);
+    const qsizetype parts = rows.size() * columns.size();
+    const qreal start = (parts > 1 ? pastTheHalf : 0) - bleed;
+    if (old && old->childCount() != parts) {
         delete old;
         old = nullptr;
     }
     QSGNode *node = old ? old : new QSGNode;
     QSGNode *next = node->firstChild();
-    for (const Rows &part : rows) {
+    for (qsizetype part = 0; part < parts; ++part) {
+        const Band &row = rows.at(part / columns.size());
+        const Band &column = columns.at(part % columns.size());
         auto *image = static_cast<QSGImageNode *>(next);
         next = next ? next->nextSibling() : nullptr;
         if (!image) {
             image = window()->createImageNode();
             // The texture before goes when nobody shows it any more.
-            image->setOwnsTexture(node->childCount() + 1 == rows.size());
+            image->setOwnsTexture(part + 1 == parts);
             node->appendChildNode(image);
         }
         image->setTexture(texture);
         image->setFiltering(m_isScaled ? QSGTexture::Linear : QSGTexture::Nearest);
-        image->setSourceRect(0, part.kept, pixels.width(), part.keptCount);
-        image->setRect(origin.x(), origin.y() + part.shown / scale, pixels.width() / scale, part.shownCount / scale);
+        image->setSourceRect(column.kept, row.kept, column.keptCount, row.keptCount);
+        image->setRect((start + column.shown) / scale, (start + row.shown) / scale, column.shownCount / scale,
+                       row.shownCount / scale);
     }
     return node;
 }

@@ -32,13 +32,13 @@ protected:
     virtual void paint(QPainter *painter) = 0;
 
     /// The item's rectangle with its far edges moved to the nearest device pixel, for shapes that fill the
-    /// item.
+    /// item. While it paints, the rows and columns that `unevenEdge` leaves out are missing.
     QRectF pixelBounds() const;
 
-    /// How far from its upper and its lower edge one row of the picture may differ from the next, in points. Further in
-    /// they are all alike, so that one is kept for all, and a high item takes little memory. Infinite unless
-    /// overridden.
-    virtual qreal unevenEnds() const { return std::numeric_limits<qreal>::infinity(); }
+    /// How far from its edges one row or column of the picture may differ from the next, in points. Further in they are
+    /// all alike, so that one is kept for all, and a large item takes little memory; `paint` then asks `pixelBounds`
+    /// for the size. Infinite unless overridden.
+    virtual qreal unevenEdge() const { return std::numeric_limits<qreal>::infinity(); }
 
     /// How far the picture reaches beyond the item on every side, in points; 0 to begin with.
     void setBleed(qreal bleed);
@@ -48,8 +48,9 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
-    /// Rows of the picture, in pixels: those that are kept, and where they are shown, perhaps drawn out.
-    struct Rows {
+    /// A band of rows or columns of the picture, in pixels: those that are kept, and where they are shown, perhaps
+    /// drawn out.
+    struct Band {
         int kept;
         int keptCount;
         int shown;
@@ -57,9 +58,11 @@ private:
     };
 
     qreal scaleFactor() const;
-    QList<Rows> rows(int height, int bleed) const;
-    QImage picture(QSize pixels, int bleed, const QList<Rows> &rows);
+    QList<Band> bands(int length, int bleed) const;
+    QImage picture(QSize kept, QSize shown, int bleed);
 
     qreal m_bleed = 0;
     bool m_isScaled = false;
+    /// Pixels that are missing while the item is painted.
+    QSize m_leftOut = {0, 0};
 };
