@@ -48,6 +48,7 @@ int main(int argc, char *argv[])
     const std::future<void> warmUp = NativePlatform::warmUp(ViewEngine::warmUp);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
+    NativePlatform::connectAhead();
     SettingsAppDelegate delegate;
     warmUp.wait();
     // The views load while the bus is asked.

@@ -22,6 +22,10 @@ std::unique_ptr<Platform> make();
 /// the middle of it. Nothing may ask for a font before the result is there.
 [[nodiscard]] std::future<void> warmUp(std::function<void()> views);
 
+/// To be called right after the application object is made: connects to what the services will need while the main
+/// thread goes on.
+void connectAhead();
+
 /// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.
 [[nodiscard]] std::shared_ptr<void> prepareEnvironment();

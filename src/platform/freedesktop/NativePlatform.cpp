@@ -25,6 +25,11 @@ std::future<void> NativePlatform::warmUp(std::function<void()> views)
     return WarmUp::begin(std::move(views));
 }
 
+void NativePlatform::connectAhead()
+{
+    SessionBus::instance().connectAhead();
+}
+
 std::shared_ptr<void> NativePlatform::prepareEnvironment()
 {
     return std::make_shared<StartEnvironment>();

@@ -161,6 +161,17 @@ void SessionBus::begin()
     }).detach();
 }
 
+void SessionBus::connectAhead()
+{
+    if (!m_attempt.valid())
+        return;
+    std::thread([attempt = m_attempt, limit = left()] {
+        const bool answers = attempt.wait_for(limit) == std::future_status::ready && attempt.get();
+        if (answers)
+            QDBusConnection::sessionBus();
+    }).detach();
+}
+
 /// Connects, once the attempt has ended with an answer.
 void SessionBus::take()
 {

@@ -29,6 +29,10 @@ public:
     /// Begins to find out whether the bus answers; an application object need not exist yet.
     void begin();
 
+    /// Makes the connection on a thread of its own as soon as the bus has answered, if it does until half a second
+    /// after the first attempt began. `connection` then finds it made. An application object must exist.
+    void connectAhead();
+
     /// Whether the bus answers, which is waited for until half a second after the first attempt began. An application
     /// object need not exist yet.
     static bool hasAnswered();
