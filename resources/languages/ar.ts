@@ -479,6 +479,13 @@
     </message>
 </context>
 <context>
+    <name>ImportDrop</name>
+    <message>
+        <source>The settings were imported.</source>
+        <translation>تم استيراد الإعدادات.</translation>
+    </message>
+</context>
+<context>
     <name>ImportOffer</name>
     <message>
         <source>Changed: %1</source>
@@ -504,10 +511,6 @@
         <source>Now: %1</source>
         <extracomment>%1 is the value that a setting has before an import.</extracomment>
         <translation>الآن: %1</translation>
-    </message>
-    <message>
-        <source>The settings can&apos;t be saved. Nothing was imported.</source>
-        <translation>يتعذر حفظ الإعدادات. لم يتم استيراد أي شيء.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -827,6 +830,18 @@
     <message>
         <source>Start Fresh</source>
         <translation>بدء جديد</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>There is nothing to save settings in.</source>
+        <translation>لا يوجد مكان لحفظ الإعدادات فيه.</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was imported.</source>
+        <extracomment>%1 is a sentence that says why.</extracomment>
+        <translation>%1 لم يتم استيراد أي شيء.</translation>
     </message>
 </context>
 <context>

@@ -479,6 +479,13 @@
     </message>
 </context>
 <context>
+    <name>ImportDrop</name>
+    <message>
+        <source>The settings were imported.</source>
+        <translation>Die Einstellungen wurden importiert.</translation>
+    </message>
+</context>
+<context>
     <name>ImportOffer</name>
     <message>
         <source>Changed: %1</source>
@@ -504,10 +511,6 @@
         <source>Now: %1</source>
         <extracomment>%1 is the value that a setting has before an import.</extracomment>
         <translation>Jetzt: %1</translation>
-    </message>
-    <message>
-        <source>The settings can&apos;t be saved. Nothing was imported.</source>
-        <translation>Die Einstellungen lassen sich nicht sichern. Es wurde nichts importiert.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -823,6 +826,18 @@
     <message>
         <source>Start Fresh</source>
         <translation>Neu beginnen</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>There is nothing to save settings in.</source>
+        <translation>Es gibt keinen Ort, an dem sich Einstellungen sichern lassen.</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was imported.</source>
+        <extracomment>%1 is a sentence that says why.</extracomment>
+        <translation>%1 Es wurde nichts importiert.</translation>
     </message>
 </context>
 <context>

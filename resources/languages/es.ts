@@ -479,6 +479,13 @@
     </message>
 </context>
 <context>
+    <name>ImportDrop</name>
+    <message>
+        <source>The settings were imported.</source>
+        <translation>Se han importado los ajustes.</translation>
+    </message>
+</context>
+<context>
     <name>ImportOffer</name>
     <message>
         <source>Changed: %1</source>
@@ -504,10 +511,6 @@
         <source>Now: %1</source>
         <extracomment>%1 is the value that a setting has before an import.</extracomment>
         <translation>Ahora: %1</translation>
-    </message>
-    <message>
-        <source>The settings can&apos;t be saved. Nothing was imported.</source>
-        <translation>No se pueden guardar los ajustes. No se ha importado nada.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -823,6 +826,18 @@
     <message>
         <source>Start Fresh</source>
         <translation>Empezar de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>There is nothing to save settings in.</source>
+        <translation>No hay dónde guardar los ajustes.</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was imported.</source>
+        <extracomment>%1 is a sentence that says why.</extracomment>
+        <translation>%1 No se ha importado nada.</translation>
     </message>
 </context>
 <context>

@@ -479,6 +479,13 @@
     </message>
 </context>
 <context>
+    <name>ImportDrop</name>
+    <message>
+        <source>The settings were imported.</source>
+        <translation>設定を読み込みました。</translation>
+    </message>
+</context>
+<context>
     <name>ImportOffer</name>
     <message>
         <source>Changed: %1</source>
@@ -504,10 +511,6 @@
         <source>Now: %1</source>
         <extracomment>%1 is the value that a setting has before an import.</extracomment>
         <translation>現在：%1</translation>
-    </message>
-    <message>
-        <source>The settings can&apos;t be saved. Nothing was imported.</source>
-        <translation>設定を保存できません。何も読み込まれていません。</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,6 +825,18 @@
     <message>
         <source>Start Fresh</source>
         <translation>最初から始める</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>There is nothing to save settings in.</source>
+        <translation>設定の保存先がありません。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was imported.</source>
+        <extracomment>%1 is a sentence that says why.</extracomment>
+        <translation>%1何も読み込まれていません。</translation>
     </message>
 </context>
 <context>

@@ -479,6 +479,13 @@
     </message>
 </context>
 <context>
+    <name>ImportDrop</name>
+    <message>
+        <source>The settings were imported.</source>
+        <translation>已导入设置。</translation>
+    </message>
+</context>
+<context>
     <name>ImportOffer</name>
     <message>
         <source>Changed: %1</source>
@@ -504,10 +511,6 @@
         <source>Now: %1</source>
         <extracomment>%1 is the value that a setting has before an import.</extracomment>
         <translation>当前：%1</translation>
-    </message>
-    <message>
-        <source>The settings can&apos;t be saved. Nothing was imported.</source>
-        <translation>无法存储设置。未导入任何内容。</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -822,6 +825,18 @@
     <message>
         <source>Start Fresh</source>
         <translation>重新开始</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsTransfer</name>
+    <message>
+        <source>There is nothing to save settings in.</source>
+        <translation>没有可存储设置的位置。</translation>
+    </message>
+    <message>
+        <source>%1 Nothing was imported.</source>
+        <extracomment>%1 is a sentence that says why.</extracomment>
+        <translation>%1未导入任何内容。</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,6 @@
 #include "StoreTrouble.h"
 
 #include "Shared.h"
-#include "UserDefaults.h"
 
 StoreTrouble::StoreTrouble(QObject *parent) : QObject(parent)
 {
@@ -10,7 +9,12 @@ StoreTrouble::StoreTrouble(QObject *parent) : QObject(parent)
 
 QString StoreTrouble::text()
 {
-    switch (Shared::store().trouble()) {
+    return text(Shared::store().trouble());
+}
+
+QString StoreTrouble::text(UserDefaults::Trouble trouble)
+{
+    switch (trouble) {
     case UserDefaults::Trouble::none:
         return {};
     case UserDefaults::Trouble::noStore:

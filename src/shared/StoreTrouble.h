@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UserDefaults.h"
+
 #include <QObject>
 #include <qqmlregistration.h>
 
@@ -13,6 +15,9 @@ public:
     explicit StoreTrouble(QObject *parent = nullptr);
 
     static QString text();
+
+    /// The same of any reason.
+    static QString text(UserDefaults::Trouble trouble);
 
 signals:
     void textChanged();

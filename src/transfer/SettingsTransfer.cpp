@@ -4,9 +4,13 @@
 #include "LayoutStore.h"
 #include "SettingValue.h"
 #include "Shared.h"
-#include "UserDefaults.h"
+#include "StoreTrouble.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
+
+using Trouble = UserDefaults::Trouble;
 
 namespace {
 
@@ -49,23 +53,34 @@ QList<SettingsTransfer::Change> SettingsTransfer::changes(const ExportFile::Sett
     return changes;
 }
 
-bool SettingsTransfer::apply(const QList<Change> &changes, UserDefaults &store, std::chrono::milliseconds limit)
+Trouble SettingsTransfer::apply(const QList<Change> &changes, UserDefaults &store, std::chrono::milliseconds limit)
 {
     if (changes.isEmpty())
-        return true;
+        return Trouble::none;
     const auto isLocked = [&](const Change &change) { return !store.isWritable(change.key); };
     if (std::ranges::any_of(changes, isLocked))
-        return false;
+        return Trouble::locked;
     for (const Change &change : changes) {
         LayoutArchive::beforeReplacing(change.key, store);
         store.setValue(change.key, change.after);
     }
     if (store.finishWrites(limit)) {
         Shared::send(Shared::Command::applySettings);
-        return true;
+        return Trouble::none;
     }
+    // What is still on its way then has had no answer.
+    const Trouble trouble = store.trouble() == Trouble::none ? Trouble::noAnswer : store.trouble();
     for (const Change &change : changes)
         store.setValue(change.key, change.before);
     store.finishWrites(limit);
-    return false;
+    return trouble;
+}
+
+QString SettingsTransfer::failure(Trouble trouble)
+{
+    const QString reason = trouble == Trouble::noStore
+        ? QCoreApplication::translate("SettingsTransfer", "There is nothing to save settings in.")
+        : StoreTrouble::text(trouble);
+    //: %1 is a sentence that says why.
+    return QCoreApplication::translate("SettingsTransfer", "%1 Nothing was imported.").arg(reason);
 }

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "ExportFile.h"
+#include "UserDefaults.h"
 
 #include <chrono>
-
-class UserDefaults;
 
 /// What passes between the shared store and an export file. Main thread only.
 namespace SettingsTransfer {
@@ -34,9 +33,12 @@ struct Change {
 /// What storing the settings would change, in the order of the contract.
 QList<Change> changes(const ExportFile::Settings &settings, const UserDefaults &store);
 
-/// Stores them all, and has the agent apply them once; without any change nothing happens. False when not everything
-/// was stored within that time, or the administrator has locked a key: everything is then as it was, as far as that can
-/// be stored, and the agent is told nothing.
-bool apply(const QList<Change> &changes, UserDefaults &store, std::chrono::milliseconds limit);
+/// Stores them all, and has the agent apply them once; without any change nothing happens. Otherwise the reason why not
+/// everything was stored within that time: everything is then as it was, as far as that can be stored, and the agent is
+/// told nothing.
+UserDefaults::Trouble apply(const QList<Change> &changes, UserDefaults &store, std::chrono::milliseconds limit);
+
+/// What a person is told of an import that was not stored for that reason.
+QString failure(UserDefaults::Trouble trouble);
 
 }

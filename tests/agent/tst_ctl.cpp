@@ -76,6 +76,7 @@ private slots:
     void aResultThatCannotBeWrittenGivesOne();
     void withoutABusNothingIsDoneAndThatIsSaid_data();
     void withoutABusNothingIsDoneAndThatIsSaid();
+    void anImportThatCannotBeSavedSaysWhy();
     void aBusThatIsBusyIsWaitedFor();
     void watchingEndsWithTheBus();
     void checkAgentPassesTheReferenceAgent();
@@ -560,6 +561,19 @@ void CtlTest::withoutABusNothingIsDoneAndThatIsSaid()
     QCOMPARE(result.errors, "corvane-ctl: " + reason + '\n');
     QCOMPARE(result.code, 1);
     QCOMPARE(run({u"get"_s, u"buttonTheme"_s}, {}, lonely).output, QByteArray("classic\n"));
+}
+
+void CtlTest::anImportThatCannotBeSavedSaysWhy()
+{
+    // This one has no service for settings.
+    const BusDaemon bus(file(u"bare"_s), QStringList());
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromUtf8(bus.address()));
+    const Result result = run({u"import"_s, u"-"_s}, ExportFile::write({{u"buttonTheme"_s, u"soft"_s}}), environment);
+    QCOMPARE(result.errors,
+             QByteArray("corvane-ctl: Changes can't be saved: the settings service doesn't answer. "
+                        "Nothing was imported.\n"));
+    QCOMPARE(result.code, 1);
 }
 
 void CtlTest::aBusThatIsBusyIsWaitedFor()

@@ -99,7 +99,8 @@ void SettingsTransferTest::exportResetAndImportGiveTheSameStore()
         if (!Contract::isAgentState(key.name))
             store.setValue(key.name, QVariant());
     }
-    QVERIFY(SettingsTransfer::apply(SettingsTransfer::changes(carried(taken.settings), store), store, 60s));
+    QCOMPARE(SettingsTransfer::apply(SettingsTransfer::changes(carried(taken.settings), store), store, 60s),
+             UserDefaults::Trouble::none);
     const DconfUserDefaults reader(Shared::suiteName);
     for (const Contract::StoreKey &key : Contract::storeKeys()) {
         const QVariant value = reader.value(key.name);
@@ -113,7 +114,8 @@ void SettingsTransferTest::aKeyThatIsNotSetIsUnsetByTheImport()
     const auto taken = SettingsTransfer::exportFrom(store());
     QCOMPARE(taken.settings.size(), Contract::storeKeys().size() - 3);
     store().values = {{u"buttonTheme"_s, u"mono"_s}, {layoutsKey, u"[]"_s}};
-    QVERIFY(SettingsTransfer::apply(SettingsTransfer::changes(carried(taken.settings), store()), store(), 1s));
+    QCOMPARE(SettingsTransfer::apply(SettingsTransfer::changes(carried(taken.settings), store()), store(), 1s),
+             UserDefaults::Trouble::none);
     QCOMPARE(store().values, QVariantMap());
 }
 
@@ -173,7 +175,8 @@ void SettingsTransferTest::severalChangesAreAppliedOnceAfterTheLastIsStored()
     const ExportFile::Settings settings = {{u"buttonTheme"_s, u"soft"_s},
                                            {u"showMinimizeButton"_s, true},
                                            {layoutsKey, *LayoutStore::encode({Sample::layout()})}};
-    QVERIFY(SettingsTransfer::apply(SettingsTransfer::changes(settings, store()), store(), 1s));
+    QCOMPARE(SettingsTransfer::apply(SettingsTransfer::changes(settings, store()), store(), 1s),
+             UserDefaults::Trouble::none);
     QCOMPARE(store().values.size(), 3);
     QCOMPARE(m_platform->notifications.posts.size(), 1);
     const QVariantMap userInfo{{u"command"_s, u"applySettings"_s}};
@@ -186,7 +189,8 @@ void SettingsTransferTest::layoutsOfTheAgentAreKeptBeforeTheImport()
     m_platform->state = state.path();
     const QByteArray ofTheAgent = R"([{"name":"Work","newer":1,"windows":[]}])";
     store().values = {{layoutsKey, QString(ofTheAgent)}};
-    QVERIFY(SettingsTransfer::apply({{layoutsKey, QString(ofTheAgent), u"[]"_s}}, store(), 1s));
+    QCOMPARE(SettingsTransfer::apply({{layoutsKey, QString(ofTheAgent), u"[]"_s}}, store(), 1s),
+             UserDefaults::Trouble::none);
     QCOMPARE(store().values.value(layoutsKey), QVariant(u"[]"_s));
     const QDir archive(state.filePath(u"layouts"_s));
     const QStringList kept = archive.entryList({u"*.json"_s});
@@ -201,7 +205,7 @@ void SettingsTransferTest::anImportThatChangesNothingStoresAndPostsNothing()
     store().values = {{u"buttonTheme"_s, u"soft"_s}};
     const auto changes = SettingsTransfer::changes(SettingsTransfer::exportFrom(store()).settings, store());
     QCOMPARE(changes.size(), 0);
-    QVERIFY(SettingsTransfer::apply(changes, store(), 1s));
+    QCOMPARE(SettingsTransfer::apply(changes, store(), 1s), UserDefaults::Trouble::none);
     QCOMPARE(m_platform->notifications.posts.size(), 0);
 }
 
@@ -209,7 +213,8 @@ void SettingsTransferTest::aLockedKeyKeepsEverythingAsItIs()
 {
     store().locked = {u"showMinimizeButton"_s};
     const ExportFile::Settings settings = {{u"buttonTheme"_s, u"soft"_s}, {u"showMinimizeButton"_s, true}};
-    QVERIFY(!SettingsTransfer::apply(SettingsTransfer::changes(settings, store()), store(), 1s));
+    QCOMPARE(SettingsTransfer::apply(SettingsTransfer::changes(settings, store()), store(), 1s),
+             UserDefaults::Trouble::locked);
     QCOMPARE(store().values, QVariantMap());
     QCOMPARE(m_platform->notifications.posts.size(), 0);
 }
@@ -222,7 +227,8 @@ void SettingsTransferTest::whatCannotBeStoredHalfWayIsTakenBack()
     connect(&store(), &UserDefaults::changed, this,
             [this](const QString &key) { store().isHanging = key == u"showMinimizeButton"_s; });
     const ExportFile::Settings settings = {{u"buttonTheme"_s, u"soft"_s}, {u"showMinimizeButton"_s, true}};
-    QVERIFY(!SettingsTransfer::apply(SettingsTransfer::changes(settings, store()), store(), 20ms));
+    QCOMPARE(SettingsTransfer::apply(SettingsTransfer::changes(settings, store()), store(), 20ms),
+             UserDefaults::Trouble::noAnswer);
     store().disconnect(this);
     store().isHanging = false;
     store().answer();

@@ -1,51 +1,11 @@
+#include "DropWindow.h"
 #include "ExportFile.h"
-#include "ImportDrop.h"
 #include "SettingWords.h"
-#include "SettingsWindow.h"
 #include "TestProgram.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The settings window with what takes files that are dropped onto it.
-class DropWindow : public SettingsWindow {
-public:
-    DropWindow() : SettingsWindow(u"layouts"_s) { new ImportDrop(engine, *controller.window()); }
-
-    /// Drags these files over the window; whether they may be dropped.
-    bool drag(const QList<QUrl> &urls, Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction)
-    {
-        m_dragged.setUrls(urls);
-        QDragEnterEvent event(at, actions, &m_dragged, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window(), &event);
-        return event.isAccepted();
-    }
-    bool drop()
-    {
-        QDropEvent event(at, Qt::CopyAction, &m_dragged, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&window(), &event);
-        waitForFrame();
-        return event.isAccepted();
-    }
-    void leave()
-    {
-        QDragLeaveEvent event;
-        QCoreApplication::sendEvent(&window(), &event);
-    }
-    FoundItem sheet() { return item(u"Import these settings?"_s, QAccessible::Dialog); }
-    FoundItem button(const QString &name) { return item(name, QAccessible::Button); }
-
-private:
-    static constexpr QPoint at{400, 200};
-    QMimeData m_dragged;
-};
-
-}
 
 /// An export file on the settings window: what may be dropped, what is asked then, and what the answer does.
 class ImportDropTest : public QObject {
@@ -71,6 +31,7 @@ private slots:
     void aFileThatChangesNothingSaysSo();
     void aDefaultThatIsStoredIsNoChange();
     void otherWindowsUnderTheSameNamesAreAChange();
+    void whatCannotBeSavedIsSaidAndCanBeTriedAgain_data();
     void whatCannotBeSavedIsSaidAndCanBeTriedAgain();
     void aSecondFileIsRefusedWhileOneIsAskedAbout();
     void aLongListScrolls();
@@ -318,13 +279,29 @@ void ImportDropTest::otherWindowsUnderTheSameNamesAreAChange()
     QVERIFY(window.item(u"Changed: Work"_s, QAccessible::StaticText));
 }
 
+void ImportDropTest::whatCannotBeSavedIsSaidAndCanBeTriedAgain_data()
+{
+    using Trouble = UserDefaults::Trouble;
+    QTest::addColumn<Trouble>("obstacle");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no store") << Trouble::noStore << u"There is nothing to save settings in."_s;
+    QTest::newRow("no answer") << Trouble::noAnswer
+                               << u"Changes can't be saved: the settings service doesn't answer."_s;
+    QTest::newRow("no room") << Trouble::noRoom << u"Changes can't be saved: the disk is full or read-only."_s;
+    QTest::newRow("elsewhere") << Trouble::unknown
+                               << u"Changes can't be saved: the settings service stores them elsewhere."_s;
+}
+
 void ImportDropTest::whatCannotBeSavedIsSaidAndCanBeTriedAgain()
 {
+    QFETCH(UserDefaults::Trouble, obstacle);
+    QFETCH(QString, reason);
     DropWindow window;
     QVERIFY(window.drag({exported()}) && window.drop());
-    window.store.obstacle = UserDefaults::Trouble::noRoom;
+    window.store.obstacle = obstacle;
+    const QString said = reason + u" Nothing was imported."_s;
     window.pressKey(Qt::Key_Return);
-    QTRY_VERIFY(window.item(u"The settings can't be saved. Nothing was imported."_s, QAccessible::Notification));
+    QTRY_VERIFY(window.item(said, QAccessible::Notification));
     QCOMPARE(window.store.values, QVariantMap());
     window.store.obstacle = UserDefaults::Trouble::none;
     window.pressKey(Qt::Key_Return);

@@ -132,8 +132,9 @@ int TransferCommands::importFrom(const Call &call)
     }
     if (!call.dryRun && !Platform::current().distributedNotificationCenter().isAvailable())
         return Output::failure(call, QStringLiteral("there is no session bus; nothing was imported"));
-    if (!call.dryRun && !SettingsTransfer::apply(changes, store, 5s))
-        return Output::failure(call, QStringLiteral("the settings cannot be saved; nothing was imported"));
+    const auto trouble = call.dryRun ? UserDefaults::Trouble::none : SettingsTransfer::apply(changes, store, 5s);
+    if (trouble != UserDefaults::Trouble::none)
+        return Output::failure(call, SettingsTransfer::failure(trouble));
     show(call, changes);
     return ExitCode::success;
 }

@@ -12,6 +12,7 @@
 namespace {
 
 const QString sheetView = QStringLiteral("qrc:/qt/qml/Corvane/Settings/Import/ImportSheet.qml");
+const QString announcementView = QStringLiteral("qrc:/qt/qml/Embera/Controls/Announcement.qml");
 
 }
 
@@ -92,7 +93,7 @@ void ImportDrop::showSheet()
     if (QGuiApplication::isRightToLeft())
         QQmlProperty::write(m_sheet.get(), QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(m_sheet.get()));
     connect(m_sheet.get(), SIGNAL(accepted()), this, SLOT(accept()));
-    connect(m_sheet.get(), SIGNAL(cancelled()), this, SLOT(cancel()));
+    connect(m_sheet.get(), SIGNAL(cancelled()), this, SLOT(close()));
 }
 
 void ImportDrop::ask(std::unique_ptr<ImportOffer> offer)
@@ -108,11 +109,22 @@ void ImportDrop::ask(std::unique_ptr<ImportOffer> offer)
 
 void ImportDrop::accept()
 {
-    if (m_offer->accept())
-        cancel();
+    if (!m_offer->accept())
+        return;
+    close();
+    announce(tr("The settings were imported."));
 }
 
-void ImportDrop::cancel()
+void ImportDrop::announce(const QString &text)
+{
+    if (!m_announcement) {
+        m_announcement.reset(ViewEngine::make(m_engine, announcementView));
+        m_announcement->setParentItem(this);
+    }
+    QMetaObject::invokeMethod(m_announcement.get(), "say", Q_ARG(QString, text));
+}
+
+void ImportDrop::close()
 {
     m_view->setEnabled(true);
     if (m_focus)

@@ -27,7 +27,7 @@ protected:
 
 private slots:
     void accept();
-    void cancel();
+    void close();
 
 private:
     /// The settings of the only thing that is dragged; none when it is no export file.
@@ -35,6 +35,8 @@ private:
     bool asks() const { return m_offer != nullptr; }
     void showSheet();
     void ask(std::unique_ptr<ImportOffer> offer);
+    /// Has assistive technologies read that out.
+    void announce(const QString &text);
 
     QQmlEngine &m_engine;
     EBWindow &m_window;
@@ -43,4 +45,6 @@ private:
     std::unique_ptr<ImportOffer> m_offer;
     /// Exists while something is dragged over the window that can be dropped, and while the person is asked.
     std::unique_ptr<QQuickItem> m_sheet;
+    /// Exists once something was announced.
+    std::unique_ptr<QQuickItem> m_announcement;
 };

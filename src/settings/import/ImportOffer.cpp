@@ -3,7 +3,6 @@
 #include "SettingWords.h"
 #include "SettingsTransfer.h"
 #include "Shared.h"
-#include "UserDefaults.h"
 
 using namespace std::chrono_literals;
 
@@ -34,11 +33,19 @@ QVariantList ImportOffer::changes() const
 
 bool ImportOffer::accept()
 {
-    const bool isDone =
+    setFailure({});
+    const auto trouble =
         SettingsTransfer::apply(SettingsTransfer::changes(m_settings, Shared::store()), Shared::store(), 2s);
-    if (m_hasFailed == isDone) {
-        m_hasFailed = !isDone;
-        emit hasFailedChanged();
-    }
-    return isDone;
+    if (trouble == UserDefaults::Trouble::none)
+        return true;
+    setFailure(SettingsTransfer::failure(trouble));
+    return false;
+}
+
+void ImportOffer::setFailure(const QString &failure)
+{
+    if (m_failure == failure)
+        return;
+    m_failure = failure;
+    emit failureChanged();
 }

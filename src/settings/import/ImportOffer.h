@@ -15,23 +15,26 @@ class ImportOffer : public QObject {
     Q_PROPERTY(QString fileName READ fileName CONSTANT)
     /// What the import changes for a person: a list of {title, before, after}, in the words of the pages.
     Q_PROPERTY(QVariantList changes READ changes CONSTANT)
-    /// The settings could not be stored, and everything is as it was.
-    Q_PROPERTY(bool hasFailed READ hasFailed NOTIFY hasFailedChanged)
+    /// Why the settings could not be stored, in a person's words; everything is as it was then. Empty before an attempt
+    /// has failed, and during the next one.
+    Q_PROPERTY(QString failure READ failure NOTIFY failureChanged)
 public:
     ImportOffer(QString fileName, ExportFile::Settings settings);
 
     QString fileName() const { return m_fileName; }
     QVariantList changes() const;
-    bool hasFailed() const { return m_hasFailed; }
+    QString failure() const { return m_failure; }
 
     /// Stores the settings and has the agent apply them. False when that failed; it can be tried again.
     bool accept();
 
 signals:
-    void hasFailedChanged();
+    void failureChanged();
 
 private:
+    void setFailure(const QString &failure);
+
     const QString m_fileName;
     const ExportFile::Settings m_settings;
-    bool m_hasFailed = false;
+    QString m_failure;
 };

@@ -173,19 +173,18 @@ FocusScope {
                     }
                 }
             }
+            // Read out whenever it comes up.
             EBText {
                 id: failure
 
                 width: parent.width
-                visible: sheet.offer && sheet.offer.hasFailed
+                visible: text !== ""
                 role: "caption"
                 horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
-                text: qsTr("The settings can't be saved. Nothing was imported.")
+                text: sheet.offer ? sheet.offer.failure : ""
                 Accessible.role: Accessible.Notification
                 Accessible.name: text
-                onVisibleChanged: if (visible)
-                    Announcer.announce(failure)
             }
             Row {
                 id: buttons
