@@ -38,7 +38,9 @@ QQuickItem *ViewEngine::makeItem(QQmlEngine &engine, const QString &url, const Q
         component.setInitialProperties(view, properties);
         component.completeCreate();
     }
-    if (!type.cast(view) || component.isError())
+    if (component.isError())
         qFatal("%s", qPrintable(component.errorString()));
+    if (!type.cast(view))
+        qFatal("%s is no %s", qPrintable(url), type.className());
     return view;
 }
