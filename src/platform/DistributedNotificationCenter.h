@@ -22,6 +22,7 @@ public:
     /// Calls `lost` when the session's notifications cease, while `context` lives.
     virtual void whenLost(QObject *context, std::function<void()> lost) = 0;
 
-    /// Calls `observer` for every notification of that name while `context` lives.
+    /// Calls `observer` for every notification of that name while `context` lives, in a session that comes later or
+    /// comes back, too.
     virtual void observe(const QString &name, QObject *context, Observer observer) = 0;
 };

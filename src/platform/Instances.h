@@ -35,7 +35,8 @@ public:
     virtual ~Instances() = default;
 
     /// Claims `name`, a dotted name such as "com.vexmoor.corvane.settings", until this process ends. True when no other
-    /// process holds it: of several that claim it at once, one is told so. A process claims one name.
+    /// process holds it: of several that claim it at once, one is told so. A process claims one name. A session that
+    /// comes later, or comes back, is asked for it then.
     virtual bool claim(const QString &name) = 0;
 
     /// Who carries out the requests to this process. They arrive on the main thread, from the event loop; it must be

@@ -1,4 +1,5 @@
 #include "DconfUserDefaults.h"
+#include "SessionBus.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -11,14 +12,18 @@ class BrokenAgent : public QObject {
 public:
     explicit BrokenAgent(const QString &rule) : m_rule(rule)
     {
-        auto bus = QDBusConnection::sessionBus();
-        if (!breaks("name") && !bus.interface()->registerService("com.vexmoor.corvane").value()) {
-            m_isSecond = true;
+        m_isSecond = !claim();
+        if (m_isSecond)
             return;
-        }
-        bus.connect(QString(), "/com/vexmoor/corvane", "com.vexmoor.corvane", "command", this,
-                    SLOT(hear(QDBusMessage)));
+        listen();
         report("agent.launchAtLogin", false);
+        if (breaks("bus"))
+            return;
+        connect(&SessionBus::instance(), &SessionBus::connected, this, [this] {
+            claim();
+            if (!breaks("bus-deaf"))
+                listen();
+        });
     }
 
     /// Whether it has nothing to do, as another one runs.
@@ -38,6 +43,16 @@ private slots:
     }
 
 private:
+    bool claim() const
+    {
+        const auto bus = SessionBus::connectionWithin(std::chrono::seconds(20));
+        return breaks("name") || (bus && bus->interface()->registerService("com.vexmoor.corvane").value());
+    }
+    void listen()
+    {
+        SessionBus::connectionNow()->connect(QString(), "/com/vexmoor/corvane", "com.vexmoor.corvane", "command", this,
+                                             SLOT(hear(QDBusMessage)));
+    }
     bool breaks(const char *rule) const { return m_rule == QLatin1String(rule); }
     void report(const QString &key, const QVariant &value) { m_store.setValue(key, value); }
 

@@ -36,7 +36,7 @@ QString faults(const QList<AgentCheck::Rule> &rules)
 class AgentCheckTest : public QObject {
     Q_OBJECT
 public:
-    explicit AgentCheckTest(PrivateSession &) { }
+    explicit AgentCheckTest(PrivateSession &session) : m_session(session) { }
 
 private slots:
     void initTestCase() { Platform::install(NativePlatform::make()); }
@@ -46,6 +46,19 @@ private slots:
     void anAgentThatBreaksARuleFailsOnThatOne_data();
     void anAgentThatBreaksARuleFailsOnThatOne();
     void aProgramThatEndsIsNoAgent();
+
+private:
+    AgentCheck check(const QString &program, const QStringList &arguments, std::chrono::milliseconds patience = 20s,
+                     std::chrono::milliseconds startPatience = 20s)
+    {
+        const auto restartBus = [this] {
+            m_session.stop();
+            return m_session.start();
+        };
+        return {program, arguments, restartBus, patience, startPatience};
+    }
+
+    PrivateSession &m_session;
 };
 
 void AgentCheckTest::cleanup()
@@ -57,8 +70,8 @@ void AgentCheckTest::cleanup()
 
 void AgentCheckTest::anAgentThatBreaksNoRulePasses()
 {
-    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {}, 20s, 20s).run();
-    QCOMPARE(rules.size(), 8);
+    const auto rules = check(PROGRAM_BROKEN_AGENT, {}).run();
+    QCOMPARE(rules.size(), 9);
     QCOMPARE(faults(rules), QString());
 }
 
@@ -70,7 +83,7 @@ void AgentCheckTest::anAgentThatBreaksARuleFailsOnThatOne_data()
     QTest::newRow("name") << QString("name") << 500ms;
     for (const char *part : {"login-twice", "settings-unknown"})
         QTest::newRow(part) << QString(part) << std::chrono::milliseconds(20s);
-    for (const char *rule : {"one", "login"})
+    for (const char *rule : {"one", "login", "bus", "bus-deaf"})
         QTest::newRow(rule) << QString(rule) << std::chrono::milliseconds(1s);
     for (const char *rule : {"value", "strangers", "settings", "layouts", "types"})
         QTest::newRow(rule) << QString(rule) << std::chrono::milliseconds(20s);
@@ -81,13 +94,13 @@ void AgentCheckTest::anAgentThatBreaksARuleFailsOnThatOne()
     QFETCH(QString, rule);
     QFETCH(std::chrono::milliseconds, patience);
     const QString name = rule.section(u'-', 0, 0);
-    const auto rules = AgentCheck(PROGRAM_BROKEN_AGENT, {rule}, patience, rule == "name" ? patience : 20s).run({name});
+    const auto rules = check(PROGRAM_BROKEN_AGENT, {rule}, patience, rule == "name" ? patience : 20s).run({name});
     QCOMPARE(broken(rules), QStringList{name});
 }
 
 void AgentCheckTest::aProgramThatEndsIsNoAgent()
 {
-    const auto rules = AgentCheck("/bin/true", {}, 20s, 20s).run();
+    const auto rules = check("/bin/true", {}).run();
     QCOMPARE(rules.size(), 1);
     QCOMPARE(faults(rules), "it ended before it held the name");
 }

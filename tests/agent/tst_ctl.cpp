@@ -617,7 +617,7 @@ void CtlTest::checkAgentPassesTheReferenceAgent()
     const QVariantMap before = m_store.readAll();
     const Result result = run({u"check-agent"_s, QStringLiteral(PROGRAM_CORVANE_AGENT), u"--headless"_s});
     QCOMPARE(result.errors, QByteArray());
-    QCOMPARE(result.output.count("ok  "), 8);
+    QCOMPARE(result.output.count("ok  "), 9);
     QCOMPARE(result.code, 0);
     QCOMPARE(m_store.readAll(), before);
     QCOMPARE(run({u"check-agent"_s, u"true"_s}).code, 1);

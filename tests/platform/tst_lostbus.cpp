@@ -1,3 +1,4 @@
+#include "DBusInstances.h"
 #include "DBusNotificationCenter.h"
 #include "DconfUserDefaults.h"
 #include "PortalAppearance.h"
@@ -19,6 +20,7 @@ public:
 
 private slots:
     void theApplicationOutlivesItsBusAndUsesTheNext();
+    void theNextBusKnowsTheNameAndWhoListens();
     void nobodyIsTakenForThePortalOfTheBusBefore();
     void anAnswerThatDoesNotComeIsNotWaitedForForEver();
 
@@ -63,6 +65,33 @@ void LostBusTest::theApplicationOutlivesItsBusAndUsesTheNext()
     QCOMPARE(dconf({QStringLiteral("read"), path}), "'memory'");
     dconf({QStringLiteral("write"), path, QStringLiteral("'outside'")});
     QTRY_COMPARE(defaults.value(key), QVariant("outside"));
+}
+
+void LostBusTest::theNextBusKnowsTheNameAndWhoListens()
+{
+    const QString name = QStringLiteral("com.vexmoor.corvane.test");
+    const ActivationToken none;
+    DBusInstances instances(none);
+    DBusNotificationCenter center;
+    QObject context;
+    int heard = 0;
+    center.observe(name + QStringLiteral(".word"), &context, [&heard](const QVariantMap &) { ++heard; });
+    QVERIFY(instances.claim(name));
+
+    m_session.stop();
+    QTRY_VERIFY(!SessionBus::connectionNow());
+    QVERIFY(m_session.start());
+    QTRY_VERIFY(SessionBus::connectionNow());
+    QTRY_VERIFY(SessionBus::connectionNow()->interface()->isServiceRegistered(name));
+    QDBusMessage activate =
+        QDBusMessage::createMethodCall(name, QStringLiteral("/com/vexmoor/corvane/test"),
+                                       QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    activate << QVariantMap();
+    QDBusPendingCall call = SessionBus::connectionNow()->asyncCall(activate);
+    QTRY_VERIFY(call.isFinished());
+    QVERIFY2(!call.isError(), qPrintable(call.error().message()));
+    center.post(name + QStringLiteral(".word"), {});
+    QTRY_COMPARE(heard, 1);
 }
 
 // Whoever is asked can only answer once the waiting is over.

@@ -19,6 +19,7 @@ namespace {
 /// How long an agent is looked at that should do nothing.
 constexpr std::chrono::milliseconds moment = 200ms;
 
+const QString ownConnection = QStringLiteral("corvane-check");
 const QString commandEntry = QStringLiteral("command");
 const QString valueEntry = QStringLiteral("value");
 
@@ -35,6 +36,11 @@ void lookAround()
     loop.exec();
 }
 
+QDBusConnection connectToBus()
+{
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, ownConnection);
+}
+
 QVariantMap command(const QString &name)
 {
     return {{commandEntry, name}};
@@ -47,19 +53,20 @@ QVariantMap loginCommand(bool on)
 
 }
 
-AgentCheck::AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience,
-                       std::chrono::milliseconds startPatience)
+AgentCheck::AgentCheck(QString program, QStringList arguments, std::function<bool()> restartBus,
+                       std::chrono::milliseconds patience, std::chrono::milliseconds startPatience)
     : m_program(std::move(program)),
       m_arguments(std::move(arguments)),
+      m_restartBus(std::move(restartBus)),
       m_patience(patience),
       m_startPatience(startPatience),
-      m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("corvane-check")))
+      m_bus(connectToBus())
 {
 }
 
 AgentCheck::~AgentCheck()
 {
-    QDBusConnection::disconnectFromBus(QStringLiteral("corvane-check"));
+    QDBusConnection::disconnectFromBus(ownConnection);
 }
 
 QList<AgentCheck::Rule> AgentCheck::run(const QStringList &only)
@@ -70,7 +77,7 @@ QList<AgentCheck::Rule> AgentCheck::run(const QStringList &only)
         {"one", &AgentCheck::checkOne},           {"login", &AgentCheck::checkLogin},
         {"value", &AgentCheck::checkValue},       {"strangers", &AgentCheck::checkStrangers},
         {"settings", &AgentCheck::checkSettings}, {"layouts", &AgentCheck::checkLayouts},
-        {"types", &AgentCheck::checkTypes}};
+        {"types", &AgentCheck::checkTypes},       {"bus", &AgentCheck::checkBus}};
     for (const auto &[name, check] : checks) {
         if (!m_rules.constFirst().faults.isEmpty())
             break;
@@ -260,6 +267,26 @@ void AgentCheck::checkTypes()
         expect(!Contract::isAgentState(key.name) || !value.isValid() || value.typeId() == QMetaType::Bool,
                QStringLiteral("%1 is no Boolean").arg(key.name));
     }
+}
+
+void AgentCheck::checkBus()
+{
+    begin("bus", "claims its name and listens again when the bus ends and comes back");
+    QDBusConnection::disconnectFromBus(ownConnection);
+    if (!m_restartBus()) {
+        expect(false, QStringLiteral("the bus did not come back"));
+        return;
+    }
+    m_bus = connectToBus();
+    waitFor([this] { return !owner().isEmpty() || hasEnded(); }, m_patience);
+    m_owner = owner();
+    expect(!hasEnded(), QStringLiteral("it has ended with the bus"));
+    expect(!m_owner.isEmpty(), QStringLiteral("nobody holds the name"));
+    if (hasEnded() || m_owner.isEmpty())
+        return;
+    // The store comes back with the bus as well.
+    waitFor([] { return Shared::store().finishWrites(0ms); }, m_patience);
+    expect(listens(), QStringLiteral("it does not do what it is asked for any more"));
 }
 
 void AgentCheck::post(const QVariantList &arguments) const

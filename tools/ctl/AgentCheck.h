@@ -22,8 +22,9 @@ public:
     };
 
     /// `patience` is how long the agent may take for a thing that it has to do, `startPatience` for its start.
-    AgentCheck(QString program, QStringList arguments, std::chrono::milliseconds patience,
-               std::chrono::milliseconds startPatience);
+    /// `restartBus` ends the bus of the session and starts another one at its address; false when it does not start.
+    AgentCheck(QString program, QStringList arguments, std::function<bool()> restartBus,
+               std::chrono::milliseconds patience, std::chrono::milliseconds startPatience);
     ~AgentCheck();
 
     /// Starts the agent, tries every rule, or only those of these names, and ends the agent. The rule "name" comes
@@ -55,6 +56,7 @@ private:
     void checkSettings();
     void checkLayouts();
     void checkTypes();
+    void checkBus();
 
     /// Posts the command's signal; a command has one argument, a map.
     void post(const QVariantList &arguments) const;
@@ -79,6 +81,7 @@ private:
 
     const QString m_program;
     const QStringList m_arguments;
+    const std::function<bool()> m_restartBus;
     const std::chrono::milliseconds m_patience;
     const std::chrono::milliseconds m_startPatience;
     QDBusConnection m_bus;

@@ -31,10 +31,13 @@ int CheckAgentCommand::run(const Call &call)
     const QString program = found(call.operands.constFirst());
     if (program.isEmpty())
         return Output::failure(call, QStringLiteral("there is no program \"%1\"").arg(call.operands.constFirst()));
-    const TrialSession session;
+    TrialSession session;
     if (!session.isValid())
         return Output::failure(call, QStringLiteral("no session can be made: dbus-daemon does not start"));
-    const QList<AgentCheck::Rule> rules = AgentCheck(program, call.operands.sliced(1), 10s, 30s).run();
+    const QList<AgentCheck::Rule> rules =
+        AgentCheck(
+            program, call.operands.sliced(1), [&] { return session.restartBus(); }, 10s, 30s)
+            .run();
 
     QJsonArray array;
     for (const AgentCheck::Rule &rule : rules) {

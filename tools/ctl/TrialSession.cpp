@@ -17,15 +17,31 @@ TrialSession::TrialSession()
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         qputenv(variable, folder.toLocal8Bit());
     }
-    m_bus.start(QStringLiteral("dbus-daemon"),
-                {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1")});
-    while (!m_bus.canReadLine() && m_bus.waitForReadyRead(patience)) { }
-    const QByteArray address = m_bus.readLine().trimmed();
-    m_isValid = !address.isEmpty();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(m_folder.filePath(QStringLiteral("bus"))));
+    m_isValid = startBus();
 }
 
 TrialSession::~TrialSession()
+{
+    stopBus();
+}
+
+bool TrialSession::restartBus()
+{
+    stopBus();
+    return startBus();
+}
+
+bool TrialSession::startBus()
+{
+    m_bus.start(QStringLiteral("dbus-daemon"),
+                {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),
+                 QStringLiteral("--address=") + qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS")});
+    while (!m_bus.canReadLine() && m_bus.waitForReadyRead(patience)) { }
+    return !m_bus.readLine().trimmed().isEmpty();
+}
+
+void TrialSession::stopBus()
 {
     m_bus.terminate();
     if (!m_bus.waitForFinished(patience))

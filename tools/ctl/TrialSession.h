@@ -15,7 +15,13 @@ public:
     /// False when there is no bus.
     bool isValid() const { return m_isValid; }
 
+    /// Ends the bus and starts another one at its address; false when it does not start.
+    bool restartBus();
+
 private:
+    bool startBus();
+    void stopBus();
+
     QTemporaryDir m_folder;
     QProcess m_bus;
     bool m_isValid = false;

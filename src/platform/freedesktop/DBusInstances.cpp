@@ -45,21 +45,35 @@ Instances::Start outcomeOf(const QDBusMessage &answer)
 
 bool DBusInstances::claim(const QString &name)
 {
-    auto bus = SessionBus::connection();
-    if (!bus)
-        return true;
     m_name = name;
+    auto bus = SessionBus::connection();
     // What this start was given is used up, or kept here: a program that is started from here must not have it. On
     // Wayland the first window still takes it.
-    if (X11::connection())
+    if (bus && X11::connection())
         ActivationToken::clearEnvironment();
+    if (bus) {
+        constexpr uint isAnothers = 3;
+        const QDBusMessage answer = SessionBus::answer(*bus, offerRequests(*bus), claimLimit);
+        if (answer.arguments().value(0).toUInt() == isAnothers)
+            return false;
+    }
+    connect(&SessionBus::instance(), &SessionBus::connected, this, &DBusInstances::claimAgain, Qt::UniqueConnection);
+    return true;
+}
+
+QDBusMessage DBusInstances::offerRequests(QDBusConnection &bus)
+{
     // Requests come as soon as the bus knows the name.
-    bus->registerObject(path(name), this, QDBusConnection::ExportAllSlots);
+    bus.registerObject(path(m_name), this, QDBusConnection::ExportAllSlots);
     constexpr uint doNotQueue = 4;
-    constexpr uint isAnothers = 3;
-    const QDBusMessage answer =
-        SessionBus::answer(*bus, busCall(QStringLiteral("RequestName"), {name, doNotQueue}), claimLimit);
-    return answer.arguments().value(0).toUInt() != isAnothers;
+    return busCall(QStringLiteral("RequestName"), {m_name, doNotQueue});
+}
+
+/// Another bus knows no names.
+void DBusInstances::claimAgain()
+{
+    if (auto bus = SessionBus::connectionNow())
+        bus->send(offerRequests(*bus));
 }
 
 bool DBusInstances::ask(const QString &name, const Request &request)

@@ -3,7 +3,9 @@
 #include "ActivationToken.h"
 #include "Instances.h"
 
+#include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusMessage>
 #include <QObject>
 
 /// Names on the session bus. Who holds one answers there to org.freedesktop.Application, by which desktops open and
@@ -28,6 +30,9 @@ public slots:
     void Open(const QStringList &, const QVariantMap &platformData) { perform({}, platformData); }
 
 private:
+    /// Takes requests on that bus; the call that asks it for the name.
+    QDBusMessage offerRequests(QDBusConnection &bus);
+    void claimAgain();
     void perform(const Request &request, const QVariantMap &platformData);
 
     const ActivationToken m_given;

@@ -79,9 +79,15 @@ void DBusNotificationCenter::whenLost(QObject *context, std::function<void()> lo
 void DBusNotificationCenter::observe(const QString &name, QObject *context, Observer observer)
 {
     const auto signal = signalNamed(name);
-    auto bus = SessionBus::connection();
-    if (!signal || !bus)
+    if (!signal)
         return;
     auto *receiver = new DBusSignalReceiver(std::move(observer), context);
-    bus->connect(QString(), signal->path, signal->interface, signal->member, receiver, SLOT(receive(QVariantMap)));
+    const auto listen = [signal = *signal, receiver](std::optional<QDBusConnection> bus) {
+        if (bus)
+            bus->connect(QString(), signal.path, signal.interface, signal.member, receiver, SLOT(receive(QVariantMap)));
+    };
+    listen(SessionBus::connection());
+    // Another bus knows nothing of it.
+    QObject::connect(&SessionBus::instance(), &SessionBus::connected, receiver,
+                     [listen] { listen(SessionBus::connectionNow()); });
 }
