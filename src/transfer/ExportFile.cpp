@@ -142,7 +142,8 @@ bool FileReader::key(const std::string &text)
         return m_name == formatName || m_name == settingsName || refuse(quoted + QStringLiteral(" is not known"));
     if (Contract::isAgentState(m_name))
         return refuse(quoted + QStringLiteral(" is the agent's own and is never imported"));
-    const auto found = std::ranges::find(m_keys, m_name, &Contract::StoreKey::name);
+    const auto found = std::find_if(m_keys.begin(), m_keys.end(),
+                                    [this](const Contract::StoreKey &key) { return key.name == m_name; });
     if (found == m_keys.end())
         return refuse(quoted + QStringLiteral(" is not known"));
     m_key = &*found;

@@ -58,7 +58,7 @@ Trouble SettingsTransfer::apply(const QList<Change> &changes, UserDefaults &stor
     if (changes.isEmpty())
         return Trouble::none;
     const auto isLocked = [&](const Change &change) { return !store.isWritable(change.key); };
-    if (std::ranges::any_of(changes, isLocked))
+    if (std::any_of(changes.cbegin(), changes.cend(), isLocked))
         return Trouble::locked;
     for (const Change &change : changes) {
         LayoutArchive::beforeReplacing(change.key, store);

@@ -29,7 +29,7 @@ CompactLayouts::CompactLayouts(const QList<SavedLayout> &layouts)
 
 bool CompactLayouts::contains(const QUuid &id) const
 {
-    return std::ranges::find(m_layouts, id, &Layout::id) != m_layouts.cend();
+    return std::any_of(m_layouts.cbegin(), m_layouts.cend(), [&](const Layout &layout) { return layout.id == id; });
 }
 
 QString CompactLayouts::name(int row) const

@@ -81,7 +81,9 @@ int LayoutsModel::undoRemoval()
     const Removal removal = m_removals.takeAt(last);
     show(*layouts);
     emit removedChanged();
-    const auto restored = std::ranges::find(*layouts, removal.places.constFirst().layout.id, &SavedLayout::id);
+    const auto &id = removal.places.constFirst().layout.id;
+    const auto restored =
+        std::find_if(layouts->cbegin(), layouts->cend(), [&](const SavedLayout &layout) { return layout.id == id; });
     return restored == layouts->cend() ? -1 : int(restored - layouts->cbegin());
 }
 

@@ -170,7 +170,8 @@ bool LayoutReader::refuse(const QString &why)
 bool LayoutReader::refuseType()
 {
     const auto keys = keysOf(m_place);
-    const auto key = std::ranges::find(keys, m_field, &Key::field);
+    const auto key =
+        std::find_if(keys.begin(), keys.end(), [this](const Key &known) { return known.field == m_field; });
     return refuse(key == keys.end() ? QString::fromUtf8(expectedIn(m_place))
                                     : QStringLiteral("\"%1\" must be %2")
                                           .arg(QString::fromUtf8(QByteArrayView(key->text)), typeOf(key->field)));

@@ -91,9 +91,10 @@ std::optional<QList<SavedLayout>> LayoutStore::restore(const QList<Place> &remov
         return std::nullopt;
     QList<SavedLayout> layouts = *stored.layouts;
     const auto isStored = [&](const Place &place) {
-        return std::ranges::find(layouts, place.layout.id, &SavedLayout::id) != layouts.end();
+        return std::any_of(layouts.cbegin(), layouts.cend(),
+                           [&](const SavedLayout &layout) { return layout.id == place.layout.id; });
     };
-    if (removed.isEmpty() || std::ranges::any_of(removed, isStored)) {
+    if (removed.isEmpty() || std::any_of(removed.cbegin(), removed.cend(), isStored)) {
         settle(stored, store);
         return layouts;
     }
@@ -107,7 +108,8 @@ QList<SavedLayout> LayoutStore::rename(const QUuid &id, const QString &name, Use
 {
     const Stored stored = read(store);
     QList<SavedLayout> layouts = stored.layouts.value_or(QList<SavedLayout>());
-    const auto layout = std::ranges::find(layouts, id, &SavedLayout::id);
+    const auto layout =
+        std::find_if(layouts.begin(), layouts.end(), [&](const SavedLayout &saved) { return saved.id == id; });
     if (layout != layouts.end())
         layout->name = name;
     if (layout == layouts.end() || !replace(stored, layouts, store))
