@@ -25,10 +25,9 @@ if(CORVANE_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
-find_program(CORVANE_MOLD mold)
-if(CORVANE_MOLD)
-    add_link_options(-fuse-ld=mold)
-endif()
+# Others refuse an archive that is to be taken whole and that CMake names twice.
+find_program(CORVANE_MOLD mold REQUIRED)
+add_link_options(-fuse-ld=mold)
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
     # For size: nearly all of the program's file is in memory while it runs. What computes for long is compiled with
     # CORVANE_FOR_SPEED.
