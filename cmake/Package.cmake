@@ -22,6 +22,10 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "dconf-service, libqt6svg6,\
  qml6-module-qtqml, qml6-module-qtqml-models, qml6-module-qtqml-workerscript,\
  qml6-module-qtquick, qml6-module-qtquick-templates, qml6-module-qtquick-window, qt6-wayland")
+if(CORVANE_QML_PRIVATE)
+    # Functions that Qt does not publish may be others in its next version.
+    string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS ", qt6-declarative-abi (= ${Qt6_VERSION})")
+endif()
 # dbus-daemon is the bus that "corvane-ctl check-agent" starts; the session may have another one.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "at-spi2-core, dbus-daemon, fonts-dejavu-core, fonts-inter")
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/DebianLayout.cmake")
