@@ -42,6 +42,27 @@ function(corvane_room name)
     target_precompile_headers(${name} REUSE_FROM ${ARG_PRECOMPILED})
 endfunction()
 
+# corvane_follow_types(target [QML view …] [DEPENDS room …]): the views of a room are compiled with the types that they name,
+# their own room's and those of the rooms above, so they are compiled anew when one of these changes.
+function(corvane_follow_types target)
+    cmake_parse_arguments(ARG "" "" "QML;DEPENDS" ${ARGN})
+    get_target_property(types ${target} QT_QML_MODULE_PLUGIN_TYPES_FILE)
+    get_target_property(folder ${target} QT_QML_MODULE_OUTPUT_DIRECTORY)
+    list(TRANSFORM ARG_QML PREPEND "${folder}/" OUTPUT_VARIABLE views)
+    list(APPEND types ${views})
+    foreach(room IN LISTS ARG_DEPENDS)
+        get_property(above GLOBAL PROPERTY CORVANE_TYPES_${room})
+        list(APPEND types ${above})
+    endforeach()
+    list(REMOVE_DUPLICATES types)
+    set_property(GLOBAL PROPERTY CORVANE_TYPES_${target} ${types})
+    get_target_property(compiled ${target} SOURCES)
+    list(FILTER compiled INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
+    foreach(view IN LISTS compiled)
+        add_custom_command(OUTPUT "${view}" APPEND DEPENDS ${types})
+    endforeach()
+endfunction()
+
 # The compiled views of a room and what registers them become one source: nearly all of what each of them costs are the
 # headers.
 function(corvane_unite_compiled_views target)
@@ -58,7 +79,7 @@ function(corvane_view_room name)
     set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     qt_add_library(${name} STATIC)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
-    # What the types of this module are made of, so that qmllint can follow them.
+    # What the types of this module are made of, so that qmllint and the compiler of the views can follow them.
     set(modules QtQuick)
     foreach(room IN LISTS ARG_DEPENDS)
         get_property(uri GLOBAL PROPERTY CORVANE_URI_${room})
@@ -70,9 +91,11 @@ function(corvane_view_room name)
         VERSION 1.0
         RESOURCE_PREFIX /qt/qml
         NO_PLUGIN
+        IMPORT_PATH "${QT_QML_OUTPUT_DIRECTORY}"
         DEPENDENCIES ${modules}
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_QML} ${ARG_SINGLETONS})
+    corvane_follow_types(${name} QML ${ARG_QML} ${ARG_SINGLETONS} DEPENDS ${ARG_DEPENDS})
     corvane_unite_compiled_views(${name})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC Qt6::Quick ${ARG_DEPENDS} PRIVATE ${ARG_LINK})
