@@ -44,13 +44,12 @@ bool isGeneric(const QString &family)
     return generic.contains(family, Qt::CaseInsensitive);
 }
 
-/// The family only: the desktop's size, weight and slant do not apply here.
+/// The family only: the desktop's size, weight and slant do not apply here. Where Inter is missing, and for letters that
+/// it lacks, the font configuration names another without being told of the generic family, and later.
 QStringList systemFamilies()
 {
-    QStringList families = QGuiApplication::font().families();
-    if (families.isEmpty() || isGeneric(families.constFirst()))
-        families.prepend(QStringLiteral("Inter"));
-    return families;
+    const QStringList families = QGuiApplication::font().families();
+    return families.isEmpty() || isGeneric(families.constFirst()) ? QStringList(QStringLiteral("Inter")) : families;
 }
 
 /// Tracking is a fraction of a point: on a desktop that hints letters onto whole pixels, words would run together.
