@@ -45,10 +45,10 @@ int main(int argc, char *argv[])
     std::shared_ptr<void> environment = NativePlatform::prepareEnvironment();
     Platform::install(NativePlatform::make());
     // The warm-up and the connection to the display take about as long, and neither needs the other.
-    const std::future<void> warmUp = NativePlatform::warmUp(ViewEngine::warmUp);
+    const std::shared_future<void> warmUp = NativePlatform::warmUp(ViewEngine::warmUp);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
-    NativePlatform::connectAhead();
+    const std::future<void> services = NativePlatform::prepareServices(warmUp);
     SettingsAppDelegate delegate;
     warmUp.wait();
     // The views load while the bus is asked.

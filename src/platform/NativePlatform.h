@@ -18,13 +18,14 @@ void secureStreams();
 /// that object must exist before any service but the bundles is asked for.
 std::unique_ptr<Platform> make();
 
-/// Does what a start can get done while the program still connects to the display, on a thread of its own, `views` in
-/// the middle of it. Nothing may ask for a font before the result is there.
+/// Does what a start can get done while the program still connects to the display, on a thread of its own, `views` at
+/// the end of it. Nothing may ask for a font before the result is there.
 [[nodiscard]] std::future<void> warmUp(std::function<void()> views);
 
-/// To be called right after the application object is made: connects to what the services will need while the main
-/// thread goes on.
-void connectAhead();
+/// To be called right after the application object is made: prepares what the services will need, after that warm-up,
+/// while the main thread goes on. Who needs some of it meanwhile waits for it. The application object may not end before
+/// the result is there.
+[[nodiscard]] std::future<void> prepareServices(std::shared_future<void> warmUp);
 
 /// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.

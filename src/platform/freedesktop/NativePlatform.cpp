@@ -25,9 +25,10 @@ std::future<void> NativePlatform::warmUp(std::function<void()> views)
     return WarmUp::begin(std::move(views));
 }
 
-void NativePlatform::connectAhead()
+std::future<void> NativePlatform::prepareServices(std::shared_future<void> warmUp)
 {
     SessionBus::instance().connectAhead();
+    return WarmUp::goOn(std::move(warmUp));
 }
 
 std::shared_ptr<void> NativePlatform::prepareEnvironment()

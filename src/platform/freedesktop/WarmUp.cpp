@@ -2,6 +2,8 @@
 
 #include "DconfDatabase.h"
 
+#include <QFontDatabase>
+
 #include <fontconfig/fontconfig.h>
 
 std::future<void> WarmUp::begin(std::function<void()> views)
@@ -9,6 +11,15 @@ std::future<void> WarmUp::begin(std::function<void()> views)
     return std::async(std::launch::async, [views = std::move(views)] {
         FcInit();
         views();
+    });
+}
+
+std::future<void> WarmUp::goOn(std::shared_future<void> beginning)
+{
+    return std::async(std::launch::async, [beginning = std::move(beginning)] {
+        beginning.wait();
+        // The first question makes the list of the fonts.
+        QFontDatabase::families();
         DconfDatabase::make();
     });
 }
