@@ -3,12 +3,17 @@ include(GNUInstallDirs)
 # The agent's bundle, which holds this application's bundle in its Helpers folder.
 set(CORVANE_BUNDLE "${PROJECT_BINARY_DIR}/Corvane.app")
 
-# What the programs load by name. Tests find it there too.
+# What the programs load. The loader finds it there for tests.
 set(CORVANE_FRAMEWORKS "${CORVANE_BUNDLE}/Contents/Frameworks")
 set(CMAKE_BUILD_RPATH "${CORVANE_FRAMEWORKS}")
 
-# A program of a bundle looks for libraries where they lie beside it, wherever the bundle is moved to.
+# A program of a bundle finds what it loads itself, wherever the bundle is moved to. With sanitizers it is linked with it,
+# so that the loader has to find it.
 function(corvane_find_frameworks target)
+    if(NOT CORVANE_SANITIZE)
+        set_target_properties(${target} PROPERTIES SKIP_BUILD_RPATH ON)
+        return()
+    endif()
     get_target_property(folder ${target} RUNTIME_OUTPUT_DIRECTORY)
     file(RELATIVE_PATH frameworks "${folder}" "${CORVANE_FRAMEWORKS}")
     set_target_properties(${target} PROPERTIES
