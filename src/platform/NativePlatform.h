@@ -23,8 +23,8 @@ std::unique_ptr<Platform> make();
 [[nodiscard]] std::future<void> warmUp(std::function<void()> views);
 
 /// To be called right after the application object is made: prepares what the services will need, after that warm-up,
-/// while the main thread goes on. Who needs some of it meanwhile waits for it. The application object may not end before
-/// the result is there.
+/// while the main thread goes on. Who needs some of it meanwhile waits for it. The application object may not end
+/// before the result is there.
 [[nodiscard]] std::future<void> prepareServices(std::shared_future<void> warmUp);
 
 /// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
