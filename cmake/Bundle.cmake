@@ -7,14 +7,16 @@ set(CORVANE_BUNDLE "${PROJECT_BINARY_DIR}/Corvane.app")
 set(CORVANE_FRAMEWORKS "${CORVANE_BUNDLE}/Contents/Frameworks")
 set(CMAKE_BUILD_RPATH "${CORVANE_FRAMEWORKS}")
 
-# A program of a bundle finds what it loads itself, wherever the bundle is moved to. With sanitizers it is linked with it,
-# so that the loader has to find it.
+# A program of a bundle looks for libraries where they lie beside it, wherever the bundle is moved to. One in the agent's
+# bundle finds what it loads itself. Where it starts fast, no run path has the loader look there for all that it is linked
+# with.
 function(corvane_find_frameworks target)
-    if(NOT CORVANE_SANITIZE)
+    get_target_property(folder ${target} RUNTIME_OUTPUT_DIRECTORY)
+    cmake_path(IS_PREFIX CORVANE_BUNDLE "${folder}" is_inside)
+    if(is_inside AND CMAKE_BUILD_TYPE STREQUAL "Release")
         set_target_properties(${target} PROPERTIES SKIP_BUILD_RPATH ON)
         return()
     endif()
-    get_target_property(folder ${target} RUNTIME_OUTPUT_DIRECTORY)
     file(RELATIVE_PATH frameworks "${folder}" "${CORVANE_FRAMEWORKS}")
     set_target_properties(${target} PROPERTIES
         BUILD_RPATH "$ORIGIN/${frameworks}" INSTALL_RPATH "$ORIGIN/${frameworks}")

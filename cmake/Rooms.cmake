@@ -43,13 +43,14 @@ function(corvane_room name)
 endfunction()
 
 # corvane_follow_types(target [QML view …] [DEPENDS room …]): the views of a room are compiled with the types that they name,
-# their own room's and those of the rooms above, so they are compiled anew when one of these changes.
+# their own room's and those of the rooms above, so they are compiled anew when one of these changes. A room without views
+# stands for nothing above it.
 function(corvane_follow_types target)
     cmake_parse_arguments(ARG "" "" "QML;DEPENDS" ${ARGN})
     get_target_property(types ${target} QT_QML_MODULE_PLUGIN_TYPES_FILE)
     get_target_property(folder ${target} QT_QML_MODULE_OUTPUT_DIRECTORY)
     list(TRANSFORM ARG_QML PREPEND "${folder}/" OUTPUT_VARIABLE views)
-    list(APPEND types ${views})
+    list(APPEND types ${views} "${folder}/qmldir")
     foreach(room IN LISTS ARG_DEPENDS)
         get_property(above GLOBAL PROPERTY CORVANE_TYPES_${room})
         list(APPEND types ${above})

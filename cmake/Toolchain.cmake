@@ -38,7 +38,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release")
     add_compile_options(-ffunction-sections -fdata-sections)
     add_link_options(-Wl,--gc-sections -Wl,-O1 -Wl,--as-needed)
 
-    # What runs once at the start of every file lies together, so that it brings no others of the file's pages into memory.
+    # The initialisers of the sources run once. Lying together they bring fewer of the program's pages into memory.
     add_link_options(-Wl,-z,keep-text-section-prefix)
 
     # What Debian hardens its programs with, and two guards more. Binding stays lazy: docs/performance.md says what it costs

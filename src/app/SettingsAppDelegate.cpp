@@ -199,7 +199,6 @@ void SettingsAppDelegate::finish(std::chrono::milliseconds limit)
 void SettingsAppDelegate::openOnboarding()
 {
     Platform &platform = Platform::current();
-    platform.appearance();
     loadFaces({EBTypeRole::hero, EBTypeRole::lead, EBTypeRole::body, EBTypeRole::bodyStrong, EBTypeRole::small,
                EBTypeRole::mono});
     platform.appearance().settle();
@@ -219,7 +218,6 @@ void SettingsAppDelegate::finishOnboarding()
 void SettingsAppDelegate::openAbout()
 {
     Platform &platform = Platform::current();
-    platform.appearance();
     loadFaces({EBTypeRole::title, EBTypeRole::body, EBTypeRole::bodyStrong, EBTypeRole::caption, EBTypeRole::mono});
     platform.appearance().settle();
     m_about = std::make_unique<AboutWindow>(m_engine);
@@ -232,8 +230,6 @@ void SettingsAppDelegate::openSettings(const std::optional<QString> &initial)
     // The sidebar's.
     loadFace(EBTypes::systemFont(13, QFont::Medium));
     Platform &platform = Platform::current();
-    // Asked early, the desktop has answered by the time the first frame is drawn.
-    platform.appearance();
     const QString version = platform.mainBundle().string(QStringLiteral("CFBundleShortVersionString"));
     m_settings =
         std::make_unique<EBSettingsWindowController>(m_engine, EBApp::corvane, version, SettingsPages::make(), initial);

@@ -48,20 +48,24 @@ int main(int argc, char *argv[])
     const std::shared_future<void> warmUp = NativePlatform::warmUp(ViewEngine::warmUp);
     int ownName = 1;
     QGuiApplication application(ownName, argv);
-    const std::future<void> services = NativePlatform::prepareServices(warmUp);
+    const std::future<void> fonts = NativePlatform::prepareServices(warmUp);
     SettingsAppDelegate delegate;
     warmUp.wait();
     // The views load while the bus is asked.
     delegate.prefetch();
     if (RunningInstance::takesOver())
         return 0;
+    // Asked early, the desktop has answered by the time the first frame is drawn.
+    Platform::current().appearance();
+    const std::future<void> store = NativePlatform::loadStore();
     Language::use(Language::chosen(QLocale::system().uiLanguages()));
     // The name is also the window class on X11.
     QGuiApplication::setApplicationName(QStringLiteral("com.vexmoor.corvane.settings"));
     QGuiApplication::setDesktopFileName(QStringLiteral("com.vexmoor.corvane.settings"));
 
     // Qt has read the environment by then, and programs that are started later are not to inherit it.
-    QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment] {
+    QObject::connect(&delegate, &SettingsAppDelegate::opened, [&environment, &store] {
+        store.wait();
         environment.reset();
         NativePlatform::giveMemoryBack();
     });

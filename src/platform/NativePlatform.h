@@ -22,10 +22,15 @@ std::unique_ptr<Platform> make();
 /// the end of it. Nothing may ask for a font before the result is there.
 [[nodiscard]] std::future<void> warmUp(std::function<void()> views);
 
-/// To be called right after the application object is made: prepares what the services will need, after that warm-up,
-/// while the main thread goes on. Who needs some of it meanwhile waits for it. The application object may not end
-/// before the result is there.
+/// To be called right after the application object is made: connects to what the services will need, and after that
+/// warm-up makes the list of the fonts, while the main thread goes on. Who asks for a font meanwhile waits. The
+/// application object may not end before the result is there.
 [[nodiscard]] std::future<void> prepareServices(std::shared_future<void> warmUp);
+
+/// Loads what the store is read with, while the main thread goes on. Who asks for the store meanwhile waits. The
+/// environment may not be changed before the result is there, and neither the appearance nor a name may be asked for
+/// the first time, which change it.
+[[nodiscard]] std::future<void> loadStore();
 
 /// Tells Qt through the environment what it does not find out by itself. To be called before the application object is
 /// made; what is returned is dropped once the first window is shown, so that programs started later do not inherit it.

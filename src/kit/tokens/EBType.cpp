@@ -44,8 +44,8 @@ bool isGeneric(const QString &family)
     return generic.contains(family, Qt::CaseInsensitive);
 }
 
-/// The family only: the desktop's size, weight and slant do not apply here. Where Inter is missing, and for letters
-/// that it lacks, the font configuration names another without being told of the generic family, and later.
+/// The family only: the desktop's size, weight and slant do not apply here. Where Inter is missing, or lacks a letter,
+/// the font configuration finds another by itself. Naming the generic family too would have it sort all fonts first.
 QStringList systemFamilies()
 {
     const QStringList families = QGuiApplication::font().families();

@@ -1,34 +1,26 @@
 #include "DconfDatabase.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 #include <dlfcn.h>
 
-namespace {
-
-const QString name = QStringLiteral("libcorvane-dconf.so");
-
-/// The library in a bundle that the program lies in, or its name, for the loader to look for. A program that told the
-/// loader of the bundle would have it look there for every library that it is linked with, before it starts.
-QString libraryFile()
+std::filesystem::path DconfDatabase::library(const std::filesystem::path &program)
 {
-    const QString program = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
-    for (QDir folder(program); !folder.isRoot(); folder = QFileInfo(folder.path()).dir()) {
-        const QString file = folder.filePath(QStringLiteral("Frameworks/") + name);
-        if (folder.dirName() == u"Contents" && QFileInfo::exists(file))
+    const char *const name = "libcorvane-dconf.so";
+    for (auto folder = program.parent_path(); folder.has_relative_path(); folder = folder.parent_path()) {
+        const std::filesystem::path file = folder / "Frameworks" / name;
+        std::error_code error;
+        if (folder.filename() == "Contents" && std::filesystem::exists(file, error))
             return file;
     }
     return name;
 }
 
-}
-
 std::unique_ptr<DconfDatabase> DconfDatabase::make()
 {
-    static void *const library = dlopen(QFile::encodeName(libraryFile()).constData(), RTLD_LAZY);
+    std::error_code error;
+    static void *const opened =
+        dlopen(library(std::filesystem::read_symlink("/proc/self/exe", error)).c_str(), RTLD_LAZY);
     using Make = DconfDatabase *();
-    static auto *const make = library ? reinterpret_cast<Make *>(dlsym(library, "makeDconfDatabase")) : nullptr;
+    static auto *const make = opened ? reinterpret_cast<Make *>(dlsym(opened, "makeDconfDatabase")) : nullptr;
     if (!make)
         qFatal("%s", dlerror());
     return std::unique_ptr<DconfDatabase>(make());

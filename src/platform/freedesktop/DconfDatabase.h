@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QVariant>
 
+#include <filesystem>
 #include <memory>
 
 /// What is stored in dconf, as it stands in the file: reading needs neither the bus nor the service.
@@ -20,6 +21,11 @@ public:
 
     /// The person's database. A shared library that is missing ends the process: it was not installed.
     static std::unique_ptr<DconfDatabase> make();
+
+    /// The shared library for a program: its path in a bundle around that, or its name, for the loader to look for. Had
+    /// a program told the loader of the bundle, it would look there for every library that the program is linked with,
+    /// before that starts.
+    static std::filesystem::path library(const std::filesystem::path &program);
 
     /// The value at a path; invalid where there is none, or one of another type.
     virtual QVariant value(const QByteArray &path) const = 0;

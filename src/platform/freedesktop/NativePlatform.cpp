@@ -28,7 +28,12 @@ std::future<void> NativePlatform::warmUp(std::function<void()> views)
 std::future<void> NativePlatform::prepareServices(std::shared_future<void> warmUp)
 {
     SessionBus::instance().connectAhead();
-    return WarmUp::goOn(std::move(warmUp));
+    return WarmUp::listFonts(std::move(warmUp));
+}
+
+std::future<void> NativePlatform::loadStore()
+{
+    return WarmUp::loadStore();
 }
 
 std::shared_ptr<void> NativePlatform::prepareEnvironment()

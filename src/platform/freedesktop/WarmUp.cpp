@@ -14,12 +14,16 @@ std::future<void> WarmUp::begin(std::function<void()> views)
     });
 }
 
-std::future<void> WarmUp::goOn(std::shared_future<void> beginning)
+std::future<void> WarmUp::listFonts(std::shared_future<void> beginning)
 {
     return std::async(std::launch::async, [beginning = std::move(beginning)] {
         beginning.wait();
-        // The first question makes the list of the fonts.
+        // The first question makes the list.
         QFontDatabase::families();
-        DconfDatabase::make();
     });
+}
+
+std::future<void> WarmUp::loadStore()
+{
+    return std::async(std::launch::async, [] { DconfDatabase::make(); });
 }

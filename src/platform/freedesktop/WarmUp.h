@@ -11,8 +11,12 @@ namespace WarmUp {
 /// font before the result is there.
 [[nodiscard]] std::future<void> begin(std::function<void()> views);
 
-/// To be called once there is an application object: after that beginning, lists the fonts and loads the libraries
-/// behind the store. Who asks for either meanwhile waits.
-[[nodiscard]] std::future<void> goOn(std::shared_future<void> beginning);
+/// To be called once there is an application object, which may not end before the result is there: after that
+/// beginning, lists the fonts. Who asks for one meanwhile waits.
+[[nodiscard]] std::future<void> listFonts(std::shared_future<void> beginning);
+
+/// Loads the libraries behind the store. Who asks for it meanwhile waits. They read the environment, which may not be
+/// changed before the result is there.
+[[nodiscard]] std::future<void> loadStore();
 
 }
