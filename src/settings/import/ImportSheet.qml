@@ -111,11 +111,9 @@ FocusScope {
                     Accessible.name: text
                 }
             }
-            EBText {
+            EBParagraph {
                 width: parent.width
                 visible: sheet.changes.length === 0
-                horizontalAlignment: Text.AlignLeft
-                wrapMode: Text.Wrap
                 text: qsTr("Everything in this file is set already.")
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
@@ -174,14 +172,12 @@ FocusScope {
                 }
             }
             // Read out whenever it comes up.
-            EBText {
+            EBParagraph {
                 id: failure
 
                 width: parent.width
                 visible: text !== ""
                 role: "caption"
-                horizontalAlignment: Text.AlignLeft
-                wrapMode: Text.Wrap
                 text: sheet.offer ? sheet.offer.failure : ""
                 Accessible.role: Accessible.Notification
                 Accessible.name: text
