@@ -7,9 +7,9 @@ set(CORVANE_BUNDLE "${PROJECT_BINARY_DIR}/Corvane.app")
 set(CORVANE_FRAMEWORKS "${CORVANE_BUNDLE}/Contents/Frameworks")
 set(CMAKE_BUILD_RPATH "${CORVANE_FRAMEWORKS}")
 
-# A program of a bundle looks for libraries where they lie beside it, wherever the bundle is moved to. One in the agent's
-# bundle finds what it loads itself. Where it starts fast, no run path has the loader look there for all that it is linked
-# with.
+# A program of a bundle looks for libraries where they lie beside it, wherever the bundle is moved to. In a release one in the
+# agent's bundle does so itself, when it loads one: with a run path the loader would look there for all that the program is
+# linked with, before it starts.
 function(corvane_find_frameworks target)
     get_target_property(folder ${target} RUNTIME_OUTPUT_DIRECTORY)
     cmake_path(IS_PREFIX CORVANE_BUNDLE "${folder}" is_inside)
