@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <memory>
 
@@ -49,9 +50,12 @@ private slots:
     void theBackgroundFollowsTheAppearance();
     void theViewFillsTheWindow();
     void aPageIsMadeInItsPlaceAndNotLaidOutAgain();
+    void aPageIsPaintedBeforeTheOneItFollowsIsTakenDown();
+    void aPageForWhichTheWindowMovesUpIsNeverTakenForOneThatScrolls();
 
 private:
     void make(const std::optional<QString> &initial = {});
+    void makeOn(const QList<EBSettingsPage> &pages);
     void show();
     EBWindow &window() { return *m_controller->window(); }
     int screenHeight() { return window().screen()->availableGeometry().height(); }
@@ -84,6 +88,11 @@ void TestSettingsWindow::make(const std::optional<QString> &initial)
 {
     m_controller =
         std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4", SettingsPages::make(), initial);
+}
+
+void TestSettingsWindow::makeOn(const QList<EBSettingsPage> &pages)
+{
+    m_controller = std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4", pages, std::nullopt);
 }
 
 void TestSettingsWindow::show()
@@ -251,10 +260,6 @@ EBSettingsPage TestSettingsWindow::page(const QString &id, const QString &conten
 
 void TestSettingsWindow::theFirstFitOfAShownWindowIsNotAnimatedAndCentersIt()
 {
-    const auto makeOn = [this](const QList<EBSettingsPage> &pages) {
-        m_controller =
-            std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4", pages, std::nullopt);
-    };
     makeOn({page("any", 600)});
     const int around = window().height() - 600;
     // A page as high as the window is from the beginning: nothing is fitted before the window is shown.
@@ -428,14 +433,47 @@ void TestSettingsWindow::aPageIsMadeInItsPlaceAndNotLaidOutAgain()
             firstWidth = width;
         }
     })");
-    m_controller = std::make_unique<EBSettingsWindowController>(*m_engine, EBApp::corvane, "1.4",
-                                                                QList<EBSettingsPage>{recording}, std::nullopt);
+    makeOn({recording});
     show();
     const auto *item = window().contentItem()->findChild<QQuickItem *>("recording");
     QVERIFY(item);
     QCOMPARE(item->property("firstProduct").toString(), "corvane");
     QCOMPARE(item->property("firstWidth").toReal(), item->width());
     QCOMPARE(item->property("changes").toInt(), 0);
+}
+
+void TestSettingsWindow::aPageIsPaintedBeforeTheOneItFollowsIsTakenDown()
+{
+    makeOn({page("first", R"(Item { objectName: "first"; implicitHeight: 100 })"), page("second", 100)});
+    show();
+    const QPointer<QQuickItem> first = window().contentItem()->findChild<QQuickItem *>("first");
+    QVERIFY(first);
+    std::optional<bool> wasThere;
+    QEventLoop untilPainted;
+    connect(&window(), &QQuickWindow::frameSwapped, &untilPainted, [&] {
+        wasThere = first != nullptr;
+        untilPainted.quit();
+    });
+    QTimer::singleShot(0, this, [this] { m_controller->model()->setSelection("second"); });
+    untilPainted.exec();
+    QCOMPARE(wasThere, true);
+    QTRY_VERIFY(!first);
+}
+
+// The bar would have to be made, which takes longer than all the page.
+void TestSettingsWindow::aPageForWhichTheWindowMovesUpIsNeverTakenForOneThatScrolls()
+{
+    makeOn({page("low", 100), page("high", 500), page("too high", 5000)});
+    show();
+    window().setPosition(90, 300);
+    const QQuickItem *view = Views::visible(window().contentItem(), "EBSettingsView").constFirst();
+    QSignalSpy overflows(view, SIGNAL(overflowsChanged()));
+    m_controller->model()->setSelection("high");
+    QTRY_VERIFY(window().y() < 300);
+    QCOMPARE(overflows.size(), 0);
+    m_controller->model()->setSelection("too high");
+    QTRY_COMPARE(overflows.size(), 1);
+    QVERIFY(view->property("overflows").toBool());
 }
 
 CORVANE_TEST(TestSettingsWindow, runInGui)

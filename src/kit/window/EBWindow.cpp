@@ -154,3 +154,8 @@ void EBWindow::makeKeyAndOrderFront()
     // The click that asked for it may have been in another program.
     Platform::current().workspace().bringToFront(*this);
 }
+
+void EBWindow::paintNext()
+{
+    QCoreApplication::postEvent(this, new QEvent(QEvent::UpdateRequest), Qt::HighEventPriority);
+}

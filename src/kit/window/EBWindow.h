@@ -65,6 +65,11 @@ public:
     /// Shows the window in front of the others with the keyboard focus.
     void makeKeyAndOrderFront();
 
+    /// Paints what has changed before anything else that waits. Qt Quick would first let 5 ms pass, and take down what
+    /// is no longer shown. Meant for a click whose answer fills the window, not for what may change more often than a
+    /// screen shows.
+    void paintNext();
+
 signals:
     void shortcutsEnabledChanged();
     void loudGroundChanged();

@@ -43,6 +43,6 @@ MeasuredItem {
         }
         width: parent.width - sidebar.width - 2 * 8
         model: view.model
-        roomHeight: view.roomHeight
+        scrolls: view.overflows
     }
 }

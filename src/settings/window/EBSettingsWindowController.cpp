@@ -60,6 +60,7 @@ EBSettingsWindowController::EBSettingsWindowController(QQmlEngine &engine, EBApp
                                          {QStringLiteral("model"), QVariant::fromValue(m_model)},
                                      });
     connect(m_root, &MeasuredItem::measured, this, &EBSettingsWindowController::fit);
+    connect(m_model, &Model::selectionChanged, m_window.get(), &EBWindow::paintNext);
     connect(m_window.get(), &QWindow::screenChanged, this, [this] { adapt(m_root->contentSize(), Place::kept); });
     m_window->center();
     m_root->settle();

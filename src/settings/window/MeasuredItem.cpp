@@ -1,5 +1,7 @@
 #include "MeasuredItem.h"
 
+#include <cmath>
+
 namespace {
 
 /// A positioner takes the sizes of what stands in it, so the inner items go first.
@@ -34,8 +36,24 @@ void MeasuredItem::setContentSize(QSizeF size)
 
 void MeasuredItem::setRoomHeight(qreal height)
 {
-    if (m_roomHeight == height)
+    if (m_roomHeight != height) {
+        m_roomHeight = height;
+        emit roomHeightChanged();
+    }
+    compareWithRoom();
+}
+
+void MeasuredItem::updatePolish()
+{
+    emit measured(m_contentSize);
+    compareWithRoom();
+}
+
+void MeasuredItem::compareWithRoom()
+{
+    const bool overflows = m_contentSize.height() > std::ceil(m_roomHeight);
+    if (m_overflows == overflows)
         return;
-    m_roomHeight = height;
-    emit roomHeightChanged();
+    m_overflows = overflows;
+    emit overflowsChanged();
 }

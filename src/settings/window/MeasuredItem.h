@@ -11,8 +11,11 @@ class MeasuredItem : public QQuickItem {
     QML_ELEMENT
     /// Points.
     Q_PROPERTY(QSizeF contentSize READ contentSize WRITE setContentSize NOTIFY contentSizeChanged)
-    /// How high the window can become where it stands, in points. Content beyond it must scroll.
+    /// How high the window can become where it stands, in points.
     Q_PROPERTY(qreal roomHeight READ roomHeight WRITE setRoomHeight NOTIFY roomHeightChanged)
+    /// Whether the content must scroll. It is told once the window has had a chance to make room, or what scrolls would
+    /// be made for every page that only lets the window move up.
+    Q_PROPERTY(bool overflows READ overflows NOTIFY overflowsChanged)
 public:
     explicit MeasuredItem(QQuickItem *parent = nullptr);
 
@@ -22,19 +25,25 @@ public:
     qreal roomHeight() const { return m_roomHeight; }
     void setRoomHeight(qreal height);
 
+    bool overflows() const { return m_overflows; }
+
     /// Lays everything out now instead of at the next frame, so that `contentSize` is true.
     void settle();
 
 signals:
     void contentSizeChanged();
     void roomHeightChanged();
+    void overflowsChanged();
     /// The size has changed. Emitted at most once a frame, however often the layout moved in between.
     void measured(QSizeF size);
 
 protected:
-    void updatePolish() override { emit measured(m_contentSize); }
+    void updatePolish() override;
 
 private:
+    void compareWithRoom();
+
     QSizeF m_contentSize;
     qreal m_roomHeight = std::numeric_limits<qreal>::infinity();
+    bool m_overflows = false;
 };

@@ -9,8 +9,6 @@ ScrollArea {
     id: area
 
     required property SettingsModel model
-    /// How high the window can become.
-    required property real roomHeight
 
     /// Scrolls where the key says; false when it says nothing, or there is nothing to scroll.
     function scrollByKey(key: int) : bool {
@@ -29,7 +27,6 @@ ScrollArea {
 
     implicitHeight: page.y + page.implicitHeight + 16
     contentHeight: implicitHeight
-    scrolls: implicitHeight > Math.ceil(roomHeight)
     whole: content
 
     Connections {
