@@ -32,7 +32,9 @@ Item {
 
         width: parent.width
         spacing: KitMetrics.ruleHeight
-        onChildrenChanged: Array.from(children).forEach(child => child.anchors.horizontalCenter = horizontalCenter)
+        // The one that came is the last.
+        onChildrenChanged: if (children.length > 0)
+            children[children.length - 1].anchors.horizontalCenter = horizontalCenter
         onPositioningComplete: rules.model = Array.from(visibleChildren).filter(row => row.height > 0 && row.y > 0).map(row => row.y)
     }
     Repeater {

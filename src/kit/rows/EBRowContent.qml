@@ -84,7 +84,8 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             spacing: KitMetrics.rowSpacing
-            onChildrenChanged: Array.from(children).forEach(child => child.anchors.verticalCenter = verticalCenter)
+            onChildrenChanged: if (children.length > 0)
+                children[children.length - 1].anchors.verticalCenter = verticalCenter
         }
     }
 }
