@@ -81,8 +81,8 @@ void report(const char *motion, QList<double> times)
 QQuickItem *show(QQmlEngine &engine, const char *view, QVariantMap properties, DemoModel &model, QQuickItem *parent)
 {
     properties.insert(QStringLiteral("model"), QVariant::fromValue(&model));
-    QQuickItem *item = ViewEngine::make(
-        engine, QStringLiteral("qrc:/qt/qml/Corvane/Demo/%1.qml").arg(QLatin1String(view)), properties);
+    QQuickItem *item =
+        ViewEngine::make(engine, QStringLiteral("qrc:/Corvane/Demo/%1.qml").arg(QLatin1String(view)), properties);
     item->setParent(parent);
     item->setParentItem(parent);
     return item;

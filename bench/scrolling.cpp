@@ -70,14 +70,13 @@ int main(int argc, char *argv[])
     EBSettingsWindowController::Model model(SettingsPages::make(), QStringLiteral("layouts"), nullptr);
     SidebarModel sidebar(SettingsPages::make());
     Canvas canvas(windowSize, EBKit::paper().current());
-    QQuickItem *view =
-        ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Settings/Window/EBSettingsView.qml"),
-                         {{QStringLiteral("version"), QStringLiteral("1")},
-                          {QStringLiteral("pages"), QVariant::fromValue(&sidebar)},
-                          {QStringLiteral("model"), QVariant::fromValue(&model)},
-                          {QStringLiteral("roomHeight"), windowSize.height()},
-                          {QStringLiteral("width"), windowSize.width()},
-                          {QStringLiteral("height"), windowSize.height()}});
+    QQuickItem *view = ViewEngine::make(engine, QStringLiteral("qrc:/Corvane/Settings/Window/EBSettingsView.qml"),
+                                        {{QStringLiteral("version"), QStringLiteral("1")},
+                                         {QStringLiteral("pages"), QVariant::fromValue(&sidebar)},
+                                         {QStringLiteral("model"), QVariant::fromValue(&model)},
+                                         {QStringLiteral("roomHeight"), windowSize.height()},
+                                         {QStringLiteral("width"), windowSize.width()},
+                                         {QStringLiteral("height"), windowSize.height()}});
     view->setParent(canvas.content());
     view->setParentItem(canvas.content());
     canvas.draw();

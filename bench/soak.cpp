@@ -90,9 +90,8 @@ public:
     {
         m_settings.showWindow();
         m_practice.resize(560, 260);
-        QQuickItem *view =
-            ViewEngine::make(m_engine, QStringLiteral("qrc:/qt/qml/Corvane/Demo/HandsOnMissionControl.qml"),
-                             {{QStringLiteral("model"), QVariant::fromValue(&m_model)}});
+        QQuickItem *view = ViewEngine::make(m_engine, QStringLiteral("qrc:/Corvane/Demo/HandsOnMissionControl.qml"),
+                                            {{QStringLiteral("model"), QVariant::fromValue(&m_model)}});
         view->setParent(m_practice.contentItem());
         view->setParentItem(m_practice.contentItem());
         m_practice.show();

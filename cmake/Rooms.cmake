@@ -90,7 +90,7 @@ function(corvane_view_room name)
     qt_add_qml_module(${name}
         URI ${ARG_URI}
         VERSION 1.0
-        RESOURCE_PREFIX /qt/qml
+        RESOURCE_PREFIX /
         NO_PLUGIN
         IMPORT_PATH "${QT_QML_OUTPUT_DIRECTORY}"
         DEPENDENCIES ${modules}

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr QSize contentSize(460, 380);
-const QString screenView = QStringLiteral("qrc:/qt/qml/Embera/Screens/EBAboutScreen.qml");
+const QString screenView = QStringLiteral("qrc:/Embera/Screens/EBAboutScreen.qml");
 const QUrl website(QStringLiteral("https://vexmoor.com/corvane"));
 
 /// The version a person sees, and the build behind it: "1.4 (212)". What the bundle does not say is left out.

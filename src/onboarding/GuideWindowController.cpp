@@ -12,8 +12,8 @@ constexpr QSize guideSize(560, 388); // points
 // In line with the texts of the practice and the choice of a look, and well above them.
 constexpr QPoint buttonsPlace(28, 12);
 
-const QString rootView = QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml");
-const QString firstStep = QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/WelcomeStep.qml");
+const QString rootView = QStringLiteral("qrc:/Corvane/Onboarding/OnboardingView.qml");
+const QString firstStep = QStringLiteral("qrc:/Corvane/Onboarding/WelcomeStep.qml");
 
 }
 

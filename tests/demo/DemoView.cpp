@@ -8,7 +8,7 @@ DemoView::DemoView(const QString &name, const QVariantMap &properties, qreal wid
 {
     QVariantMap all = properties;
     all.insert(QStringLiteral("model"), QVariant::fromValue(&m_model));
-    QQuickItem *view = ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Demo/%1.qml").arg(name), all);
+    QQuickItem *view = ViewEngine::make(engine, QStringLiteral("qrc:/Corvane/Demo/%1.qml").arg(name), all);
     put(view, {600, 420}, {40, 60});
     window().setColor(EBKit::paper().current());
     if (width > 0)

@@ -312,9 +312,8 @@ void TestShortcutChips::whetherItMovesIsAskedAtEachNudge()
     AnimationClock clock;
     ViewEngine engine;
     DemoModel model;
-    const std::unique_ptr<QQuickItem> chips(
-        ViewEngine::make(engine, "qrc:/qt/qml/Corvane/Demo/ShortcutChips.qml",
-                         {{"model", QVariant::fromValue(&model)}, {"shown", practised}}));
+    const std::unique_ptr<QQuickItem> chips(ViewEngine::make(
+        engine, "qrc:/Corvane/Demo/ShortcutChips.qml", {{"model", QVariant::fromValue(&model)}, {"shown", practised}}));
     for (const bool isReduced : {false, true, false}) {
         platform.look.setReduceMotion(isReduced);
         model.press(Hotkey::close);
@@ -336,7 +335,7 @@ void TestShortcutChips::whatItFindsWhenItIsMadeIsNoNudge()
     first.model().press(Hotkey::close);
     ViewEngine engine;
     const std::unique_ptr<QQuickItem> again(
-        ViewEngine::make(engine, "qrc:/qt/qml/Corvane/Demo/ShortcutChips.qml",
+        ViewEngine::make(engine, "qrc:/Corvane/Demo/ShortcutChips.qml",
                          {{"model", QVariant::fromValue(&first.model())}, {"shown", practised}}));
     QVERIFY(!again->property("isShaking").toBool());
     first.model().press(Hotkey::close);

@@ -92,7 +92,7 @@ void TestEBText::initTestCase()
     m_platform = &FakePlatform::install();
     addFaces(m_platform->main);
     EBKitFonts::registerFonts();
-    m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    m_engine.addImportPath(QStringLiteral("qrc:/"));
     m_window = std::make_unique<QQuickWindow>();
     m_window->resize(roomWidth, roomHeight);
     m_window->show();

@@ -27,7 +27,7 @@ class View {
 public:
     explicit View(const QByteArray &source)
     {
-        m_engine.addImportPath(QStringLiteral(":/qt/qml"));
+        m_engine.addImportPath(QStringLiteral(":/"));
         QQmlComponent component(&m_engine);
         component.setData("import QtQuick\nimport Embera.Tokens\nimport Embera.Marks\n" + source, {});
         m_item.reset(qobject_cast<QQuickItem *>(component.create()));

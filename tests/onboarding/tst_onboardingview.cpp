@@ -20,7 +20,7 @@ public:
     {
         flow = std::make_unique<OnboardingFlow>(run, [this] { ++finished; });
         flow->go(step);
-        auto *view = ViewEngine::make(engine, "qrc:/qt/qml/Corvane/Onboarding/OnboardingView.qml",
+        auto *view = ViewEngine::make(engine, "qrc:/Corvane/Onboarding/OnboardingView.qml",
                                       {{"flow", QVariant::fromValue(flow.get())}});
         put(view, {560, 388});
         view->setSize({560, 388});

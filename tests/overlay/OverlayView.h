@@ -11,7 +11,7 @@ public:
     OverlayView(const QString &name, const QVariantMap &properties, qreal width)
     {
         QQuickItem *view =
-            ViewEngine::make(engine, QStringLiteral("qrc:/qt/qml/Corvane/Overlay/%1.qml").arg(name), properties);
+            ViewEngine::make(engine, QStringLiteral("qrc:/Corvane/Overlay/%1.qml").arg(name), properties);
         put(view, {480, 320}, {20, 20});
         window().setColor(EBKit::paper().current());
         if (width > 0)

@@ -30,7 +30,7 @@ private:
 
 void TestGeneralPane::init()
 {
-    m_pane = std::make_unique<PaneWindow>("qrc:/qt/qml/Corvane/Settings/General/GeneralPane.qml");
+    m_pane = std::make_unique<PaneWindow>("qrc:/Corvane/Settings/General/GeneralPane.qml");
 }
 
 void TestGeneralPane::cleanup()

@@ -77,7 +77,7 @@ private:
 
 void TestLayoutsPane::open(const QVariantMap &stored)
 {
-    m_pane = std::make_unique<PaneWindow>("qrc:/qt/qml/Corvane/Settings/Layouts/LayoutsPane.qml", stored);
+    m_pane = std::make_unique<PaneWindow>("qrc:/Corvane/Settings/Layouts/LayoutsPane.qml", stored);
 }
 
 QStringList TestLayoutsPane::names()

@@ -49,7 +49,7 @@ private:
 
 void TestShortcutsPane::init()
 {
-    m_pane = std::make_unique<PaneWindow>("qrc:/qt/qml/Corvane/Settings/Shortcuts/ShortcutsPane.qml");
+    m_pane = std::make_unique<PaneWindow>("qrc:/Corvane/Settings/Shortcuts/ShortcutsPane.qml");
 }
 
 void TestShortcutsPane::withAnEmptyStoreEveryShortcutIsOn()

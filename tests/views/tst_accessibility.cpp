@@ -51,7 +51,7 @@ private slots:
         installKitAccessibility();
         installKitAccessibility();
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 20000);
-        m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+        m_engine.addImportPath(QStringLiteral("qrc:/"));
     }
     void init()
     {
@@ -113,6 +113,23 @@ private slots:
         const Interface root = show(QStringLiteral("Column { Glyph { name: 'gear' } EBDisc { glyph: 'gear' } "
                                                    "EBRule { width: 9 } EBWell { width: 9 } EBGroup { width: 9 } }"));
         QCOMPARE(root->childCount(), 0);
+    }
+
+    // What a text belongs to speaks for it.
+    void aTextWithoutARoleIsSilent()
+    {
+        const Interface root =
+            show(QStringLiteral("Column { EBText { text: 'word' } EBParagraph { text: 'words' } "
+                                "EBText { Accessible.role: Accessible.StaticText; Accessible.name: 'said' } }"));
+        QCOMPARE(root->childCount(), 1);
+        QCOMPARE(root->child(0)->text(QAccessible::Name), QStringLiteral("said"));
+    }
+
+    void aStepIsOneElement()
+    {
+        const Interface root = show(QStringLiteral("EBStepList { steps: ['Welcome', 'Try it']; current: 0 }"));
+        QCOMPARE(root->childCount(), 2);
+        QCOMPARE(root->child(0)->childCount(), 0);
     }
 
     void aRowContainsItsTextsAndItsControl()

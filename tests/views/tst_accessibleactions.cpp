@@ -48,7 +48,7 @@ int runWindow(int argc, char **argv)
     FakePlatform::install();
     installKitAccessibility();
     QQmlEngine engine;
-    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.addImportPath(u"qrc:/"_s);
     QQmlComponent component(&engine);
     component.setData(content, {});
     QQuickWindow window;

@@ -23,7 +23,7 @@ private slots:
     {
         FakePlatform::install();
         QQmlEngine engine;
-        engine.addImportPath(QStringLiteral(":/qt/qml"));
+        engine.addImportPath(QStringLiteral(":/"));
         QQmlComponent component(&engine);
         component.setData("import QtQuick\nimport Embera.Rows\n"
                           "EBGroup { width: 100; Item { width: 1; height: 40 } Item { width: 1; height: 40 } }",

@@ -16,7 +16,7 @@ public slots:
         EBKitFonts::registerFonts();
         qmlRegisterSingletonInstance("Embera.Testing", 1, 0, "Desktop", m_desktop.get());
     }
-    void qmlEngineAvailable(QQmlEngine *engine) { engine->addImportPath(QStringLiteral("qrc:/qt/qml")); }
+    void qmlEngineAvailable(QQmlEngine *engine) { engine->addImportPath(QStringLiteral("qrc:/")); }
 
 private:
     std::unique_ptr<TestDesktop> m_desktop;

@@ -18,7 +18,7 @@ void SystemSettings::openAccessibility()
         m_window = std::make_unique<EBWindow>(EBApp::corvane, QSize(480, 300),
                                               EBWindow::Style{.miniaturizeButtonEnabled = true});
         m_window->setTitle(QGuiApplication::translate("SystemSettings", "System Settings"));
-        m_window->host(m_engine, QStringLiteral("qrc:/qt/qml/Corvane/Agent/AccessibilityPage.qml"),
+        m_window->host(m_engine, QStringLiteral("qrc:/Corvane/Agent/AccessibilityPage.qml"),
                        {{QStringLiteral("list"), QVariant::fromValue(&m_list)}});
         m_window->center();
     }

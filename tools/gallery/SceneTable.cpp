@@ -77,7 +77,7 @@ const QList<SceneEntry> &SceneTable::all()
     static const QList<SceneEntry> scenes = [] {
         QList<SceneEntry> list;
         for (const Row &row : rows) {
-            const QUrl source(QStringLiteral("qrc:/qt/qml/Corvane/Gallery/scenes/%1.qml").arg(QLatin1String(row.file)));
+            const QUrl source(QStringLiteral("qrc:/Corvane/Gallery/scenes/%1.qml").arg(QLatin1String(row.file)));
             list.append({row.kind, QString::fromLatin1(row.name), source, QString::fromLatin1(row.glyph)});
         }
         return list;

@@ -125,7 +125,7 @@ int browse(int argc, char *argv[], const GalleryOptions &options)
     view.setTitle(QGuiApplication::translate("Gallery", "Corvane Gallery"));
     view.setResizeMode(QQuickView::SizeRootObjectToView);
     view.setInitialProperties({{QStringLiteral("look"), QVariant::fromValue(&gallery.look)}});
-    view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Gallery/Browser.qml")));
+    view.setSource(QUrl(QStringLiteral("qrc:/Corvane/Gallery/Browser.qml")));
     view.resize(1180, 800);
     view.show();
     return QGuiApplication::exec();

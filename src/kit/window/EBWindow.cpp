@@ -72,7 +72,7 @@ void EBWindow::host(QQuickItem *view)
 
 QQuickItem *EBWindow::makeChrome(QQmlEngine *engine)
 {
-    return ViewEngine::make(*engine, QStringLiteral("qrc:/qt/qml/Embera/Window/WindowChrome.qml"),
+    return ViewEngine::make(*engine, QStringLiteral("qrc:/Embera/Window/WindowChrome.qml"),
                             {{QStringLiteral("window"), QVariant::fromValue(this)}});
 }
 

@@ -9,7 +9,7 @@
 ViewEngine::ViewEngine()
 {
     // Before the system's folders: looking for our modules there first costs part of the start-up.
-    setImportPathList(QStringList{QStringLiteral("qrc:/qt/qml")} + importPathList());
+    setImportPathList(QStringList{QStringLiteral("qrc:/")} + importPathList());
     // Not the application's own quit(), which closes the windows first: the guide takes a closed window for its end.
     connect(this, &QQmlEngine::quit, qApp, [] { QCoreApplication::exit(); });
 }

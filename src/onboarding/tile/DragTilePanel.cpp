@@ -35,8 +35,7 @@ DragTilePanel::DragTilePanel(const QUrl &appURL) : m_engine(std::make_unique<Vie
     m_ground = new TileGround(contentItem());
     m_ground->setSize(size);
 
-    m_view.reset(ViewEngine::make<DragTileView>(*m_engine,
-                                                QStringLiteral("qrc:/qt/qml/Corvane/Onboarding/Tile/DragTile.qml"),
+    m_view.reset(ViewEngine::make<DragTileView>(*m_engine, QStringLiteral("qrc:/Corvane/Onboarding/Tile/DragTile.qml"),
                                                 {{QStringLiteral("appURL"), appURL}}));
     if (QGuiApplication::isRightToLeft())
         QQmlProperty::write(m_view.get(), QStringLiteral("LayoutMirroring.enabled"), true, qmlContext(m_view.get()));

@@ -12,6 +12,6 @@ EBSettingsPage buttonsPage()
         .keywords = QCoreApplication::translate("ButtonsPage",
                                                 "look, theme, colour, color, size, minimize, full screen, maximize")
                         .split(QStringLiteral(", ")),
-        .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/Buttons/ButtonsPane.qml")),
+        .content = QUrl(QStringLiteral("qrc:/Corvane/Settings/Buttons/ButtonsPane.qml")),
     };
 }

@@ -12,6 +12,6 @@ EBSettingsPage generalPage()
         .keywords = QCoreApplication::translate("GeneralPage",
                                                 "login, startup, menu bar, icon, accessibility, permission, guide")
                         .split(QStringLiteral(", ")),
-        .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/General/GeneralPane.qml")),
+        .content = QUrl(QStringLiteral("qrc:/Corvane/Settings/General/GeneralPane.qml")),
     };
 }

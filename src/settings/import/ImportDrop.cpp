@@ -11,8 +11,8 @@
 
 namespace {
 
-const QString sheetView = QStringLiteral("qrc:/qt/qml/Corvane/Settings/Import/ImportSheet.qml");
-const QString announcementView = QStringLiteral("qrc:/qt/qml/Embera/Controls/Announcement.qml");
+const QString sheetView = QStringLiteral("qrc:/Corvane/Settings/Import/ImportSheet.qml");
+const QString announcementView = QStringLiteral("qrc:/Embera/Controls/Announcement.qml");
 
 }
 

@@ -11,6 +11,6 @@ EBSettingsPage layoutsPage()
         //: Words that the page is found by, in lower case, with ", " between them. There may be more or fewer of them.
         .keywords = QCoreApplication::translate("LayoutsPage", "snap, arrange, tile, window, layout, shelf, gap")
                         .split(QStringLiteral(", ")),
-        .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/Layouts/LayoutsPane.qml")),
+        .content = QUrl(QStringLiteral("qrc:/Corvane/Settings/Layouts/LayoutsPane.qml")),
     };
 }

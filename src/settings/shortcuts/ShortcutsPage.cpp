@@ -11,6 +11,6 @@ EBSettingsPage shortcutsPage()
         //: Words that the page is found by, in lower case, with ", " between them. There may be more or fewer of them.
         .keywords = QCoreApplication::translate("ShortcutsPage", "keyboard, hotkey, close, hide, quit, minimize")
                         .split(QStringLiteral(", ")),
-        .content = QUrl(QStringLiteral("qrc:/qt/qml/Corvane/Settings/Shortcuts/ShortcutsPane.qml")),
+        .content = QUrl(QStringLiteral("qrc:/Corvane/Settings/Shortcuts/ShortcutsPane.qml")),
     };
 }

@@ -17,7 +17,7 @@ constexpr double stillSeconds = 0.3;
 /// What a bar of the desktop may take of the screen, where it tells neither that nor the window's place; in points.
 constexpr int desktopBar = 48;
 
-const QString rootView = QStringLiteral("qrc:/qt/qml/Corvane/Settings/Window/EBSettingsView.qml");
+const QString rootView = QStringLiteral("qrc:/Corvane/Settings/Window/EBSettingsView.qml");
 
 bool isPlaceKnown()
 {
