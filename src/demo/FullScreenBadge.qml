@@ -17,6 +17,5 @@ ContinuousRectangle {
         size: 10
         weight: Font.DemiBold
         color: EB.onInk
-        Accessible.ignored: true
     }
 }

@@ -47,7 +47,6 @@ Row {
             text: ShortcutVocabulary.keys(chip.hotkey)
             role: "small"
             weight: Font.DemiBold
-            Accessible.ignored: true
         }
         KeyHelp {
             text: KeySymbols.spelled(keys.text)
@@ -60,6 +59,5 @@ Row {
         text: ShortcutVocabulary.name(chip.hotkey)
         role: "caption"
         color: EB.inkMuted
-        Accessible.ignored: true
     }
 }

@@ -64,7 +64,6 @@ WindowFace {
             size: fake.compact ? 10 : 11
             weight: Font.DemiBold
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
     }
 }

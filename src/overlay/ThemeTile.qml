@@ -67,7 +67,6 @@ ControlledToggle {
                 color: tile.isChosen ? EB.ink : EB.inkMuted
                 horizontalAlignment: lineCount > 1 ? Text.AlignHCenter : undefined
                 wrapMode: Text.Wrap
-                Accessible.ignored: true
             }
         }
     }

@@ -71,7 +71,6 @@ ContinuousRectangle {
             horizontalAlignment: Text.AlignLeft
             verticalAlignment: Text.AlignVCenter
             visible: field.length === 0 && field.preeditText === ""
-            Accessible.ignored: true
         }
     }
     Glyph {

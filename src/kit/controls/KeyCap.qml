@@ -22,7 +22,6 @@ ContinuousRectangle {
         text: cap.keys
         role: "small"
         weight: Font.DemiBold
-        Accessible.ignored: true
     }
     KeyHelp {
         text: KeySymbols.spelled(cap.keys)

@@ -29,7 +29,6 @@ ControlledToggle {
         weight: Font.Medium
         color: segment.isOn ? EB.ink : EB.inkMuted
         verticalAlignment: Text.AlignVCenter
-        Accessible.ignored: true
     }
 
     FocusRing {

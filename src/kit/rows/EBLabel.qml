@@ -23,6 +23,5 @@ Item {
         role: label.small ? "monoSmall" : "mono"
         color: label.tone === "onLoud" ? EBEnvironment.onLoud : label.tone === "ink" ? EB.ink : EB.inkMuted
         horizontalAlignment: Text.AlignLeft
-        Accessible.ignored: true
     }
 }

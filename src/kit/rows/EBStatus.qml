@@ -29,6 +29,5 @@ Row {
         role: "small"
         weight: Font.DemiBold
         color: status.isAllowed ? EB.ink : EB.inkMuted
-        Accessible.ignored: true
     }
 }

@@ -123,7 +123,6 @@ FocusScope {
         size: 160 * screen.k
         color: EBEnvironment.onLoud
         opacity: screen.entrance
-        Accessible.ignored: true
     }
     Column {
         id: column

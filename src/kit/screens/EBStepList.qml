@@ -56,7 +56,6 @@ Column {
                 color: step.color
                 horizontalAlignment: Text.AlignLeft
                 wrapMode: Text.Wrap
-                Accessible.ignored: true
             }
         }
     }

@@ -12,7 +12,6 @@ Pressable {
         text: button.text
         role: "small"
         opacity: 0.8
-        Accessible.ignored: true
     }
 
     FocusRing {

@@ -1,7 +1,8 @@
 import QtQuick
 import Embera.Tokens
 
-/// Text in one of the type roles: sets the role's font and tracking.
+/// Text in one of the type roles: sets the role's font and tracking. Assistive technologies hear of it only where it is
+/// given an `Accessible.role`.
 Text {
     id: text
 

@@ -86,7 +86,6 @@ ContinuousRectangle {
             role: "bodyStrong"
             wrapMode: Text.Wrap
             horizontalAlignment: Text.AlignLeft
-            Accessible.ignored: true
         }
         EBParagraph {
             id: hint
@@ -96,7 +95,6 @@ ContinuousRectangle {
                               : qsTr("Drop Corvane onto the Accessibility list.")
             color: tile.floats ? EB.ink : EB.inkMuted
             role: "caption"
-            Accessible.ignored: true
         }
     }
     Glyph {

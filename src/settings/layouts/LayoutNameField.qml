@@ -88,7 +88,6 @@ FocusScope {
         elide: Text.ElideRight
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
-        Accessible.ignored: true
     }
     EBIconButton {
         id: save

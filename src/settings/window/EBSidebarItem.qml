@@ -41,7 +41,6 @@ Pressable {
             weight: item.selected ? Font.DemiBold : Font.Medium
             color: item.selected ? EB.ink : EB.inkMuted
             text: item.title
-            Accessible.ignored: true
         }
     }
 }
