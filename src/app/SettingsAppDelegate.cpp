@@ -82,12 +82,15 @@ SettingsAppDelegate::~SettingsAppDelegate() = default;
 
 void SettingsAppDelegate::prefetch()
 {
+    if (LaunchFlags::service())
+        return;
     if (LaunchFlags::onboarding())
         GuideWindowController::prefetch(m_engine);
     else if (LaunchFlags::about())
         AboutWindow::prefetch(m_engine);
-    else if (!LaunchFlags::service())
+    else
         EBSettingsWindowController::prefetch(m_engine, SettingsPages::make(), initialPage());
+    EBWindow::prefetch(m_engine);
 }
 
 void SettingsAppDelegate::applicationDidFinishLaunching()

@@ -13,6 +13,7 @@
 
 namespace {
 
+const QString chromeView = QStringLiteral("qrc:/Embera/Window/WindowChrome.qml");
 /// How far down the strip reaches that moves the window, in points.
 constexpr int titleBarHeight = 28;
 constexpr qreal resizeDuration = 0.2; // seconds
@@ -70,10 +71,14 @@ void EBWindow::host(QQuickItem *view)
     addItem(chrome);
 }
 
+void EBWindow::prefetch(ViewEngine &engine)
+{
+    engine.prefetch(QUrl(chromeView));
+}
+
 QQuickItem *EBWindow::makeChrome(QQmlEngine *engine)
 {
-    return ViewEngine::make(*engine, QStringLiteral("qrc:/Embera/Window/WindowChrome.qml"),
-                            {{QStringLiteral("window"), QVariant::fromValue(this)}});
+    return ViewEngine::make(*engine, chromeView, {{QStringLiteral("window"), QVariant::fromValue(this)}});
 }
 
 void EBWindow::addItem(QQuickItem *item)

@@ -31,6 +31,9 @@ public:
     /// A window of the product `app`, for everything inside. `contentSize` in points; the person cannot change it.
     EBWindow(EBApp app, QSize contentSize, Style style);
 
+    /// Begins to load what every window has.
+    static void prefetch(ViewEngine &engine);
+
     /// Puts `view` into the window and keeps it as large as the window, under the title bar too. The view
     /// never drives the window's size. The window takes ownership.
     void host(QQuickItem *view);
