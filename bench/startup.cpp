@@ -83,8 +83,8 @@ void compare(const QString &figure, const char *unit, double floor, double appli
     out.flush();
 }
 
-/// Starts them in turn, and returns the median of each. What was started before a program costs it 1 to 2 %, so each
-/// round has an order of its own.
+/// Starts each as often, and returns the medians. What was started before a program costs it 1 to 2 %, so each round
+/// has an order of its own, the same in every run of the bench.
 QList<double> firstFrames(Screen &screen, const QList<Contender> &contenders)
 {
     std::vector<qsizetype> order(std::size_t(contenders.size()));

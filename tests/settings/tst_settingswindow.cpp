@@ -14,6 +14,8 @@
 
 #include <memory>
 
+using namespace std::chrono_literals;
+
 class TestSettingsWindow : public QObject {
     Q_OBJECT
 
@@ -450,11 +452,14 @@ void TestSettingsWindow::aPageIsPaintedBeforeTheOneItFollowsIsTakenDown()
     QVERIFY(first);
     std::optional<bool> wasThere;
     QEventLoop untilPainted;
-    connect(&window(), &QQuickWindow::frameSwapped, &untilPainted, [&] {
-        wasThere = first != nullptr;
-        untilPainted.quit();
+    QTimer::singleShot(0, &untilPainted, [&] {
+        m_controller->model()->setSelection("second");
+        connect(&window(), &QQuickWindow::frameSwapped, &untilPainted, [&] {
+            wasThere = first != nullptr;
+            untilPainted.quit();
+        });
     });
-    QTimer::singleShot(0, this, [this] { m_controller->model()->setSelection("second"); });
+    QTimer::singleShot(5s, &untilPainted, &QEventLoop::quit);
     untilPainted.exec();
     QCOMPARE(wasThere, true);
     QTRY_VERIFY(!first);
@@ -474,6 +479,8 @@ void TestSettingsWindow::aPageForWhichTheWindowMovesUpIsNeverTakenForOneThatScro
     m_controller->model()->setSelection("too high");
     QTRY_COMPARE(overflows.size(), 1);
     QVERIFY(view->property("overflows").toBool());
+    m_controller->model()->setSelection("low");
+    QTRY_VERIFY(!view->property("overflows").toBool());
 }
 
 CORVANE_TEST(TestSettingsWindow, runInGui)

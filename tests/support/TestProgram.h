@@ -24,8 +24,8 @@ public:
 #define CORVANE_TEST_MAIN(function) static const TestCase caseOf##function(__FILE__, &(function));
 
 /// Every warning fails the test function that runs, but those in which the platform without a screen names what it
-/// cannot do, and the one with which Qt's bus thread drops what it had for an object that is just being destroyed.
-/// Holds until the end of that function.
+/// cannot do, and the one with which Qt's bus thread drops the answer to a call whose slot's object is just being
+/// destroyed. Holds until the end of that function.
 void failOnWarnings();
 
 /// The same class without the short way to its functions: they are all called through qt_metacall().

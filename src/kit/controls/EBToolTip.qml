@@ -43,6 +43,5 @@ T.ToolTip {
         text: tip.text
         role: "caption"
         color: EB.onInk
-        Accessible.ignored: true
     }
 }

@@ -84,6 +84,7 @@ Item {
 
             anchors.verticalCenter: parent.verticalCenter
             spacing: KitMetrics.rowSpacing
+            // The one that came is the last.
             onChildrenChanged: if (children.length > 0)
                 children[children.length - 1].anchors.verticalCenter = verticalCenter
         }

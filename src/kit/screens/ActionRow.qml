@@ -10,5 +10,7 @@ Row {
     readonly property real free: Math.max(0, width - placed.reduce((taken, child) => taken + child.width + spacing, 0))
 
     spacing: 10
-    onChildrenChanged: Array.from(children).forEach(child => child.anchors.verticalCenter = verticalCenter)
+    // The one that came is the last.
+    onChildrenChanged: if (children.length > 0)
+        children[children.length - 1].anchors.verticalCenter = verticalCenter
 }

@@ -70,7 +70,7 @@ public:
 
     /// Paints what has changed before anything else that waits. Qt Quick would first let 5 ms pass, and take down what
     /// is no longer shown. Meant for a click whose answer fills the window, not for what may change more often than a
-    /// screen shows.
+    /// screen shows. A window that is not seen paints nothing.
     void paintNext();
 
 signals:

@@ -43,6 +43,6 @@ MeasuredItem {
         }
         width: parent.width - sidebar.width - 2 * 8
         model: view.model
-        scrolls: view.overflows
+        scrolls: view.overflows && page.implicitHeight > Math.ceil(view.roomHeight)
     }
 }

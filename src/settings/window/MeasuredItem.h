@@ -13,8 +13,8 @@ class MeasuredItem : public QQuickItem {
     Q_PROPERTY(QSizeF contentSize READ contentSize WRITE setContentSize NOTIFY contentSizeChanged)
     /// How high the window can become where it stands, in points.
     Q_PROPERTY(qreal roomHeight READ roomHeight WRITE setRoomHeight NOTIFY roomHeightChanged)
-    /// Whether the content must scroll. It is told once the window has had a chance to make room, or what scrolls would
-    /// be made for every page that only lets the window move up.
+    /// Whether the content is higher. It changes only after the window has had a chance to make room: a page for which
+    /// the window merely moves up is not to get a scroll bar first.
     Q_PROPERTY(bool overflows READ overflows NOTIFY overflowsChanged)
 public:
     explicit MeasuredItem(QQuickItem *parent = nullptr);
